@@ -1,0 +1,59 @@
+#include "core/arrangement.h"
+
+namespace kelvora {
+namespace {
+
+void CloseAllWindows(Program& program) {
+  for (std::size_t i = 0; i < kWindowCount; ++i) {
+    WindowView* const window = program.windows.Find(static_cast<WindowId>(i));
+    if (window != nullptr) window->CloseWindow();
+  }
+}
+
+void Open(Program& program, std::initializer_list<WindowId> ids) {
+  if (program.windows.core == nullptr) return;
+  for (const WindowId id : ids) program.windows.core->OpenWindow(id);
+}
+
+}  // namespace
+
+void ComputeDefaultGeometry(Program& program) {
+  if (program.windows.core == nullptr) return;
+  program.windows.geometry = DefaultGeometry(program.windows.core->Size());
+}
+
+void ShowDefaultScreens(Program& program) {
+  ResetScreens(program);
+  Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists});
+}
+
+void ShowScreensWithSummary(Program& program) {
+  CloseAllWindows(program);
+  if (program.windows.core == nullptr) return;
+  program.windows.geometry = GeometryWithSummary(program.windows.core->Size());
+  Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists,
+                 WindowId::day_summary});
+}
+
+void ApplyChosenArrangement(Program& program) {
+  if (program.settings[Setting::chk_all_screens] == "1") {
+    ShowScreensWithSummary(program);
+  } else {
+    ShowDefaultScreens(program);
+  }
+}
+
+void ResetScreens(Program& program) {
+  CloseAllWindows(program);
+  ComputeDefaultGeometry(program);
+}
+
+void ToggleWindow(Program& program, WindowId id) {
+  if (WindowView* const window = program.windows.Find(id)) {
+    window->CloseWindow();
+  } else if (program.windows.core != nullptr) {
+    program.windows.core->OpenWindow(id);
+  }
+}
+
+}  // namespace kelvora

@@ -1,0 +1,42 @@
+// The area of the child windows: a quiet background with the program's mark, and frames that keep
+// their place in the geometry records.
+#pragma once
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPixmap>
+
+#include "core/geometry.h"
+
+namespace kelvora {
+
+class ChildArea : public QMdiArea {
+  Q_OBJECT
+
+ public:
+  explicit ChildArea(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QPixmap mark_;
+};
+
+// The frame around one child window. Goes to its record when it opens and writes it back when it
+// closes; `record` outlives it.
+class ChildFrame : public QMdiSubWindow {
+  Q_OBJECT
+
+ public:
+  ChildFrame(QWidget* content, WindowRecord& record);
+  void MoveToRecord();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  WindowRecord& record_;
+};
+
+}  // namespace kelvora

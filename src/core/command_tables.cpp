@@ -1,0 +1,135 @@
+// The menu and the toolbars of the main window, row by row.
+#include <array>
+
+#include "core/commands.h"
+#include "language/main_texts.h"
+
+namespace kelvora {
+namespace {
+
+using namespace main_text;
+using enum MenuKind;
+
+constexpr MenuRow kEnd{end_of_menu, ""};
+
+constexpr std::array kMenu = {
+    MenuRow{menu, "mnu_bestand", kFile},
+    MenuRow{item, "mnu_startupwizzard", kWizard, Command::mnu_startupwizzard, "wizard"},
+    MenuRow{separator, "mnu_bar_10"},
+    MenuRow{item, "mnu_new", kNewFile, Command::mnu_new, "new", "Ctrl+N"},
+    MenuRow{item, "mnu_browse", kOpenFile, Command::mnu_browse, "open", "Ctrl+O"},
+    MenuRow{item, "mnu_bestand_opslaan", kSaveFile, Command::mnu_bestand_opslaan, "save", "Ctrl+S"},
+    MenuRow{separator, "mnu_bar_11"},
+    MenuRow{sub_menu, "mnu_exporteer", kExportTo, Command::none, "export"},
+    MenuRow{item, "mnu_exporteer_html", kExportHtml, Command::mnu_exporteer_html, "export-html"},
+    MenuRow{item, "mnu_exporteer_xml", kExportXml, Command::mnu_exporteer_xml, "export-xml"},
+    MenuRow{item, "mnu_exporteer_dta", kExportDta, Command::mnu_exporteer_dta, "export-dta"},
+    kEnd,
+    MenuRow{separator, "mnu_bar_12"},
+    MenuRow{item, "mnu_properties", kKelvoraSettings, Command::mnu_properties, "settings"},
+    MenuRow{item, "mnu_file_properties", kProfileSettings, Command::mnu_file_properties, "profile"},
+    MenuRow{separator, "mnu_bar_13"},
+    MenuRow{sub_menu, "mnu_printen", kPrint, Command::none, "print"},
+    MenuRow{item, "mnu_print_dag", kPrintDay, Command::mnu_print_dag, "print-day", "Ctrl+P"},
+    MenuRow{item, "mnu_print_reis", kPrintTravelForm, Command::mnu_print_reis, "print-travel"},
+    kEnd,
+    MenuRow{item, "mnu_bestand_sluiten", kClose, Command::mnu_bestand_sluiten, "close", "Ctrl+Q"},
+    kEnd,
+
+    MenuRow{menu, "mnu_consumpties", kConsumptionScreens},
+    MenuRow{item, "mnu_in_ochtend", kMorningConsumptions, Command::mnu_in_ochtend, "morning"},
+    MenuRow{item, "mnu_in_middag", kAfternoonConsumptions, Command::mnu_in_middag, "afternoon"},
+    MenuRow{item, "mnu_in_avond", kEveningConsumptions, Command::mnu_in_avond, "evening"},
+    MenuRow{separator, "mnu_bar_20"},
+    MenuRow{item, "mnu_in_notities", kTodaysDiary, Command::mnu_in_notities, "diary"},
+    kEnd,
+
+    MenuRow{menu, "mnu_opties", kOptions},
+    MenuRow{item, "mnu_item_info", kFoodItemDetails, Command::mnu_item_info, "item-info"},
+    MenuRow{item, "mnu_item_voegtoe", kAddFoodItem, Command::mnu_item_voegtoe, "item-add"},
+    MenuRow{item, "mnu_item_del", kRemoveFoodItem, Command::mnu_item_del, "item-delete"},
+    MenuRow{separator, "mnu_bar_30"},
+    MenuRow{item, "mnu_item_favo", kAddToFavourites, Command::mnu_item_favo, "item-favourite"},
+    kEnd,
+
+    MenuRow{menu, "mnu_resultaten", kStatistics},
+    MenuRow{item, "mnu_uit_daguittreksel", kSummaryOfDay, Command::mnu_uit_daguittreksel,
+            "summary"},
+    MenuRow{item, "mnu_uit_meerdaagsuittreksel", kTrend, Command::mnu_uit_meerdaagsuittreksel,
+            "trend"},
+    kEnd,
+
+    MenuRow{menu, "mnu_tabellen", kTables},
+    MenuRow{item, "mnu_voedingswaarde_tabel", kFoodItems, Command::mnu_voedingswaarde_tabel,
+            "foods"},
+    kEnd,
+
+    MenuRow{menu, "mnu_extra", kExtra},
+    MenuRow{item, "mnu_weegschaal", kFoodComparison, Command::mnu_weegschaal, "compare"},
+    MenuRow{item, "mnu_website_Etenlijn", kServiceName, Command::mnu_website_Etenlijn,
+            "food-server"},
+    MenuRow{separator, "mnu_bar_60"},
+    MenuRow{item, "mnu_reset_taal", kRepairLanguageFiles, Command::mnu_reset_taal,
+            "repair-language"},
+    MenuRow{separator, "mnu_bar_61"},
+    MenuRow{item, "mnu_diagnose", kDiagnose, Command::mnu_diagnose, "diagnose"},
+    kEnd,
+
+    MenuRow{menu, "mnu_informatie", kInformation},
+    MenuRow{item, "mnu_help_index", kHelpIndex, Command::mnu_help_index, "help", "F1"},
+    MenuRow{item, "mnu_about", kAbout, Command::mnu_about, "about"},
+    MenuRow{separator, "mnu_bar_70"},
+    MenuRow{item, "mnu_website", kWebsite, Command::mnu_website, "website"},
+    MenuRow{item, "mnu_check_updates", kInternetUpdates, Command::mnu_check_updates, "update"},
+    kEnd,
+};
+
+constexpr std::array kToolbar = {
+    ButtonRow{2, kCaptionNew, kTipNew, Command::mnu_new, "new"},
+    ButtonRow{3, kCaptionOpen, kTipOpen, Command::mnu_browse, "open"},
+    ButtonRow{4, kCaptionSave, kTipSave, Command::mnu_bestand_opslaan, "save"},
+    ButtonRow{5, kCaptionPrint, kTipPrint, Command::print_drop_down, "print"},
+    ButtonRow{7, kCaptionProfile, kTipProfile, Command::mnu_file_properties, "profile"},
+    ButtonRow{8, kCaptionFoods, kTipFoods, Command::mnu_voedingswaarde_tabel, "foods"},
+    ButtonRow{10, kCaptionConsumptions, kTipConsumptions, Command::consumptions_drop_down,
+              "consumptions"},
+    ButtonRow{11, kCaptionDiary, kTipDiary, Command::mnu_in_notities, "diary"},
+    ButtonRow{13, kCaptionSummary, kTipSummary, Command::mnu_uit_daguittreksel, "summary"},
+    ButtonRow{14, kCaptionTrend, kTipTrend, Command::mnu_uit_meerdaagsuittreksel, "trend"},
+    ButtonRow{15, kCaptionReport, kTipReport, Command::mnu_exporteer_html, "report"},
+    ButtonRow{16, kCaptionCompare, kTipCompare, Command::mnu_weegschaal, "compare"},
+    ButtonRow{18, kCaptionSettings, kTipSettings, Command::mnu_properties, "settings"},
+    ButtonRow{19, kCaptionBrelux, kTipBrelux, Command::mnu_about, "about"},
+    ButtonRow{20, kCaptionUpdate, kTipUpdate, Command::mnu_check_updates, "update"},
+    ButtonRow{22, kCaptionHelp, kTipHelp, Command::mnu_help_index, "help"},
+};
+
+constexpr std::array kQuickToolbar = {
+    ButtonRow{2, kQuickDefault, kTipQuickDefault, Command::quick_default, "screens-default"},
+    ButtonRow{3, kQuickAll, kTipQuickAll, Command::quick_all, "screens-all"},
+    ButtonRow{5, kQuickReset, std::nullopt, Command::quick_reset, "screens-reset"},
+};
+
+constexpr std::array kPrintCommands = {Command::mnu_print_dag, Command::mnu_print_reis};
+constexpr std::array kConsumptionCommands = {Command::mnu_in_ochtend, Command::mnu_in_middag,
+                                             Command::mnu_in_avond};
+
+}  // namespace
+
+std::span<const MenuRow> MainMenu() {
+  return kMenu;
+}
+std::span<const ButtonRow> MenuToolbar() {
+  return kToolbar;
+}
+std::span<const ButtonRow> QuickToolbar() {
+  return kQuickToolbar;
+}
+
+std::span<const Command> CommandsOfDropDown(Command drop_down) {
+  if (drop_down == Command::print_drop_down) return kPrintCommands;
+  if (drop_down == Command::consumptions_drop_down) return kConsumptionCommands;
+  return {};
+}
+
+}  // namespace kelvora

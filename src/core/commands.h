@@ -1,0 +1,100 @@
+// The commands of the main window: the menu and the toolbars as tables, when each command is
+// enabled, and what each does. The main window draws the tables and passes clicks on.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "core/program.h"
+
+namespace kelvora {
+
+// Named after the menu items; the last ones have a toolbar button only.
+enum class Command {
+  none,
+  mnu_startupwizzard,
+  mnu_new,
+  mnu_browse,
+  mnu_bestand_opslaan,
+  mnu_exporteer_html,
+  mnu_exporteer_xml,
+  mnu_exporteer_dta,
+  mnu_properties,
+  mnu_file_properties,
+  mnu_print_dag,
+  mnu_print_reis,
+  mnu_bestand_sluiten,
+  mnu_in_ochtend,
+  mnu_in_middag,
+  mnu_in_avond,
+  mnu_in_notities,
+  mnu_item_info,
+  mnu_item_voegtoe,
+  mnu_item_del,
+  mnu_item_favo,
+  mnu_uit_daguittreksel,
+  mnu_uit_meerdaagsuittreksel,
+  mnu_voedingswaarde_tabel,
+  mnu_weegschaal,
+  mnu_website_Etenlijn,
+  mnu_reset_taal,
+  mnu_diagnose,
+  mnu_help_index,
+  mnu_about,
+  mnu_website,
+  mnu_check_updates,
+  print_drop_down,
+  consumptions_drop_down,
+  quick_default,
+  quick_all,
+  quick_reset,
+};
+
+enum class MenuKind { menu, sub_menu, end_of_menu, item, separator };
+
+// One row of the menu, in order; a menu reaches to its end_of_menu row.
+struct MenuRow {
+  MenuKind kind;
+  std::string_view name;
+  TextId caption{};
+  Command command = Command::none;
+  std::string_view icon{};
+  std::string_view shortcut{};  // in portable form, "Ctrl+S"
+};
+
+// One button of a toolbar; indexes that have no row are separators.
+struct ButtonRow {
+  int index;
+  TextId caption;
+  std::optional<TextId> tip;
+  Command command;
+  std::string_view icon;
+};
+
+[[nodiscard]] std::span<const MenuRow> MainMenu();
+[[nodiscard]] std::span<const ButtonRow> MenuToolbar();   // menu_toolbar
+[[nodiscard]] std::span<const ButtonRow> QuickToolbar();  // Toolbar_quickscreens
+[[nodiscard]] std::span<const Command> CommandsOfDropDown(Command drop_down);
+
+// True if the command can be given now: its window exists in this program, and user, day and
+// FileChanged allow it.
+[[nodiscard]] bool CommandEnabled(const Program& program, Command command);
+[[nodiscard]] bool MenuEnabled(const Program& program, std::string_view name);
+
+// True if the command opens a closed window and closes an open one.
+[[nodiscard]] bool IsToggle(Command command);
+
+// True while a button stays down because a window of its command is open.
+[[nodiscard]] bool CommandIsDown(const Program& program, Command command);
+
+// Gives the command. mnu_bestand_sluiten is the main window's own.
+void RunCommand(Program& program, Command command);
+
+// True if the program may end now: nothing is unsaved, or the user says so.
+[[nodiscard]] bool MayEndProgram(Program& program);
+
+// The texts of the first two panels of the main status bar.
+[[nodiscard]] Text ProgramPanelText();
+[[nodiscard]] Text UserPanelText(const Program& program);
+
+}  // namespace kelvora

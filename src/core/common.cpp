@@ -1,0 +1,58 @@
+#include "core/common.h"
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+namespace kelvora {
+namespace {
+
+constexpr std::array<std::string_view, 3> kRoutingCodes = {"1", "2", "3"};
+
+constexpr std::array kPriorityFields = {FoodField::kKj,   FoodField::kKcal,  FoodField::kFatU,
+                                        FoodField::kFatS, FoodField::kCarbs, FoodField::kProtein};
+
+TextList* ListOfRoutingCode(KV_data& store, std::string_view code) {
+  for (const DayPart part : kDayParts) {
+    if (RoutingCodeOf(part) == code) return &store.ListOf(part);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Priority PriorityOf(std::string_view code) {
+  const bool known = code.size() == 1 && code[0] >= '0' && code[0] <= '5';
+  return known ? static_cast<Priority>(code[0] - '0') : Priority::kj;
+}
+
+std::size_t FoodFieldOf(Priority priority) {
+  return kPriorityFields[static_cast<std::size_t>(priority)];
+}
+
+std::string_view RoutingCodeOf(DayPart part) {
+  return kRoutingCodes[static_cast<std::size_t>(part)];
+}
+
+void MoveConsumption(KV_data& store, std::string_view source, std::string_view key,
+                     std::string_view target) {
+  TextList* const from = ListOfRoutingCode(store, source);
+  if (from == nullptr) return;
+  const auto found = from->FindLast(key);
+  if (!found) return;
+  const Text line((*from)[*found]);
+  if (TextList* const to = ListOfRoutingCode(store, target)) to->Add(line);
+  // The line goes from where it stood: an addition to the same list came behind it.
+  from->Remove(*found);
+}
+
+bool FileExists(const std::string& path) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(path, ignored)) return false;
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                             &std::fclose);
+  return file != nullptr;
+}
+
+}  // namespace kelvora

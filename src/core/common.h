@@ -1,0 +1,42 @@
+// What several rooms need and none owns: the program's constants and a few helpers of its store
+// and files.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/store.h"
+
+namespace kelvora {
+
+inline constexpr std::string_view kAppTitle = "Kelvora FOOD";
+inline constexpr std::string_view kVersionText = "2.24";
+
+// A day-part list holding more lines than this takes no more. Meant: a list of exactly this many
+// still accepts one addition.
+inline constexpr std::size_t kMaxDayPartLines = 50;
+
+// A nutrient by the code of `type_prioriteit`: the one extra column of every food list.
+enum class Priority { kj, kcal, fat_u, fat_s, carbs, protein };
+
+// The nutrient of a stored code "0" to "5"; any other text reads as kj.
+[[nodiscard]] Priority PriorityOf(std::string_view code);
+
+// The field of a food line that holds the nutrient.
+[[nodiscard]] std::size_t FoodFieldOf(Priority priority);
+
+// The routing code of a day part: "1", "2" or "3".
+[[nodiscard]] std::string_view RoutingCodeOf(DayPart part);
+
+// The target code that means: delete.
+inline constexpr std::string_view kDeleteTarget = "0";
+
+// Moves the last line of the source day part that begins with `key` to the end of the target, or
+// drops it when the target is kDeleteTarget. At most one line; an unknown source moves nothing.
+void MoveConsumption(KV_data& store, std::string_view source, std::string_view key,
+                     std::string_view target);
+
+// True if `path` can be opened for reading. A folder is no file.
+[[nodiscard]] bool FileExists(const std::string& path);
+
+}  // namespace kelvora

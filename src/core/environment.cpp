@@ -1,0 +1,49 @@
+#include "core/environment.h"
+
+#include "language/common_texts.h"
+
+namespace kelvora {
+
+using namespace common_text;
+
+void CheckScreenResolution(Program& program) {
+  constexpr int kLeastWidth = 1024;
+  const ScreenSize size = program.platform.screen.Size();
+  if (size.width >= kLeastWidth) return;
+  const TextTables& texts = program.texts;
+  const Text text =
+      texts[kResolutionIs] + " " + std::to_string(size.width) + "x" + std::to_string(size.height) +
+      "\n" +
+      JoinLines(texts, {kResolutionAdvice, std::nullopt, kResolutionChange, kResolutionWhere});
+  program.platform.boxes.Show({.title = "Warning #F4-7", .text = text, .icon = BoxIcon::error});
+}
+
+void CheckDecimal(Program& program) {
+  if (program.platform.locale.DecimalSeparator() == program.StartSeparator) return;
+  const TextTables& texts = program.texts;
+  Tell(program, BoxIcon::error,
+       texts[kSeparatorChanged] + "\n" + texts[kSeparatorAtStart] + " " + program.StartSeparator +
+           "\n\n" + JoinLines(texts, {kCannotContinue, kDoNotSave, kCloseAndStart}));
+}
+
+void CheckSeparatorIsValid(Program& program) {
+  const Text separator = program.platform.locale.DecimalSeparator();
+  if (separator == "," || separator == ".") return;
+  const TextTables& texts = program.texts;
+  Tell(program, BoxIcon::error,
+       texts[kSeparatorIs] + " " + separator + "\n" +
+           JoinLines(texts, {kCannotContinue, std::nullopt, kSeparatorMustBe, kCannotUse}));
+}
+
+void CheckHalfCharacter(Program& program) {
+  constexpr std::string_view kTerminators = "½¾"_w;
+  program.store.txt_testdata = kTerminators;
+  if (program.store.txt_testdata == kTerminators) return;
+  const TextTables& texts = program.texts;
+  program.platform.boxes.Show({.title = texts[kHalfClose],
+                               .text = JoinLines(texts, {kHalfNotDisplayed, kHalfNeeded,
+                                                         kHalfErrors, std::nullopt, kHalfClose}),
+                               .icon = BoxIcon::error});
+}
+
+}  // namespace kelvora

@@ -1,0 +1,20 @@
+// Checks of the machine that the program runs on. Each warns and none stops anything.
+#pragma once
+
+#include "core/program.h"
+
+namespace kelvora {
+
+// Warns below a screen width of 1024 pixels; the height never matters.
+void CheckScreenResolution(Program& program);
+
+// Warns if the locale's decimal separator is no longer the one of the start.
+void CheckDecimal(Program& program);
+
+// Warns if the decimal separator is neither "," nor ".".
+void CheckSeparatorIsValid(Program& program);
+
+// Warns if the two terminators do not survive a text cell of the store.
+void CheckHalfCharacter(Program& program);
+
+}  // namespace kelvora

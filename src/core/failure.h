@@ -1,0 +1,40 @@
+// The one failure path of the program.
+//
+// A routine's body runs inside WithFailurePath together with that routine's own code. Whatever
+// escapes the body is shown in a box with the code, and the routine then returns as if done:
+// nothing is rolled back and no caller is told. Below that line code throws standard exceptions.
+#pragma once
+
+#include <exception>
+#include <string_view>
+#include <utility>
+
+#include "platform/boxes.h"
+
+namespace kelvora {
+
+// What a failure box needs: where to show it and the first line in the language of the moment.
+struct FailureBox {
+  Boxes& boxes;
+  const Text& opening_line;
+};
+
+// Shows the box: the opening line, an empty line, the system's words, and the code.
+void ReportFailure(const FailureBox& box, std::string_view code, std::string_view description);
+
+// The system's own words for an escaped exception.
+[[nodiscard]] Text DescribeFailure(const std::exception& failure);
+
+// Runs `body`; true if it came to its end.
+template <class Body>
+bool WithFailurePath(const FailureBox& box, std::string_view code, Body&& body) {
+  try {
+    std::forward<Body>(body)();
+    return true;
+  } catch (const std::exception& failure) {
+    ReportFailure(box, code, DescribeFailure(failure));
+    return false;
+  }
+}
+
+}  // namespace kelvora

@@ -1,0 +1,71 @@
+// KV_Core, the frame of the program: menu, toolbars, status bar and the area of the child windows.
+// It shows no data itself; commands.h says what its commands are and geometry.h where windows go.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QAction>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QToolBar>
+
+#include "core/commands.h"
+#include "core/views.h"
+
+class QMdiSubWindow;
+
+namespace kelvora {
+
+class MainWindow : public QMainWindow, public CoreView {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Program& program);
+  ~MainWindow() override;
+
+  void Set_Taal() override;
+  void Set_toolbar_teksten() override;
+  void ShowMainWindow() override;
+  void BringToFront() override;
+  void UpdateStatusBar() override;
+  void UpdateCommands() override;
+  [[nodiscard]] MainWindowSize Size() const override;
+  void OpenWindow(WindowId id) override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  struct CommandAction {
+    QAction* action;
+    Command command;
+    TextId caption;
+    std::optional<TextId> tip;
+  };
+  struct MenuEntry {
+    QMenu* menu;
+    TextId caption;
+    std::string_view name;
+  };
+
+  void BuildMenu();
+  QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
+  void AddDropDown(QToolBar* bar, QAction* action, Command drop_down);
+  void BuildStatusBar();
+  void Give(Command command);
+  void OpenConsumption(DayPart part, const char* icon);
+  void OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum = {0, 0});
+
+  Program& program_;
+  QMdiArea* area_;
+  std::vector<MenuEntry> menus_;
+  std::vector<CommandAction> menu_actions_;
+  std::vector<CommandAction> button_actions_;
+  QToolBar* menu_toolbar_;
+  QToolBar* Toolbar_quickscreens_;
+  std::array<QLabel*, 4> panels_;
+};
+
+}  // namespace kelvora

@@ -1,0 +1,41 @@
+#include "core/program.h"
+
+#include "core/common.h"
+#include "language/message_texts.h"
+
+namespace kelvora {
+
+FailureBox Program::FailurePath() {
+  return {platform.boxes, texts[message_text::kErrorOccurred]};
+}
+
+void SetFileChanged(Program& program, bool changed) {
+  program.day.FileChanged = changed;
+  if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
+}
+
+std::string UserFolder(const Paths& paths, std::string_view name) {
+  return paths.UsersPath + Utf8FromText(name) + "/";
+}
+
+void SetCurrentUser(Program& program, std::string_view name) {
+  program.paths.UserName = name;
+  program.paths.FilesPath = UserFolder(program.paths, name) + "Files/";
+}
+
+Text JoinLines(const TextTables& texts, std::initializer_list<std::optional<TextId>> lines) {
+  Text joined;
+  bool first = true;
+  for (const auto& line : lines) {
+    if (!first) joined += '\n';
+    if (line) joined += texts[*line];
+    first = false;
+  }
+  return joined;
+}
+
+void Tell(Program& program, BoxIcon icon, Text text) {
+  program.platform.boxes.Show({.title = Text(kAppTitle), .text = std::move(text), .icon = icon});
+}
+
+}  // namespace kelvora

@@ -1,0 +1,88 @@
+// The process-wide state: one Program, made in main and once in every test, passed by reference.
+// There are no other globals. Routines take what they need, and Program only where they act on the
+// whole.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "core/failure.h"
+#include "core/records.h"
+#include "core/store.h"
+#include "core/views.h"
+#include "language/tables.h"
+#include "platform/platform.h"
+
+namespace kelvora {
+
+// Where files lie: UTF-8 paths; each that names a folder ends in "/".
+struct Paths {
+  Text UserName;  // the current user; empty until one is chosen
+  std::string UsersPath;
+  std::string FilesPath;  // the day files of the current user
+  std::string LanguagePath;
+  std::string ReportsPath;
+  std::string ProgramPath;
+  std::string SettingsFile;
+};
+
+enum class DayDialogMode { new_day, day_settings };
+
+struct DayState {
+  bool FileChanged = false;
+  kelvora::DayDialogMode DayDialogMode = kelvora::DayDialogMode::new_day;
+  // The Product of the row last clicked or changed in each consumption window.
+  std::array<Text, 3> selected_names;
+  // Routing code of the consumption window in which the running drag began.
+  Text drag_source;
+};
+
+// What the previous read of a file kind left; a file with no record falls back on it.
+struct LastRead {
+  std::optional<Rec_DayFile> day;
+  std::optional<Rec_Settings> settings;
+  std::optional<Rec_Profile> profile;
+};
+
+struct Program {
+  explicit Program(Platform& outside) : platform(outside) {}
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  KV_data store;
+  Rec_Settings settings;
+  Rec_Profile profile;
+  TextTables texts;
+  Paths paths;
+  DayState day;
+  OpenWindows windows;
+  LastRead last_read;
+  Text StartSeparator;  // the decimal separator that the locale had at start
+  Platform& platform;
+
+  // Runs a routine's body under its own failure code.
+  template <class Body>
+  bool Guard(std::string_view code, Body&& body) {
+    return WithFailurePath(FailurePath(), code, std::forward<Body>(body));
+  }
+  [[nodiscard]] FailureBox FailurePath();
+};
+
+// Sets the unsaved-changes flag and, with it, the Save button.
+void SetFileChanged(Program& program, bool changed);
+
+// Makes `name` the current user: name and folder of the day files.
+void SetCurrentUser(Program& program, std::string_view name);
+
+// The folder of one user, with its closing "/".
+[[nodiscard]] std::string UserFolder(const Paths& paths, std::string_view name);
+
+// The texts of the tables joined as the lines of one box; an empty id gives an empty line.
+[[nodiscard]] Text JoinLines(const TextTables& texts,
+                             std::initializer_list<std::optional<TextId>> lines);
+
+// Shows a box with the program's title and an OK button.
+void Tell(Program& program, BoxIcon icon, Text text);
+
+}  // namespace kelvora

@@ -1,0 +1,57 @@
+#include "core/views.h"
+
+namespace kelvora {
+
+WindowView* OpenWindows::Find(WindowId id) const {
+  switch (id) {
+    case WindowId::lists:
+      return lists;
+    case WindowId::day_settings:
+      return day_settings;
+    case WindowId::browser:
+      return browser;
+    case WindowId::morning:
+      return consumption[0];
+    case WindowId::afternoon:
+      return consumption[1];
+    case WindowId::evening:
+      return consumption[2];
+    case WindowId::wizard:
+    case WindowId::day_summary:
+    case WindowId::food_details:
+    case WindowId::multi_day:
+    case WindowId::diary:
+    case WindowId::comparison:
+      break;
+  }
+  return nullptr;
+}
+
+WindowRecord* OpenWindows::RecordOf(WindowId id) {
+  switch (id) {
+    case WindowId::lists:
+      return &geometry.lists;
+    case WindowId::day_summary:
+      return &geometry.day_summary;
+    case WindowId::multi_day:
+      return &geometry.multi_day;
+    case WindowId::diary:
+      return &geometry.diary;
+    case WindowId::morning:
+      return &geometry.morning;
+    case WindowId::afternoon:
+      return &geometry.afternoon;
+    case WindowId::evening:
+      return &geometry.evening;
+    case WindowId::comparison:
+      return &geometry.comparison;
+    case WindowId::wizard:
+    case WindowId::day_settings:
+    case WindowId::browser:
+    case WindowId::food_details:
+      break;
+  }
+  return nullptr;
+}
+
+}  // namespace kelvora

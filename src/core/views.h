@@ -1,0 +1,100 @@
+// How the logic reaches open windows. A window implements its view and sets the pointer to itself
+// in OpenWindows while it is open: the pointer is the open flag. A view draws what it is given; it
+// decides nothing.
+#pragma once
+
+#include <array>
+
+#include "core/geometry.h"
+#include "core/store.h"
+
+namespace kelvora {
+
+// Every window besides the main one, in the order in which an arrangement closes them.
+enum class WindowId {
+  wizard,
+  day_settings,
+  browser,
+  day_summary,
+  food_details,
+  lists,
+  multi_day,
+  diary,
+  morning,
+  afternoon,
+  evening,
+  comparison,
+};
+inline constexpr std::size_t kWindowCount = 12;
+
+[[nodiscard]] constexpr WindowId WindowOf(DayPart part) {
+  return static_cast<WindowId>(static_cast<int>(WindowId::morning) + static_cast<int>(part));
+}
+
+struct WindowView {
+  virtual ~WindowView() = default;
+  virtual void CloseWindow() = 0;
+  // Assigns every caption from the text tables.
+  virtual void Set_Taal() = 0;
+};
+
+// The period totals of one consumption window, ready to be shown.
+struct ConsumptionTotals {
+  std::array<Text, 7> lbl_nfo;  // lbl_nfo_1 to lbl_nfo_7
+  std::array<Text, 8> var;      // the same values without words
+  Text status;                  // second panel of the status bar
+};
+
+struct ConsumptionView : WindowView {
+  // Rebuilds the list from the store.
+  virtual void Refresh_Consumpties() = 0;
+  virtual void ShowTotals(const ConsumptionTotals& totals) = 0;
+};
+
+struct FoodListsView : WindowView {
+  virtual void Populate_Food_List_Custom() = 0;
+  virtual void Populate_Food_List_Favo() = 0;
+};
+
+struct BrowserView : WindowView {
+  virtual void Refresh_GebruikersLijst() = 0;
+  virtual void Refresh_Files() = 0;
+};
+
+// The main window.
+struct CoreView {
+  virtual ~CoreView() = default;
+  virtual void Set_Taal() = 0;
+  virtual void Set_toolbar_teksten() = 0;
+  virtual void ShowMainWindow() = 0;
+  virtual void BringToFront() = 0;
+  virtual void UpdateStatusBar() = 0;
+  // Brings menus and toolbars in step with user, day and FileChanged.
+  virtual void UpdateCommands() = 0;
+  [[nodiscard]] virtual MainWindowSize Size() const = 0;
+  // Opens a window at its record; a dialog is shown modally and this returns when it is gone. A
+  // window that the program does not have yet stays closed.
+  virtual void OpenWindow(WindowId id) = 0;
+};
+
+struct OpenWindows {
+  CoreView* core = nullptr;
+  FoodListsView* lists = nullptr;
+  std::array<ConsumptionView*, 3> consumption{};
+  WindowView* day_settings = nullptr;
+  BrowserView* browser = nullptr;
+  GeometryRecords geometry;
+  // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
+  std::array<bool, 3> totals_shown{};
+
+  [[nodiscard]] ConsumptionView*& Consumption(DayPart part) {
+    return consumption[static_cast<std::size_t>(part)];
+  }
+  // The open window of that kind; null while it is closed.
+  [[nodiscard]] WindowView* Find(WindowId id) const;
+  // Where a child window goes when it opens, and what it writes back when it closes; null for a
+  // dialog, which has no record.
+  [[nodiscard]] WindowRecord* RecordOf(WindowId id);
+};
+
+}  // namespace kelvora

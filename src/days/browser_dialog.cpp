@@ -1,0 +1,276 @@
+#include "days/browser_dialog.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "days/day_dialogs.h"
+#include "language/browse_texts.h"
+#include "platform/qt/look.h"
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+using namespace browse_text;
+
+constexpr int kUsersWidth = 180;
+constexpr int kInitialWidth = 820;
+constexpr int kInitialHeight = 520;
+
+// The shares of the columns in the width of the list; the path and the file name are never seen.
+constexpr std::array<double, BrowseColumn::kCount> kShares = {0.08, 0,    0,    0.2,
+                                                              0.22, 0.17, 0.15, 0.18};
+
+constexpr std::array kPaneCaptions = {kReference, kLastWeight, kGoalWeight, kHeight, kGender, kAge};
+
+QLabel* NewLabel(QWidget* parent, const QString& name) {
+  auto* const label = new QLabel(parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+}  // namespace
+
+BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
+    : QDialog(parent), program_(program) {
+  NameWidget(this, "KV_browsefiles");
+  program_.windows.browser = this;
+  if (WindowView* const wizard = program_.windows.Find(WindowId::wizard)) wizard->CloseWindow();
+
+  auto* const lists = new QHBoxLayout;
+  lists->setSpacing(12);
+  lists->addWidget(BuildUsers());
+  lists->addWidget(BuildDays(), 1);
+
+  chk_profiel_ = new QCheckBox(this);
+  NameWidget(chk_profiel_, "chk_profiel");
+  chk_profiel_->setChecked(ProfilePaneShown(program_));
+  profile_pane_->setVisible(chk_profiel_->isChecked());
+  cmd_openen_ = new QPushButton(this);
+  NameWidget(cmd_openen_, "cmd_openen");
+  cmd_openen_->setDefault(true);
+  cmd_openen_->setEnabled(false);
+  cmd_annuleer_ = new QPushButton(this);
+  NameWidget(cmd_annuleer_, "cmd_annuleer");
+  cmd_annuleer_->setAutoDefault(false);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(chk_profiel_);
+  buttons->addStretch();
+  buttons->addWidget(cmd_openen_);
+  buttons->addWidget(cmd_annuleer_);
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->addLayout(lists, 1);
+  layout->addLayout(buttons);
+  resize(kInitialWidth, kInitialHeight);
+
+  connect(chk_profiel_, &QCheckBox::clicked, this, [this](bool shown) {
+    SetProfilePaneShown(program_, shown);
+    profile_pane_->setVisible(shown);
+  });
+  // Enter in the list presses this button too: it is the default one.
+  connect(cmd_openen_, &QPushButton::clicked, this, &BrowserDialog::OpenSelectedDay);
+  connect(cmd_annuleer_, &QPushButton::clicked, this, &BrowserDialog::CloseWindow);
+  Set_Taal();
+}
+
+BrowserDialog::~BrowserDialog() {
+  ClearOpenFlag();
+}
+
+QWidget* BrowserDialog::BuildUsers() {
+  auto* const side = new QWidget(this);
+  lbl_users_ = NewLabel(side, "lbl_users");
+  lst_users_ = new QListWidget(side);
+  NameWidget(lst_users_, "lst_users");
+  lst_users_->setFixedWidth(kUsersWidth);
+  lbl_users_->setBuddy(lst_users_);
+  connect(lst_users_, &QListWidget::itemSelectionChanged, this, &BrowserDialog::ChooseSelectedUser);
+  auto* const layout = new QVBoxLayout(side);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(lbl_users_);
+  layout->addWidget(lst_users_, 1);
+  return side;
+}
+
+QWidget* BrowserDialog::BuildDays() {
+  auto* const side = new QWidget(this);
+  lbl_days_ = NewLabel(side, "lbl_days");
+  LV_browse_files_ = new QTableView(side);
+  NameWidget(LV_browse_files_, "LV_browse_files");
+  lbl_days_->setBuddy(LV_browse_files_);
+  QTableView& list = *LV_browse_files_;
+  model_.SetRowIcon(static_cast<int>(BrowseColumn::kDate), IconNamed("day-row"));
+  list.setModel(&model_);
+  list.setSelectionBehavior(QAbstractItemView::SelectRows);
+  list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+  list.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  list.setAlternatingRowColors(true);
+  list.setShowGrid(false);
+  list.setWordWrap(false);
+  list.setCornerButtonEnabled(false);
+  list.setTabKeyNavigation(false);
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.verticalHeader()->hide();
+  list.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  list.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  list.horizontalHeader()->setHighlightSections(false);
+  list.horizontalHeader()->setMinimumSectionSize(0);
+  list.horizontalHeader()->setStretchLastSection(true);
+  connect(&list, &QTableView::doubleClicked, this, &BrowserDialog::OpenSelectedDay);
+  auto* const layout = new QVBoxLayout(side);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(lbl_days_);
+  layout->addWidget(LV_browse_files_, 1);
+  layout->addWidget(BuildProfilePane());
+  return side;
+}
+
+QWidget* BrowserDialog::BuildProfilePane() {
+  profile_pane_ = new QWidget(this);
+  NameWidget(profile_pane_, "profile_pane");
+  auto* const grid = new QGridLayout(profile_pane_);
+  grid->setContentsMargins(0, 6, 0, 0);
+  lbl_profile_of_ = NewLabel(profile_pane_, "lbl_profile_of");
+  grid->addWidget(lbl_profile_of_, 0, 0, 1, 4);
+  for (int i = 0; i < 6; ++i) {
+    const auto place = static_cast<std::size_t>(i);
+    captions_[place] = NewLabel(profile_pane_, QStringLiteral("lbl_pr_caption_%1").arg(i));
+    lbl_pr_[place] = NewLabel(profile_pane_, QStringLiteral("lbl_pr_%1").arg(i));
+    const int row = 1 + i % 3;
+    const int column = i / 3 * 2;
+    grid->addWidget(captions_[place], row, column);
+    grid->addWidget(lbl_pr_[place], row, column + 1);
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  return profile_pane_;
+}
+
+void BrowserDialog::Open() {
+  show();
+  Refresh_GebruikersLijst();
+  Refresh_Files();
+}
+
+void BrowserDialog::CloseWindow() {
+  done(QDialog::Rejected);
+}
+
+void BrowserDialog::done(int result) {
+  ClearOpenFlag();
+  QDialog::done(result);
+}
+
+void BrowserDialog::ClearOpenFlag() {
+  if (program_.windows.browser != this) return;
+  program_.windows.browser = nullptr;
+  if (program_.windows.core != nullptr) program_.windows.core->UpdateCommands();
+}
+
+void BrowserDialog::Set_Taal() {
+  const TextTables& texts = program_.texts;
+  setWindowTitle(ToQt(texts[kTitle]));
+  lbl_users_->setText(ToQt(texts[kUsers]));
+  lst_users_->setAccessibleName(ToQt(texts[kUsers]));
+  lbl_days_->setText(ToQt(texts[kDays]));
+  LV_browse_files_->setAccessibleName(ToQt(texts[kDays]));
+  chk_profiel_->setText(ToQt(texts[kShowProfile]));
+  cmd_openen_->setText(ToQt(texts[kOpen]));
+  cmd_annuleer_->setText(ToQt(texts[kCancel]));
+  for (std::size_t i = 0; i < captions_.size(); ++i) {
+    captions_[i]->setText(ToQt(texts[kPaneCaptions[i]]));
+    lbl_pr_[i]->setAccessibleName(ToQt(texts[kPaneCaptions[i]]));
+  }
+  ShowProfile();
+  ShowRows(std::move(rows_));
+}
+
+void BrowserDialog::Refresh_GebruikersLijst() {
+  const TextList names = UsersToBrowse(program_);
+  const QSignalBlocker quiet(lst_users_);
+  lst_users_->clear();
+  for (const Text& name : names) lst_users_->addItem(ToQt(name));
+  SelectCurrentUser();
+  ShowProfile();
+}
+
+void BrowserDialog::SelectCurrentUser() {
+  const QSignalBlocker quiet(lst_users_);
+  const auto current = lst_users_->findItems(ToQt(program_.paths.UserName),
+                                             Qt::MatchFixedString | Qt::MatchCaseSensitive);
+  lst_users_->setCurrentItem(current.isEmpty() ? nullptr : current.front());
+}
+
+void BrowserDialog::Refresh_Files() {
+  if (program_.paths.FilesPath.empty()) return;
+  ShowRows({});
+  const int reading = ++readings_;
+  std::vector<DayRow> rows = ReadDays(program_);
+  if (reading != readings_) return;
+  ShowRows(std::move(rows));
+  ShowProfile();
+}
+
+void BrowserDialog::ShowRows(std::vector<DayRow> rows) {
+  rows_ = std::move(rows);
+  const auto headings = BrowseHeadings(program_);
+  std::vector<TextTableModel::Column> columns;
+  for (std::size_t i = 0; i < headings.size(); ++i) {
+    const bool number = i == BrowseColumn::kNumber || i >= BrowseColumn::kWeight;
+    columns.push_back({headings[i], number ? Qt::AlignRight : Qt::AlignLeft});
+  }
+  model_.Show(std::move(columns), rows_.size(),
+              [this](std::size_t row, std::size_t column) { return rows_[row].cells[column]; });
+  cmd_openen_->setEnabled(!rows_.empty());
+  SetColumnWidths();
+}
+
+void BrowserDialog::ShowProfile() {
+  const ProfilePane pane = ProfilePaneOf(program_);
+  lbl_profile_of_->setText(ToQt(pane.heading));
+  for (std::size_t i = 0; i < lbl_pr_.size(); ++i) lbl_pr_[i]->setText(ToQt(pane.lbl_pr[i]));
+}
+
+void BrowserDialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  SetColumnWidths();
+}
+
+void BrowserDialog::SetColumnWidths() {
+  const int width = LV_browse_files_->viewport()->width();
+  for (std::size_t i = 0; i < kShares.size(); ++i) {
+    const auto share = static_cast<int>(kShares[i] * width);
+    LV_browse_files_->setColumnHidden(static_cast<int>(i), kShares[i] == 0);
+    LV_browse_files_->setColumnWidth(static_cast<int>(i), share);
+  }
+}
+
+void BrowserDialog::ChooseSelectedUser() {
+  const QList<QListWidgetItem*> selected = lst_users_->selectedItems();
+  if (selected.isEmpty()) return;
+  if (SwitchUser(program_, FromQt(selected.front()->text())) == UserSwitch::refused) {
+    SelectCurrentUser();
+  }
+}
+
+void BrowserDialog::OpenSelectedDay() {
+  const int row = LV_browse_files_->currentIndex().row();
+  if (!LV_browse_files_->selectionModel()->isRowSelected(row, {})) return;
+  OpenDayOf(program_, rows_[static_cast<std::size_t>(row)]);
+}
+
+void ShowBrowserDialog(Program& program, QWidget* parent) {
+  BrowserDialog dialog(program, parent);
+  dialog.setModal(true);
+  dialog.Open();
+  // It may have been closed while the days were read.
+  if (dialog.isVisible()) dialog.exec();
+}
+
+}  // namespace kelvora

@@ -1,0 +1,70 @@
+// KV_browsefiles, the dialog that lists the users and the days of one of them. A picture: it draws
+// what browser.h gives it and passes clicks and keys on.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableView>
+
+#include "core/views.h"
+#include "days/browser.h"
+#include "platform/qt/text_table_model.h"
+
+namespace kelvora {
+
+class BrowserDialog : public QDialog, public BrowserView {
+  Q_OBJECT
+
+ public:
+  BrowserDialog(Program& program, QWidget* parent);
+  ~BrowserDialog() override;
+
+  // Shows the window and fills it: the days are read while it can be seen.
+  void Open();
+
+  void CloseWindow() override;
+  void Set_Taal() override;
+  void Refresh_GebruikersLijst() override;
+  void Refresh_Files() override;
+  void done(int result) override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QWidget* BuildUsers();
+  QWidget* BuildDays();
+  QWidget* BuildProfilePane();
+  void ShowRows(std::vector<DayRow> rows);
+  void ShowProfile();
+  void SetColumnWidths();
+  void ClearOpenFlag();
+  void SelectCurrentUser();
+  void ChooseSelectedUser();
+  void OpenSelectedDay();
+
+  Program& program_;
+  std::vector<DayRow> rows_;
+  TextTableModel model_;
+  // Tells a reading that was overtaken by another one, begun while events ran.
+  int readings_ = 0;
+  QLabel* lbl_users_;
+  QListWidget* lst_users_;
+  QLabel* lbl_days_;
+  QTableView* LV_browse_files_;
+  QWidget* profile_pane_;
+  QLabel* lbl_profile_of_;
+  std::array<QLabel*, 6> captions_;
+  std::array<QLabel*, 6> lbl_pr_;
+  QCheckBox* chk_profiel_;
+  QPushButton* cmd_openen_;
+  QPushButton* cmd_annuleer_;
+};
+
+}  // namespace kelvora

@@ -1,0 +1,16 @@
+// Makes the modal windows of this room for the main window, which knows nothing more of them.
+#pragma once
+
+class QWidget;
+
+namespace kelvora {
+
+struct Program;
+
+// Shows KV_bestand over `parent` and returns when it is closed.
+void ShowDaySettingsDialog(Program& program, QWidget* parent);
+
+// Shows KV_browsefiles over `parent` and returns when it is closed.
+void ShowBrowserDialog(Program& program, QWidget* parent);
+
+}  // namespace kelvora

@@ -1,0 +1,34 @@
+#include "days/open_day.h"
+
+#include "core/arrangement.h"
+#include "nutrition/totals.h"
+#include "storage/day_file.h"
+#include "storage/folders.h"
+#include "storage/food_files.h"
+#include "storage/profile_file.h"
+
+namespace kelvora {
+
+void BeginNewDay(Program& program) {
+  if (!MayDropDayForNewOne(program)) return;
+  CloseDay(program);
+  if (program.windows.core != nullptr) program.windows.core->OpenWindow(WindowId::day_settings);
+}
+
+void ChooseUser(Program& program, std::string_view name) {
+  const Text user(name);
+  SetCurrentUser(program, user);
+  Load_Profile(program, ProfileFile(program.paths, user));
+  Load_Custom(program, CustomFile(program.paths, user));
+  Load_Favorites(program, FavoritesFile(program.paths, user));
+}
+
+void AfterOpenDay(Program& program) {
+  if (program.windows.browser != nullptr) program.windows.browser->CloseWindow();
+  if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
+  ApplyChosenArrangement(program);
+  Refresh_Totalen(program);
+  SetFileChanged(program, false);
+}
+
+}  // namespace kelvora

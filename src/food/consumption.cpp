@@ -1,0 +1,211 @@
+#include "food/consumption.h"
+
+#include "core/common.h"
+#include "food/drag_text.h"
+#include "language/consumption_texts.h"
+#include "nutrition/numbers.h"
+#include "nutrition/totals.h"
+
+namespace kelvora {
+namespace {
+
+namespace ct = consumption_text;
+
+// Afternoon and evening share their failure codes, and are meant to.
+constexpr std::array kRows = {
+    DayPartRow{DayPart::morning, "KV_tb_vochtend", TextTable::taal_morning, "#F15-0", "#F15-1",
+               "#F15-2", "#F15-3", "#F15-7"},
+    DayPartRow{DayPart::afternoon, "KV_tb_vmiddag", TextTable::taal_afternoon, "#F14-0", "#F14-1",
+               "#F14-2", "#F14-3", "#F14-7"},
+    DayPartRow{DayPart::evening, "KV_tb_vavond", TextTable::taal_evening, "#F14-0", "#F14-1",
+               "#F14-2", "#F14-3", "#F14-7"},
+};
+
+// Heading and number pattern of the nutrient column, in the order of Priority.
+struct NutrientColumn {
+  std::size_t heading;
+  std::string_view pattern;
+};
+constexpr std::array kNutrients = {
+    NutrientColumn{ct::kColumnKj, "#####0"},  NutrientColumn{ct::kColumnKcal, "####0"},
+    NutrientColumn{ct::kColumnFatU, "###0"},  NutrientColumn{ct::kColumnFatS, "###0"},
+    NutrientColumn{ct::kColumnCarbs, "###0"}, NutrientColumn{ct::kColumnProtein, "###0"},
+};
+
+Priority PriorityOfUser(const Program& program) {
+  return PriorityOf(program.profile[ProfileField::type_prioriteit]);
+}
+
+const Text& TextOf(const Program& program, DayPart part, std::size_t index) {
+  return program.texts[{RowOf(part).texts, index}];
+}
+
+// The weight is converted per portion and rounded before the count multiplies it.
+Text WeightOfPortion(Program& program, std::string_view gram) {
+  Text weight(gram);
+  if (program.settings[Setting::opt_gramoz] != "1") return weight;
+  return Gram_To_Oz(weight, UnitsOf(program));
+}
+
+// A list of exactly the limit still takes one addition, as is meant.
+bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line) {
+  if (program.store.ListOf(part).Count() <= kMaxDayPartLines) return false;
+  const auto text = [&](std::size_t index) { return TextOf(program, part, index); };
+  program.platform.boxes.Show(
+      {.title = {},
+       .text = text(first_line) + "\n" + text(ct::kLimitReached) + "\n\n" + text(ct::kLimitRemove),
+       .icon = BoxIcon::error});
+  return true;
+}
+
+void RefreshWindow(Program& program, DayPart part) {
+  ConsumptionView* const window = program.windows.Consumption(part);
+  if (window != nullptr) window->Refresh_Consumpties();
+}
+
+void RefreshAfterChange(Program& program, DayPart part) {
+  RefreshWindow(program, part);
+  Refresh_Totalen(program);
+}
+
+void RefreshDragSource(Program& program) {
+  for (const DayPart part : kDayParts) {
+    if (RoutingCodeOf(part) == program.day.drag_source) RefreshWindow(program, part);
+  }
+}
+
+}  // namespace
+
+const DayPartRow& RowOf(DayPart part) {
+  return kRows[static_cast<std::size_t>(part)];
+}
+
+const Text& CellOf(const ConsumptionRow& row, std::size_t column) {
+  constexpr std::array kCells = {&ConsumptionRow::number,  &ConsumptionRow::count,
+                                 &ConsumptionRow::product, &ConsumptionRow::unit,
+                                 &ConsumptionRow::weight,  &ConsumptionRow::nutrient};
+  return row.*kCells[column];
+}
+
+std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
+  std::vector<ConsumptionRow> rows;
+  program.Guard(RowOf(part).code_rows, [&] {
+    KV_data& store = program.store;
+    const Text separator = program.platform.locale.DecimalSeparator();
+    const Priority priority = PriorityOfUser(program);
+    CountEqualLines(store.ListOf(part), store.Dupe_list, store.Dupe_list_teller);
+    for (std::size_t i = 0; i < store.Dupe_list.Count(); ++i) {
+      const Text line(store.Dupe_list[i]);
+      const Text count(store.Dupe_list_teller[i]);
+      const double times = Val(count);
+      const Text portion = WeightOfPortion(program, FieldOf(line, FoodField::kGram));
+      const double nutrient = ReadStoredNumber(FieldOf(line, FoodFieldOf(priority)));
+      rows.push_back(
+          {std::to_string(i + 1), count, Text(FieldOf(line, FoodField::kProduct)),
+           Text(FieldOf(line, FoodField::kUnit)), Str(ReadStoredNumber(portion) * times, separator),
+           FormatNumber(nutrient * times, kNutrients[static_cast<std::size_t>(priority)].pattern,
+                        separator)});
+    }
+  });
+  return rows;
+}
+
+std::array<Text, kConsumptionColumns> ConsumptionHeadings(const Program& program, DayPart part) {
+  const auto text = [&](std::size_t index) { return TextOf(program, part, index); };
+  const bool ounces = program.settings[Setting::opt_gramoz] == "1";
+  const auto priority = static_cast<std::size_t>(PriorityOfUser(program));
+  return {text(ct::kColumnNumber),
+          text(ct::kColumnCount),
+          text(ct::kColumnFood),
+          text(ct::kColumnUnit),
+          text(ounces ? ct::kColumnOz : ct::kColumnGram),
+          text(kNutrients[priority].heading)};
+}
+
+Text ConsumptionTitle(Program& program, DayPart part) {
+  const TextList& header = program.store.L_gegevens;
+  Text title = TextOf(program, part, ct::kTitle) + " ";
+  title.append(header[HeaderRow::kWeekday]).append(" ");
+  return title + Format_Datum(header[HeaderRow::kDate], program.settings[Setting::opt_system],
+                              UnitsOf(program));
+}
+
+void SelectName(Program& program, DayPart part, std::string_view product) {
+  program.day.selected_names[static_cast<std::size_t>(part)] = product;
+}
+
+void Item_Plus_Een(Program& program, DayPart part, std::string_view product) {
+  program.Guard(RowOf(part).code_plus, [&] {
+    if (IsAboveLimit(program, part, ct::kLimitAdd)) return;
+    SetFileChanged(program, true);
+    TextList& lines = program.store.ListOf(part);
+    if (lines.Empty()) return;
+    const Text name(product);
+    SelectName(program, part, name);
+    if (const auto found = lines.FindFirst(KeyOf(name))) lines.Add(Text(lines[*found]));
+    RefreshAfterChange(program, part);
+  });
+}
+
+void Item_Min_Een(Program& program, DayPart part, std::string_view product) {
+  program.Guard(RowOf(part).code_minus, [&] {
+    SetFileChanged(program, true);
+    TextList& lines = program.store.ListOf(part);
+    if (!lines.Empty()) {
+      const Text name(product);
+      SelectName(program, part, name);
+      if (const auto found = lines.FindLast(KeyOf(name))) lines.Remove(*found);
+    }
+    RefreshAfterChange(program, part);
+  });
+}
+
+void Item_Verwijder(Program& program, DayPart part, const TextList& products) {
+  program.Guard(RowOf(part).code_remove, [&] {
+    SetFileChanged(program, true);
+    TextList& lines = program.store.ListOf(part);
+    if (lines.Empty()) return;
+    for (const Text& product : products) {
+      const Text key = KeyOf(product);
+      while (const auto found = lines.FindLast(key)) lines.Remove(*found);
+    }
+    RefreshAfterChange(program, part);
+  });
+}
+
+Text BeginConsumptionDrag(Program& program, DayPart part, const TextList& products) {
+  program.day.drag_source = RoutingCodeOf(part);
+  Text payload(kKillMarker);
+  for (const Text& product : products) (payload += KeyOf(product)) += kLineEnd;
+  return payload;
+}
+
+bool DropOnDayPart(Program& program, DayPart part, std::string_view payload) {
+  bool accepted = false;
+  program.Guard(RowOf(part).code_drop, [&] {
+    // The limit does not count what is being dropped, as is meant.
+    if (IsAboveLimit(program, part, ct::kLimitDrop)) return;
+    accepted = true;
+    SetFileChanged(program, true);
+    TextList& lines = program.store.ListOf(part);
+    // One after the other, not one of the three: what a marker leaves is looked at again.
+    Text rest(payload);
+    if (TakeMarker(rest, kAddMarker)) {
+      for (const Text& line : PartsOf(rest)) lines.Add(line);
+    }
+    if (TakeMarker(rest, kForeignMarker)) {
+      rest.append(kForeignOrigin) += kFieldEnd;
+      lines.Add(rest);
+    }
+    if (TakeMarker(rest, kKillMarker)) {
+      for (const Text& key : PartsOf(rest)) {
+        MoveConsumption(program.store, program.day.drag_source, key, RoutingCodeOf(part));
+      }
+      RefreshDragSource(program);
+    }
+    RefreshAfterChange(program, part);
+  });
+  return accepted;
+}
+
+}  // namespace kelvora

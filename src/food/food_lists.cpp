@@ -1,0 +1,166 @@
+#include "food/food_lists.h"
+
+#include <cmath>
+#include <limits>
+
+#include "core/common.h"
+#include "food/drag_text.h"
+#include "language/lists_texts.h"
+#include "nutrition/numbers.h"
+#include "nutrition/totals.h"
+
+namespace kelvora {
+namespace {
+
+using namespace lists_text;
+
+constexpr std::string_view kExtension = ".dat";
+constexpr std::size_t kMaxDraggedRows = 10;
+
+// Heading and number pattern of the nutrient column, in the order of Priority.
+struct NutrientColumn {
+  TextId heading;
+  std::string_view pattern;
+};
+constexpr std::array kNutrients = {
+    NutrientColumn{kColumnKj, "#####0"},  NutrientColumn{kColumnKcal, "####0"},
+    NutrientColumn{kColumnFatU, "###0"},  NutrientColumn{kColumnFatS, "###0"},
+    NutrientColumn{kColumnCarbs, "###0"}, NutrientColumn{kColumnProtein, "###0"},
+};
+
+bool ShowsOunces(const Program& program) {
+  return program.settings[Setting::opt_gramoz] == "1";
+}
+
+Priority PriorityOfUser(const Program& program) {
+  return PriorityOf(program.profile[ProfileField::type_prioriteit]);
+}
+
+}  // namespace
+
+const TextList& FoodLists::SourceOf(FoodView view) const {
+  switch (view) {
+    case FoodView::standard:
+      return temp_zoeken_;
+    case FoodView::own:
+      return program_.store.Custom_list;
+    case FoodView::favourites:
+      return program_.store.Favorites_list;
+    case FoodView::internet:
+      break;
+  }
+  return temp_internet_;
+}
+
+Text FoodLists::Cell(FoodView view, std::size_t row, std::size_t column) const {
+  const std::string_view line = SourceOf(view)[row];
+  switch (column) {
+    case 0:
+      return std::to_string(row + 1);
+    case 1:
+      return Text(FieldOf(line, FoodField::kProduct));
+    case 2:
+      return Text(FieldOf(line, FoodField::kUnit));
+    case 3:
+      return WeightCell(line);
+    default:
+      return NutrientCell(line);
+  }
+}
+
+Text FoodLists::WeightCell(std::string_view line) const {
+  const std::string_view gram = FieldOf(line, FoodField::kGram);
+  if (!ShowsOunces(program_)) return Text(gram);
+  const double grams = ReadStoredNumber(gram);
+  // Beyond the range of a single there is nothing to show, and no place for a box while drawing.
+  if (gram.empty() || std::fabs(grams) > std::numeric_limits<float>::max()) return {};
+  return OuncesOfGrams(grams, program_.platform.locale.DecimalSeparator());
+}
+
+Text FoodLists::NutrientCell(std::string_view line) const {
+  const Priority priority = PriorityOfUser(program_);
+  const double value = ReadStoredNumber(FieldOf(line, FoodFieldOf(priority)));
+  if (!std::isfinite(value)) return {};
+  return FormatNumber(value, kNutrients[static_cast<std::size_t>(priority)].pattern,
+                      program_.platform.locale.DecimalSeparator());
+}
+
+std::array<Text, kFoodColumns> FoodLists::Headings() const {
+  const TextTables& texts = program_.texts;
+  const auto priority = static_cast<std::size_t>(PriorityOfUser(program_));
+  return {texts[kColumnNumber], texts[kColumnFood], texts[kColumnUnit],
+          texts[ShowsOunces(program_) ? kColumnOz : kColumnGram],
+          texts[kNutrients[priority].heading]};
+}
+
+TextList FoodLists::Categories() const {
+  TextList categories;
+  for (const Text& file : program_.store.lst_categorien) {
+    categories.Add(std::string_view(file).substr(0, file.size() - kExtension.size()));
+  }
+  return categories;
+}
+
+// Fills `temp_zoeken` with the lines that `wanted` takes of their lower-case form.
+template <class Wanted>
+void FoodLists::Collect(std::string_view code, Wanted wanted) {
+  program_.Guard(code, [&] {
+    program_.platform.pointer.ShowWait();
+    temp_zoeken_.Clear();
+    for (const TextList* list : {&program_.store.Default_list, &program_.store.Custom_list}) {
+      for (const Text& line : *list) {
+        if (wanted(line)) temp_zoeken_.Add(line);
+      }
+    }
+    program_.platform.pointer.Restore();
+  });
+}
+
+std::optional<Text> FoodLists::Toon_Standaardlijst() {
+  temp_zoeken_.Clear();
+  if (program_.store.Default_list.Empty()) return std::nullopt;
+  return ChooseCategory(Categories()[0]);
+}
+
+Text FoodLists::ChooseCategory(std::string_view shown_name) {
+  const Text file = Text(shown_name).append(kExtension);
+  Zoek_In_Lijsten(file);
+  return file;
+}
+
+void FoodLists::SearchPrefix(std::string_view text) {
+  const Text wanted = LowerCase(text);
+  Collect("#F11-0", [&wanted](const Text& line) {
+    return LowerCase(std::string_view(line).substr(0, wanted.size())) == wanted;
+  });
+}
+
+bool FoodLists::Zoek_In_Lijsten(std::string_view text) {
+  if (text.empty()) return false;
+  const Text wanted = LowerCase(text);
+  Collect("#F11-1",
+          [&wanted](const Text& line) { return LowerCase(line).find(wanted) != Text::npos; });
+  return true;
+}
+
+Text FoodLists::AvailableText(FoodView view) const {
+  const std::size_t count =
+      view == FoodView::standard ? program_.store.Default_list.Count() : Count(view);
+  return std::to_string(count) + " " + program_.texts[kAvailable];
+}
+
+Text FoodLists::ResultsText() const {
+  return std::to_string(temp_zoeken_.Count()) + " " + program_.texts[kResultsFound];
+}
+
+Text FoodLists::DragPayload(FoodView view, const std::vector<std::size_t>& rows) {
+  if (rows.size() > kMaxDraggedRows) {
+    Tell(program_, BoxIcon::warning, JoinLines(program_.texts, {kTooManyDragged, kSelectAgain}));
+    return {};
+  }
+  Text payload(kAddMarker);
+  for (const std::size_t row : rows) payload.append(SourceOf(view)[row]) += kLineEnd;
+  return payload;
+}
+
+}  // namespace kelvora

@@ -1,0 +1,68 @@
+// The food lists window: the source of all food that is eaten. A picture of the lists that
+// food_lists.h fills; it passes typing, choices and drags on.
+#pragma once
+
+#include <array>
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QWidget>
+
+#include "core/views.h"
+#include "food/food_lists.h"
+#include "food/food_table_panel.h"
+
+namespace kelvora {
+
+class FoodListsWindow : public QWidget, public FoodListsView {
+  Q_OBJECT
+
+ public:
+  FoodListsWindow(Program& program, QWidget* parent);
+  ~FoodListsWindow() override;
+
+  void CloseWindow() override;
+  void Set_Taal() override;
+  void Populate_Food_List_Custom() override;
+  void Populate_Food_List_Favo() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void ClearOpenFlag();
+  void BuildToolbar();
+  void BuildSearchPanel();
+  void BuildViews();
+  void BuildStatusBar();
+  void ShowView(FoodView view);
+  void Populate(FoodView view);
+  void SetColumnWidths(FoodView view);
+  void Toon_Standaardlijst();
+  void ShowResults();
+  [[nodiscard]] FoodTable& TableOf(FoodView view) {
+    return *tables_[static_cast<std::size_t>(view)];
+  }
+
+  Program& program_;
+  FoodLists lists_;
+  QToolBar* Toolbar_;
+  std::array<QAction*, 4> view_actions_;
+  QWidget* Pic_zoek_;
+  QLabel* txt_catuitleg_;
+  QComboBox* combo_cat_;
+  QLabel* txt_zoekuitleg_;
+  QLineEdit* txt_zoeken_;
+  QStackedWidget* stack_;
+  std::array<FoodTable*, 4> tables_;
+  QStatusBar* StatusBar_;
+  std::array<QLabel*, 2> panels_;
+};
+
+}  // namespace kelvora

@@ -1,0 +1,133 @@
+#include "food/food_table_panel.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+
+#include "food/drag_text.h"
+#include "platform/qt/look.h"
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+bool CarriesFood(const QMimeData* data) {
+  return data->hasText() && IsDragText(FromQt(data->text()));
+}
+
+}  // namespace
+
+FoodTable::FoodTable(const char* object_name, QWidget* parent) : QTableView(parent) {
+  NameWidget(this, object_name);
+  setModel(&model_);
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setAlternatingRowColors(true);
+  setShowGrid(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setTabKeyNavigation(false);
+  setDragEnabled(true);
+  setAcceptDrops(true);
+  setDragDropMode(QAbstractItemView::DragDrop);
+  setDropIndicatorShown(false);
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setMinimumSectionSize(0);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  connect(this, &QAbstractItemView::clicked, this,
+          [this](const QModelIndex& index) { emit RowClicked(index.row()); });
+}
+
+std::vector<std::size_t> FoodTable::SelectedRows() const {
+  std::vector<std::size_t> rows;
+  for (const QModelIndex& index : selectionModel()->selectedRows()) {
+    rows.push_back(static_cast<std::size_t>(index.row()));
+  }
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+void FoodTable::SelectRow(int row) {
+  const QModelIndex index = model_.index(row, 0);
+  selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(model_.index(row, 1));
+}
+
+void FoodTable::SelectRowsReading(int column, const QString& text) {
+  clearSelection();
+  bool first = true;
+  for (int row = 0; row < model_.rowCount(); ++row) {
+    const QModelIndex index = model_.index(row, column);
+    if (index.data().toString() != text) continue;
+    if (first) {
+      selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+      scrollTo(index);
+    }
+    first = false;
+    selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  }
+}
+
+void FoodTable::startDrag(Qt::DropActions) {
+  const Text payload = drag_payload ? drag_payload(SelectedRows()) : Text();
+  if (payload.empty()) return;
+  auto* const data = new QMimeData;  // the drag owns it
+  data->setText(ToQt(payload));
+  auto* const drag = new QDrag(this);  // the event loop of the drag owns it
+  drag->setMimeData(data);
+  drag->setPixmap(IconNamed("food-row").pixmap(24, 24));
+  drag->exec(Qt::CopyAction);
+}
+
+void FoodTable::dragEnterEvent(QDragEnterEvent* event) {
+  if (!drop || !CarriesFood(event->mimeData())) return event->ignore();
+  event->acceptProposedAction();
+  SetDropLight(true);
+}
+
+void FoodTable::dragMoveEvent(QDragMoveEvent* event) {
+  if (!drop || !CarriesFood(event->mimeData())) return event->ignore();
+  event->acceptProposedAction();
+}
+
+void FoodTable::dragLeaveEvent(QDragLeaveEvent*) {
+  SetDropLight(false);
+}
+
+void FoodTable::dropEvent(QDropEvent* event) {
+  SetDropLight(false);
+  if (!drop) return;
+  event->acceptProposedAction();
+  drop(FromQt(event->mimeData()->text()));
+}
+
+void FoodTable::keyPressEvent(QKeyEvent* event) {
+  const bool numeric_pad = event->modifiers().testFlag(Qt::KeypadModifier);
+  if (event->key() == Qt::Key_Delete) return emit DeletePressed();
+  if (numeric_pad && event->key() == Qt::Key_Plus) return emit PlusPressed();
+  if (numeric_pad && event->key() == Qt::Key_Minus) return emit MinusPressed();
+  QTableView::keyPressEvent(event);
+}
+
+void FoodTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!drop_light_) return;
+  QPainter painter(viewport());
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+}
+
+void FoodTable::SetDropLight(bool on) {
+  drop_light_ = on;
+  viewport()->update();
+}
+
+}  // namespace kelvora

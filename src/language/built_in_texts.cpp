@@ -1,0 +1,26 @@
+#include "language/built_in_texts.h"
+
+namespace kelvora {
+
+std::span<const std::span<const TextRow>> BuiltInTexts() {
+  static const std::array kTables = {
+      SectionTextRows(), MainTextRows(),    DaySettingsTextRows(), BrowseTextRows(),
+      ListsTextRows(),   EveningTextRows(), AfternoonTextRows(),   MorningTextRows(),
+      CommonTextRows(),  MessageTextRows(), FileInfoTextRows(),
+  };
+  return kTables;
+}
+
+void Make_Taal_English(TextTables& texts) {
+  for (const auto& table : BuiltInTexts()) {
+    for (const TextRow& row : table) texts[row.id] = row.english;
+  }
+}
+
+void Make_Taal_Dutch(TextTables& texts) {
+  for (const auto& table : BuiltInTexts()) {
+    for (const TextRow& row : table) texts[row.id] = row.dutch;
+  }
+}
+
+}  // namespace kelvora

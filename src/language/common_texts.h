@@ -1,0 +1,39 @@
+// Names of the texts in taal_common: messages and words of the common routines.
+// The texts themselves, English and Dutch, stand in common_texts.cpp.
+#pragma once
+
+#include "language/tables.h"
+
+namespace kelvora::common_text {
+
+inline constexpr TextId kSeparatorChanged{TextTable::taal_common, 0};
+inline constexpr TextId kSeparatorAtStart{TextTable::taal_common, 1};
+inline constexpr TextId kCannotContinue{TextTable::taal_common, 2};
+inline constexpr TextId kDoNotSave{TextTable::taal_common, 3};
+inline constexpr TextId kCloseAndStart{TextTable::taal_common, 4};
+inline constexpr TextId kSeparatorIs{TextTable::taal_common, 5};
+inline constexpr TextId kSeparatorMustBe{TextTable::taal_common, 6};
+inline constexpr TextId kCannotUse{TextTable::taal_common, 7};
+inline constexpr TextId kHalfNotDisplayed{TextTable::taal_common, 8};
+inline constexpr TextId kHalfNeeded{TextTable::taal_common, 9};
+inline constexpr TextId kHalfErrors{TextTable::taal_common, 10};
+inline constexpr TextId kHalfClose{TextTable::taal_common, 11};
+inline constexpr TextId kResolutionIs{TextTable::taal_common, 12};
+inline constexpr TextId kResolutionAdvice{TextTable::taal_common, 13};
+inline constexpr TextId kResolutionChange{TextTable::taal_common, 14};
+inline constexpr TextId kResolutionWhere{TextTable::taal_common, 15};
+inline constexpr TextId kOpenFileTitle{TextTable::taal_common, 16};
+inline constexpr TextId kOpenFileGoing{TextTable::taal_common, 17};
+inline constexpr TextId kOpenFileNotSaved{TextTable::taal_common, 18};
+inline constexpr TextId kOpenFileSure{TextTable::taal_common, 19};
+inline constexpr TextId kMorningContains{TextTable::taal_common, 20};
+inline constexpr TextId kAfternoonContains{TextTable::taal_common, 21};
+inline constexpr TextId kEveningContains{TextTable::taal_common, 22};
+inline constexpr TextId kUnitKj{TextTable::taal_common, 23};
+inline constexpr TextId kUnitKcal{TextTable::taal_common, 24};
+inline constexpr TextId kUnitFatU{TextTable::taal_common, 25};
+inline constexpr TextId kUnitFatS{TextTable::taal_common, 26};
+inline constexpr TextId kUnitCarbohydrates{TextTable::taal_common, 27};
+inline constexpr TextId kUnitProteins{TextTable::taal_common, 28};
+
+}  // namespace kelvora::common_text

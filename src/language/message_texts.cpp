@@ -1,0 +1,21 @@
+#include "language/message_texts.h"
+
+#include "language/built_in_texts.h"
+
+namespace kelvora {
+namespace {
+
+using namespace message_text;
+
+constexpr std::array kRows = {
+    TextRow{kErrorOccurred, "An error occured."_w, "Er heeft zich een fout voorgedaan."_w},
+};
+static_assert(RowsAreInOrder(kRows));
+
+}  // namespace
+
+std::span<const TextRow> MessageTextRows() {
+  return kRows;
+}
+
+}  // namespace kelvora

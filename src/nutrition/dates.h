@@ -1,0 +1,29 @@
+// Dates: six digits dd-mm-yy in the store, shown by the chosen unit system.
+#pragma once
+
+#include <string_view>
+
+#include "core/text.h"
+#include "platform/clock.h"
+
+namespace kelvora {
+
+// Day, month and year of a stored date, two digits each.
+struct StoredDate {
+  int day = 0;
+  int month = 0;
+  int year = 0;
+};
+
+// Takes a stored date apart; marks and blanks between the digits don't matter. Throws
+// std::invalid_argument if six digits are not what is left.
+[[nodiscard]] StoredDate ParseStoredDate(std::string_view text);
+
+// The date as users of the unit system (`opt_system`) write it: "mm-dd-yy" for "1", "dd-mm-yy"
+// otherwise. An empty text stays empty. Throws std::invalid_argument.
+[[nodiscard]] Text FormatStoredDate(std::string_view text, std::string_view opt_system);
+
+// A number as two digits, with a leading zero; the last two digits of a longer one.
+[[nodiscard]] Text TwoDigits(int number);
+
+}  // namespace kelvora

@@ -1,0 +1,165 @@
+#include "nutrition/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+namespace kelvora {
+namespace {
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// A value as decimal digits: 0.d1d2d3... times ten to the power of `exponent`. No digits mean zero.
+struct Decimal {
+  bool negative = false;
+  std::string digits;
+  int exponent = 0;
+};
+
+// The value rounded to `significant` digits, without trailing zeros.
+template <class Number>
+Decimal DecimalOf(Number value, int significant) {
+  if (!std::isfinite(value)) throw std::domain_error("Overflow");
+  std::array<char, 64> buffer;
+  const auto [end, error] =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                    std::chars_format::scientific, significant - 1);
+  if (error != std::errc()) throw std::domain_error("Overflow");
+  const std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  const std::size_t mark = written.find('e');
+
+  Decimal decimal;
+  decimal.negative = std::signbit(value);
+  for (const char c : written.substr(0, mark)) {
+    if (IsDigit(c)) decimal.digits += c;
+  }
+  int power = 0;
+  const char* const power_text = written.data() + mark + (written[mark + 1] == '+' ? 2 : 1);
+  std::from_chars(power_text, end, power);
+  decimal.exponent = power + 1;
+  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  if (decimal.digits.empty()) return {};
+  return decimal;
+}
+
+// The digits before and behind the point; neither has a leading or trailing zero too many.
+struct PlainDigits {
+  std::string whole;
+  std::string fraction;
+};
+
+PlainDigits PlainDigitsOf(const Decimal& decimal) {
+  const auto length = static_cast<int>(decimal.digits.size());
+  if (decimal.exponent <= 0) {
+    if (length == 0) return {};
+    return {{}, std::string(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits};
+  }
+  const auto whole_length = static_cast<std::size_t>(decimal.exponent);
+  if (decimal.exponent >= length) {
+    return {decimal.digits + std::string(whole_length - decimal.digits.size(), '0'), {}};
+  }
+  return {decimal.digits.substr(0, whole_length), decimal.digits.substr(whole_length)};
+}
+
+// Keeps `places` digits behind the point, halves away from zero.
+Decimal RoundAwayFromZero(Decimal decimal, int places) {
+  const int keep = decimal.exponent + places;
+  if (keep < 0) return {};
+  if (keep >= static_cast<int>(decimal.digits.size())) return decimal;
+  const bool up = decimal.digits[static_cast<std::size_t>(keep)] >= '5';
+  decimal.digits.resize(static_cast<std::size_t>(keep));
+  if (up) {
+    while (!decimal.digits.empty() && decimal.digits.back() == '9') decimal.digits.pop_back();
+    if (decimal.digits.empty()) {
+      decimal.digits = "1";
+      ++decimal.exponent;
+    } else {
+      ++decimal.digits.back();
+    }
+  }
+  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  if (decimal.digits.empty()) return {};
+  return decimal;
+}
+
+template <class Number>
+Text WriteShortest(Number value, std::string_view separator) {
+  const Decimal decimal = DecimalOf(value, std::numeric_limits<Number>::digits10 == 6 ? 7 : 15);
+  const auto [whole, fraction] = PlainDigitsOf(decimal);
+  Text text = decimal.negative ? "-" : "";
+  text += whole.empty() ? "0" : whole;
+  if (!fraction.empty()) text.append(separator).append(fraction);
+  return text;
+}
+
+}  // namespace
+
+double Val(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\n\r"), text.size()));
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+
+  std::size_t length = 0;
+  bool point = false;
+  while (length < text.size() && (IsDigit(text[length]) || (text[length] == '.' && !point))) {
+    point |= text[length] == '.';
+    ++length;
+  }
+  double value = 0;
+  const auto [end, error] =
+      std::from_chars(text.data(), text.data() + length, value, std::chars_format::fixed);
+  if (error == std::errc::result_out_of_range) {
+    // Too small counts as 0: only digits other than 0 before the point make a number too large.
+    const std::string_view whole = text.substr(0, std::min(text.find('.'), length));
+    const bool large = whole.find_first_of("123456789") != std::string_view::npos;
+    value = large ? std::numeric_limits<double>::infinity() : 0.0;
+  }
+  return negative ? -value : value;
+}
+
+Text CommaToPoint(std::string_view text) {
+  Text result(text);
+  std::ranges::replace(result, ',', '.');
+  return result;
+}
+
+double ReadStoredNumber(std::string_view text) {
+  return text.find(',') == std::string_view::npos ? Val(text) : Val(CommaToPoint(text));
+}
+
+Text Str(float value, std::string_view separator) {
+  return WriteShortest(value, separator);
+}
+Text Str(double value, std::string_view separator) {
+  return WriteShortest(value, separator);
+}
+
+Text FormatNumber(double value, std::string_view pattern, std::string_view separator) {
+  const std::size_t point = pattern.find('.');
+  const std::string_view whole_pattern = pattern.substr(0, point);
+  const std::string_view fraction_pattern =
+      point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
+
+  const Decimal decimal =
+      RoundAwayFromZero(DecimalOf(value, 15), static_cast<int>(fraction_pattern.size()));
+  auto [whole, fraction] = PlainDigitsOf(decimal);
+
+  const auto required = static_cast<std::size_t>(std::ranges::count(whole_pattern, '0'));
+  if (whole.size() < required) whole.insert(0, required - whole.size(), '0');
+  // Behind the point every place up to the last "0" is shown.
+  const std::size_t last_zero = fraction_pattern.rfind('0');
+  const std::size_t shown = last_zero == std::string_view::npos ? 0 : last_zero + 1;
+  if (fraction.size() < shown) fraction.append(shown - fraction.size(), '0');
+
+  Text text = decimal.negative ? "-" : "";
+  text += whole;
+  if (point != std::string_view::npos) text.append(separator).append(fraction);
+  return text;
+}
+
+}  // namespace kelvora

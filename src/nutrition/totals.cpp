@@ -1,0 +1,143 @@
+#include "nutrition/totals.h"
+
+#include "core/common.h"
+#include "core/environment.h"
+#include "language/common_texts.h"
+#include "nutrition/numbers.h"
+
+namespace kelvora {
+namespace {
+
+// Field and member of one amount.
+struct AmountColumn {
+  std::size_t field;
+  float Amounts::*amount;
+};
+
+constexpr std::array kAmounts = {
+    AmountColumn{FoodField::kGram, &Amounts::gram},
+    AmountColumn{FoodField::kKj, &Amounts::kj},
+    AmountColumn{FoodField::kKcal, &Amounts::kcal},
+    AmountColumn{FoodField::kProtein, &Amounts::protein},
+    AmountColumn{FoodField::kFatU, &Amounts::fat_u},
+    AmountColumn{FoodField::kFatS, &Amounts::fat_s},
+    AmountColumn{FoodField::kCarbs, &Amounts::carbs},
+    AmountColumn{FoodField::kSodium, &Amounts::sodium},
+};
+
+// The order of the series in the trend text; the body weight follows.
+constexpr std::array kTrendOrder = {&Amounts::gram,    &Amounts::kj,    &Amounts::kcal,
+                                    &Amounts::fat_u,   &Amounts::fat_s, &Amounts::carbs,
+                                    &Amounts::protein, &Amounts::sodium};
+
+// How the priority nutrient shows in the status bar of a consumption window. The pattern of the
+// kilocalories is one digit shorter than that of the totals panel, and meant to be.
+struct PriorityRow {
+  float Amounts::*amount;
+  std::string_view pattern;
+  TextId unit;
+};
+
+constexpr std::array kPriorityRows = {
+    PriorityRow{&Amounts::kj, "#####0", common_text::kUnitKj},
+    PriorityRow{&Amounts::kcal, "####0", common_text::kUnitKcal},
+    PriorityRow{&Amounts::fat_u, "###0", common_text::kUnitFatU},
+    PriorityRow{&Amounts::fat_s, "###0", common_text::kUnitFatS},
+    PriorityRow{&Amounts::carbs, "###0", common_text::kUnitCarbohydrates},
+    PriorityRow{&Amounts::protein, "###0", common_text::kUnitProteins},
+};
+
+constexpr std::array kHeadings = {common_text::kMorningContains, common_text::kAfternoonContains,
+                                  common_text::kEveningContains};
+
+const PriorityRow& RowOf(Priority priority) {
+  return kPriorityRows[static_cast<std::size_t>(priority)];
+}
+
+void ShowPeriods(Program& program, const std::array<Amounts, 3>& periods, const Text& separator) {
+  const Priority priority = PriorityOf(program.profile[ProfileField::type_prioriteit]);
+  const Text& unit = program.texts[RowOf(priority).unit];
+  for (std::size_t i = 0; i < periods.size(); ++i) {
+    ConsumptionView* const window = program.windows.consumption[i];
+    if (window == nullptr) continue;
+    const Text& heading = program.texts[kHeadings[i]];
+    window->ShowTotals(PeriodTotals(periods[i], priority, heading, unit, separator));
+  }
+}
+
+}  // namespace
+
+Amounts SumOf(const TextList& lines) {
+  Amounts sum;
+  for (const Text& line : lines) {
+    const auto fields = FieldsOf(line);
+    for (const auto& [field, amount] : kAmounts) {
+      if (field >= fields.size()) break;
+      sum.*amount = static_cast<float>(sum.*amount + ReadStoredNumber(fields[field]));
+    }
+  }
+  return sum;
+}
+
+Amounts DayTotalOf(const std::array<Amounts, 3>& periods) {
+  Amounts day;
+  for (const auto& [field, amount] : kAmounts) {
+    day.*amount = periods[0].*amount + periods[1].*amount + periods[2].*amount;
+  }
+  return day;
+}
+
+Text TrendText(const Amounts& day, std::string_view body_weight, std::string_view separator) {
+  Text trend;
+  for (const auto amount : kTrendOrder) (trend += Str(day.*amount, separator)) += kFieldEnd;
+  trend.append(body_weight) += kFieldEnd;
+  return trend;
+}
+
+ConsumptionTotals PeriodTotals(const Amounts& period, Priority priority, std::string_view heading,
+                               std::string_view unit, std::string_view separator) {
+  const auto print = [separator](float value, std::string_view pattern) {
+    return FormatNumber(value, pattern, separator);
+  };
+  ConsumptionTotals totals;
+  auto& var = totals.var;
+  var = {print(period.kj, "#####0"),      print(period.kcal, "#####0"),
+         print(period.fat_u, "####0"),    print(period.fat_s, "###0"),
+         print(period.protein, "###0"),   print(period.carbs, "###0"),
+         print(period.sodium, "##0.000"), print(period.gram, "#####0")};
+  totals.lbl_nfo = {": " + var[0] + " Kj/" + var[1] + " Kcal",
+                    ": " + var[2] + " g",
+                    ": " + var[3] + " g",
+                    ": " + var[4] + " g",
+                    ": " + var[5] + " g",
+                    ": " + var[6] + " g",
+                    ": " + var[7] + "g"};
+  const PriorityRow& row = RowOf(priority);
+  totals.status.append(heading)
+      .append(" ")
+      .append(print(period.*row.amount, row.pattern))
+      .append(" ")
+      .append(unit);
+  return totals;
+}
+
+void Refresh_Totalen(Program& program) {
+  program.Guard("#FF11-0", [&] {
+    program.platform.pointer.ShowWait();
+    CheckDecimal(program);
+    KV_data& store = program.store;
+    const Text separator = program.platform.locale.DecimalSeparator();
+    const std::array periods = {SumOf(store.L_ochtend), SumOf(store.L_middag),
+                                SumOf(store.L_avond)};
+    const Amounts day = DayTotalOf(periods);
+    ShowPeriods(program, periods, separator);
+    store.txt_trenddata = TrendText(day, store.L_gegevens[HeaderRow::kWeight], separator);
+    program.platform.pointer.Restore();
+  });
+}
+
+UnitContext UnitsOf(Program& program) {
+  return {program.platform.locale, program.FailurePath()};
+}
+
+}  // namespace kelvora

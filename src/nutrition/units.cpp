@@ -1,0 +1,92 @@
+#include "nutrition/units.h"
+
+#include <cmath>
+#include <stdexcept>
+
+#include "nutrition/dates.h"
+#include "nutrition/numbers.h"
+
+namespace kelvora {
+namespace {
+
+// The value of a text that is normalised in place.
+double Normalise(Text& text) {
+  text = CommaToPoint(text);
+  return Val(text);
+}
+
+// Runs one conversion under its failure code; an empty text when it fails.
+template <class Conversion>
+Text Convert(const UnitContext& context, std::string_view code, Conversion conversion) {
+  Text result;
+  WithFailurePath(context.failures, code,
+                  [&] { result = conversion(context.locale.DecimalSeparator()); });
+  return result;
+}
+
+}  // namespace
+
+Text OuncesOfGrams(double grams, std::string_view separator) {
+  const auto printed = [separator](float value, std::string_view pattern) {
+    return static_cast<float>(ReadStoredNumber(FormatNumber(value, pattern, separator)));
+  };
+  const auto ounces = static_cast<float>(grams * Factor_Oz);
+  float shown = printed(ounces, "##0.0");
+  const bool ends_in_zero = Str(shown, separator).ends_with('0');
+  shown = printed(shown, ends_in_zero ? "##0" : "##0.0");
+  return Str(shown, separator);
+}
+
+Text Gram_To_Oz(Text& grams, const UnitContext& context) {
+  if (grams.empty()) return {};
+  return Convert(context, "#FF11-3",
+                 [&](const Text& separator) { return OuncesOfGrams(Normalise(grams), separator); });
+}
+
+Text Kg_To_Lbs(Text& kilograms, const UnitContext& context) {
+  if (kilograms.empty()) return {};
+  return Convert(context, "#FF11-1", [&](const Text& separator) {
+    const auto pounds = static_cast<float>(Normalise(kilograms) * Factor_Lbs);
+    return FormatNumber(pounds, "##0.00", separator);
+  });
+}
+
+Text Kg_To_Stones(Text& kilograms, const UnitContext& context) {
+  if (kilograms.empty()) return {};
+  return Convert(context, "#FF11-2", [&](const Text& separator) {
+    const auto pounds = static_cast<float>(Normalise(kilograms) * Factor_Lbs);
+    const float stones = pounds * Factor_Stone;
+    return FormatNumber(stones, "##0.0", separator);
+  });
+}
+
+Text Meter_To_Feet_Inch(Text& metres, HeightPart part, const UnitContext& context) {
+  if (metres.empty()) return {};
+  return Convert(context, "#FF11-5", [&](const Text& separator) {
+    const Text exact = Str(Normalise(metres) * double{Factor_Feet}, ".");
+    const std::size_t point = exact.find('.');
+    if (point == Text::npos) throw std::domain_error("A height without feet and inches");
+    const auto feet = static_cast<float>(Val(exact.substr(0, point)));
+    if (part == HeightPart::feet) return Str(feet, separator);
+    const auto inches = static_cast<float>(Val("0" + exact.substr(point)) * double{Factor_Inch});
+    return FormatNumber(inches, "##", separator);
+  });
+}
+
+Text Bereken_BMI(Text& height, Text& weight, const UnitContext& context) {
+  if (height.empty() || weight.empty()) return {};
+  return Convert(context, "#FF11-7", [&](const Text& separator) {
+    const auto metres = static_cast<float>(Normalise(height));
+    const auto kilograms = static_cast<float>(Normalise(weight));
+    if (metres == 0) throw std::domain_error("Division by zero");
+    const float index = kilograms / (metres * metres);
+    return FormatNumber(index, "##.00", separator);
+  });
+}
+
+Text Format_Datum(std::string_view date, std::string_view opt_system, const UnitContext& context) {
+  return Convert(context, "#FF11-8",
+                 [&](const Text&) { return FormatStoredDate(date, opt_system); });
+}
+
+}  // namespace kelvora

@@ -1,0 +1,23 @@
+// How the user's system writes numbers and dates. Asked anew each time: it can change while the
+// program runs, and a part of the program watches for just that.
+#pragma once
+
+#include "core/text.h"
+#include "platform/clock.h"
+
+namespace kelvora {
+
+class Locale {
+ public:
+  virtual ~Locale() = default;
+  // The decimal separator; "," or "." nearly everywhere, but any text is possible.
+  [[nodiscard]] virtual Text DecimalSeparator() const = 0;
+  // The date as dd/mm/yyyy. The locale may put other separators in the place of "/".
+  [[nodiscard]] virtual Text DayMonthYear(const LocalTime& time) const = 0;
+  // The time as hh/mm/s, seconds without a leading zero. The locale may add AM or PM.
+  [[nodiscard]] virtual Text HourMinuteSecond(const LocalTime& time) const = 0;
+  // The full name of the weekday, in the system's language.
+  [[nodiscard]] virtual Text WeekdayName(const LocalTime& time) const = 0;
+};
+
+}  // namespace kelvora

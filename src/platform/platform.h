@@ -1,0 +1,25 @@
+// Everything outside the program that the logic asks for, in one place. The real one stands in
+// platform/qt, that of the tests in tests/support. Files are not here: they are standard C++.
+#pragma once
+
+#include "platform/boxes.h"
+#include "platform/clock.h"
+#include "platform/events.h"
+#include "platform/folders.h"
+#include "platform/locale.h"
+#include "platform/pointer.h"
+#include "platform/screen.h"
+
+namespace kelvora {
+
+struct Platform {
+  Boxes& boxes;
+  Pointer& pointer;
+  Locale& locale;
+  Folders& folders;
+  Clock& clock;
+  Screen& screen;
+  Events& events;
+};
+
+}  // namespace kelvora

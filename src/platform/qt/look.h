@@ -1,0 +1,24 @@
+// The look that all windows share: icons and the unit of layout.
+#pragma once
+
+#include <string_view>
+
+#include <QAction>
+#include <QIcon>
+
+#include "core/geometry.h"
+
+class QWidget;
+
+namespace kelvora {
+
+// The icon of that name in resources/icons; sharp at every scale.
+[[nodiscard]] QIcon IconNamed(std::string_view name);
+
+// Gives a widget the name by which tests and assistive tools find it.
+void NameWidget(QWidget* widget, const char* object_name);
+
+// Gives an action its texts: caption, tool tip and the same for assistive tools.
+void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip);
+
+}  // namespace kelvora

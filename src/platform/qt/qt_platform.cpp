@@ -1,0 +1,151 @@
+#include "platform/qt/qt_platform.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::none:
+      return QMessageBox::NoIcon;
+    case BoxIcon::information:
+      return QMessageBox::Information;
+    case BoxIcon::question:
+      return QMessageBox::Question;
+    case BoxIcon::warning:
+      return QMessageBox::Warning;
+    case BoxIcon::error:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// The button that loses nothing stands first: it is the default and what Escape answers.
+QMessageBox::StandardButton SafeButtonOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::ok:
+      return QMessageBox::Ok;
+    case BoxButtons::yes_no:
+      return QMessageBox::No;
+    case BoxButtons::yes_no_cancel:
+      return QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::ok:
+      return QMessageBox::Ok;
+    case BoxButtons::yes_no:
+      return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::yes_no_cancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QDateTime DateTimeOf(const LocalTime& time) {
+  return {QDate(time.year, time.month, time.day), QTime(time.hour, time.minute, time.second)};
+}
+
+std::string Standard(QStandardPaths::StandardLocation location) {
+  return QStandardPaths::writableLocation(location).toStdString();
+}
+
+}  // namespace
+
+BoxAnswer QtBoxes::Show(const Box& box) {
+  // A box during a long operation must be usable with a normal pointer.
+  const bool waiting = QApplication::overrideCursor() != nullptr;
+  if (waiting) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  QMessageBox window(QApplication::activeWindow());
+  window.setObjectName(QStringLiteral("message_box"));
+  window.setWindowTitle(ToQt(box.title));
+  window.setTextFormat(Qt::PlainText);
+  window.setText(ToQt(box.text));
+  window.setIcon(IconOf(box.icon));
+  window.setStandardButtons(ButtonsOf(box.buttons));
+  window.setDefaultButton(SafeButtonOf(box.buttons));
+  window.setEscapeButton(SafeButtonOf(box.buttons));
+  const int answer = window.exec();
+  if (waiting) QApplication::restoreOverrideCursor();
+  switch (answer) {
+    case QMessageBox::Yes:
+      return BoxAnswer::yes;
+    case QMessageBox::No:
+      return BoxAnswer::no;
+    case QMessageBox::Cancel:
+      return BoxAnswer::cancel;
+    default:
+      return BoxAnswer::ok;
+  }
+}
+
+void QtPointer::ShowWait() {
+  if (!waiting_) QApplication::setOverrideCursor(Qt::WaitCursor);
+  waiting_ = true;
+}
+
+void QtPointer::Restore() {
+  if (waiting_) QApplication::restoreOverrideCursor();
+  waiting_ = false;
+}
+
+Text QtLocale::DecimalSeparator() const {
+  return FromQt(QLocale::system().decimalPoint());
+}
+
+Text QtLocale::DayMonthYear(const LocalTime& time) const {
+  return FromQt(DateTimeOf(time).toString(QStringLiteral("dd/MM/yyyy")));
+}
+
+Text QtLocale::HourMinuteSecond(const LocalTime& time) const {
+  return FromQt(DateTimeOf(time).toString(QStringLiteral("HH/mm/s")));
+}
+
+Text QtLocale::WeekdayName(const LocalTime& time) const {
+  return FromQt(QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd")));
+}
+
+std::string QtFolders::ApplicationData() const {
+  return Standard(QStandardPaths::GenericConfigLocation);
+}
+
+std::string QtFolders::Documents() const {
+  return Standard(QStandardPaths::DocumentsLocation);
+}
+
+std::string QtFolders::ProgramFolder() const {
+  return QFileInfo(QCoreApplication::applicationFilePath()).canonicalPath().toStdString();
+}
+
+LocalTime QtClock::Now() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  return {now.date().year(), now.date().month(),  now.date().day(),
+          now.time().hour(), now.time().minute(), now.time().second()};
+}
+
+ScreenSize QtScreenSize::Size() const {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {};
+  return {screen->size().width(), screen->size().height()};
+}
+
+void QtEvents::Yield() {
+  constexpr int kLeastMilliseconds = 8;
+  if (last_.elapsed() < kLeastMilliseconds) return;
+  QCoreApplication::processEvents();
+  last_.restart();
+}
+
+}  // namespace kelvora

@@ -1,0 +1,74 @@
+// The real outside: Qt's boxes, pointer, locale, folders, clock, screen and event loop.
+#pragma once
+
+#include <QElapsedTimer>
+
+#include "platform/platform.h"
+
+namespace kelvora {
+
+class QtBoxes : public Boxes {
+ public:
+  BoxAnswer Show(const Box& box) override;
+};
+
+class QtPointer : public Pointer {
+ public:
+  void ShowWait() override;
+  void Restore() override;
+
+ private:
+  bool waiting_ = false;
+};
+
+class QtLocale : public Locale {
+ public:
+  Text DecimalSeparator() const override;
+  Text DayMonthYear(const LocalTime& time) const override;
+  Text HourMinuteSecond(const LocalTime& time) const override;
+  Text WeekdayName(const LocalTime& time) const override;
+};
+
+class QtFolders : public Folders {
+ public:
+  std::string ApplicationData() const override;
+  std::string Documents() const override;
+  std::string ProgramFolder() const override;
+};
+
+class QtClock : public Clock {
+ public:
+  LocalTime Now() const override;
+};
+
+class QtScreenSize : public Screen {
+ public:
+  ScreenSize Size() const override;
+};
+
+class QtEvents : public Events {
+ public:
+  QtEvents() { last_.start(); }
+  void Yield() override;
+
+ private:
+  QElapsedTimer last_;
+};
+
+// All of them together, made once.
+class QtPlatform {
+ public:
+  [[nodiscard]] Platform& Get() { return platform_; }
+
+ private:
+  QtBoxes boxes_;
+  QtPointer pointer_;
+  QtLocale locale_;
+  QtFolders folders_;
+  QtClock clock_;
+  QtScreenSize screen_;
+  QtEvents events_;
+  Platform platform_{boxes_, pointer_, locale_, folders_, clock_, screen_, events_};
+};
+
+}  // namespace kelvora

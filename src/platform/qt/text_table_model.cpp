@@ -1,0 +1,57 @@
+#include "platform/qt/text_table_model.h"
+
+#include "platform/qt/text.h"
+
+namespace kelvora {
+
+void TextTableModel::Show(std::vector<Column> columns, std::size_t row_count, CellText cell) {
+  beginResetModel();
+  columns_ = std::move(columns);
+  row_count_ = row_count;
+  cell_ = std::move(cell);
+  endResetModel();
+}
+
+void TextTableModel::SetRowIcon(int column, const QIcon& icon) {
+  icon_column_ = column;
+  icon_ = icon;
+}
+
+int TextTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(row_count_);
+}
+
+int TextTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+Qt::ItemFlags TextTableModel::flags(const QModelIndex& index) const {
+  return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled;
+}
+
+QVariant TextTableModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const auto row = static_cast<std::size_t>(index.row());
+  const auto column = static_cast<std::size_t>(index.column());
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+      return ToQt(cell_(row, column));
+    case Qt::TextAlignmentRole:
+      return QVariant(columns_[column].alignment | Qt::AlignVCenter);
+    case Qt::DecorationRole:
+      return index.column() == icon_column_ ? QVariant(icon_) : QVariant();
+    default:
+      return {};
+  }
+}
+
+QVariant TextTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  const Column& column = columns_[static_cast<std::size_t>(section)];
+  if (role == Qt::DisplayRole) return ToQt(column.heading);
+  if (role == Qt::TextAlignmentRole) return QVariant(column.alignment | Qt::AlignVCenter);
+  return {};
+}
+
+}  // namespace kelvora

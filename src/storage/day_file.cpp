@@ -1,0 +1,123 @@
+#include "storage/day_file.h"
+
+#include "core/common.h"
+#include "language/common_texts.h"
+#include "language/main_texts.h"
+#include "storage/record_file.h"
+
+namespace kelvora {
+namespace {
+
+// In the order in which closing a day closes them.
+constexpr std::array kDayWindows = {
+    WindowId::day_summary, WindowId::multi_day, WindowId::diary,
+    WindowId::morning,     WindowId::afternoon, WindowId::evening,
+};
+
+bool AskYesNo(Program& program, TextId title, Text text) {
+  const Box box{.title = program.texts[title],
+                .text = std::move(text),
+                .icon = BoxIcon::question,
+                .buttons = BoxButtons::yes_no};
+  return program.platform.boxes.Show(box) == BoxAnswer::yes;
+}
+
+bool MayDropDayForAnother(Program& program) {
+  using namespace common_text;
+  if (!program.day.FileChanged) return true;
+  return AskYesNo(
+      program, kOpenFileTitle,
+      JoinLines(program.texts, {kOpenFileGoing, kOpenFileNotSaved, std::nullopt, kOpenFileSure}));
+}
+
+void TakeDay(KV_data& store, const Rec_DayFile& record) {
+  store.txt_trenddata = record[DayFileField::Trend];
+  store.txt_notities = record[DayFileField::Notes];
+  SplitBlock(record[DayFileField::Header], store.L_gegevens);
+  SplitBlock(record[DayFileField::Morning], store.L_ochtend);
+  SplitBlock(record[DayFileField::Afternoon], store.L_middag);
+  SplitBlock(record[DayFileField::Evening], store.L_avond);
+}
+
+Rec_DayFile PackDay(const KV_data& store) {
+  return {{store.txt_trenddata, store.txt_notities, PackBlock(store.L_gegevens),
+           PackBlock(store.L_ochtend), PackBlock(store.L_middag), PackBlock(store.L_avond)}};
+}
+
+}  // namespace
+
+void LoadDay(Program& program, const std::string& folder, std::string_view file_name) {
+  const std::string path = folder + Utf8FromText(file_name);
+  if (!FileExists(path)) return;
+  program.Guard("#FF1-8", [&] {
+    Pointer& pointer = program.platform.pointer;
+    pointer.ShowWait();
+    if (!MayDropDayForAnother(program)) {
+      pointer.Restore();
+      return;
+    }
+    // The name may belong to the row of a window that closes with the day.
+    const Text name(file_name);
+    CloseDay(program);
+    TakeDay(program.store, ReadOrKeepRecord(path, program.last_read.day));
+    program.store.KV_bestand = name;
+    pointer.Restore();
+  });
+}
+
+void SaveDay(Program& program) {
+  program.Guard("#FF1-9", [&] {
+    const KV_data& store = program.store;
+    program.platform.pointer.ShowWait();
+    if (!store.DayIsOpen()) return;  // meant: the next routine restores the pointer
+    WriteRecord(UserFolder(program.paths, store.L_gegevens[HeaderRow::kName]) + "Files/" +
+                    Utf8FromText(store.KV_bestand),
+                PackDay(store));
+    program.platform.pointer.Restore();
+    SetFileChanged(program, false);
+  });
+}
+
+void CloseDay(Program& program) {
+  KV_data& store = program.store;
+  for (TextList* list :
+       {&store.L_gegevens, &store.L_ochtend, &store.L_middag, &store.L_avond, &store.temp_filter,
+        &store.Dupe_list_teller, &store.Dupe_list, &store.var_filter}) {
+    list->Clear();
+  }
+  store.txt_trenddata.clear();
+  store.txt_notities.clear();
+  store.KV_bestand.clear();
+  program.day.DayDialogMode = DayDialogMode::new_day;
+  program.day.selected_names = {};
+  SetFileChanged(program, false);
+
+  OpenWindows& windows = program.windows;
+  if (FoodListsView* const lists = windows.lists) {
+    lists->Populate_Food_List_Custom();
+    lists->Populate_Food_List_Favo();
+    lists->CloseWindow();
+  }
+  for (const WindowId id : kDayWindows) {
+    if (WindowView* const window = windows.Find(id)) window->CloseWindow();
+  }
+}
+
+bool MayDropDayForNewOne(Program& program) {
+  using namespace main_text;
+  if (!program.day.FileChanged) return true;
+  return AskYesNo(
+      program, kNewFile,
+      JoinLines(program.texts, {kNewFileGoing, kNewFileLost, std::nullopt, kNewFileSure}));
+}
+
+Text NewDayFileName(const Locale& locale, const LocalTime& now) {
+  Text name = locale.DayMonthYear(now) + locale.HourMinuteSecond(now) + ".kvf";
+  for (const char* mark :
+       {":", "/", "\\", "PM", "pm", "AM", "am", "P.M.", "p.m.", "A.M.", "a.m."}) {
+    name = ReplaceAll(name, mark, "-");
+  }
+  return ReplaceAll(ReplaceAll(name, " ", ""), "-", "");
+}
+
+}  // namespace kelvora

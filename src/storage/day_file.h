@@ -1,0 +1,34 @@
+// The file of one day: reading it into the store, writing it, closing the day.
+//
+// Six strings: trend text, diary, header and the three day parts as blocks. The name of a file is
+// an opaque key made once, when the day is begun. What is asked before unsaved work is dropped
+// stands here too.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/program.h"
+
+namespace kelvora {
+
+// Reads `folder` + `file_name` into the store. A file that can't be opened changes nothing, and so
+// does a No to the question about unsaved changes. A failure shows "#FF1-8" and leaves no day open.
+// `folder` is a UTF-8 path with its closing "/".
+void LoadDay(Program& program, const std::string& folder, std::string_view file_name);
+
+// Writes the open day to its user's folder; does nothing with no day open. A failure shows
+// "#FF1-9", and the day stays changed.
+void SaveDay(Program& program);
+
+// Empties the day and closes the windows that show it. Asks nothing and saves nothing.
+void CloseDay(Program& program);
+
+// True if a new day may take the place of the open one: nothing is unsaved, or the user says so.
+[[nodiscard]] bool MayDropDayForNewOne(Program& program);
+
+// The name of a day file begun at `now`: day, month, year, hours, minutes and seconds (one digit
+// below ten), and ".kvf".
+[[nodiscard]] Text NewDayFileName(const Locale& locale, const LocalTime& now);
+
+}  // namespace kelvora

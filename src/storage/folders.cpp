@@ -1,0 +1,105 @@
+#include "storage/folders.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace kelvora {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The names in a folder that `wanted` takes, sorted without regard to case.
+template <class Wanted>
+TextList NamesIn(const std::string& path, Wanted wanted) {
+  struct Name {
+    Text key;
+    Text name;
+  };
+  std::vector<Name> names;
+  std::error_code failure;
+  for (fs::directory_iterator entry(path, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
+    if (!wanted(*entry)) continue;
+    const Text name = TextFromUtf8(entry->path().filename().string());
+    names.push_back({LowerCase(name), name});
+  }
+  std::ranges::sort(names, [](const Name& a, const Name& b) {
+    return a.key != b.key ? a.key < b.key : a.name < b.name;
+  });
+  TextList list;
+  for (const Name& name : names) list.Add(name.name);
+  return list;
+}
+
+}  // namespace
+
+std::string DefaultUsersPath(const Folders& folders) {
+  return folders.Documents() + "/Kelvora FOOD/My Users/";
+}
+
+void DetermineFolders(Program& program) {
+  const Folders& folders = program.platform.folders;
+  const std::string application_data = folders.ApplicationData();
+  const std::string documents = folders.Documents();
+  Paths& paths = program.paths;
+
+  paths.ProgramPath = folders.ProgramFolder() + "/";
+  MakeFolder(application_data + "/Brelux/");
+  for (const char* folder : {"", "/My Users", "/My Reports", "/My Language"}) {
+    MakeFolder(documents + "/Kelvora FOOD" + folder);
+  }
+  paths.UsersPath = DefaultUsersPath(folders);
+  paths.ReportsPath = documents + "/Kelvora FOOD/My Reports/";
+  paths.LanguagePath = documents + "/Kelvora FOOD/My Language/";
+  paths.SettingsFile = application_data + "/Brelux/kvfset.dat";
+}
+
+void ApplyAlternativeUsersFolder(Program& program) {
+  if (program.settings[Setting::chk_map] != "1") return;
+  program.paths.UsersPath = Utf8FromText(program.settings[Setting::txt_map]);
+}
+
+bool MakeFolder(const std::string& path) {
+  std::error_code failure;
+  fs::create_directories(path.ends_with('/') ? path : path + "/", failure);
+  return !failure;
+}
+
+bool CanNameAFolder(std::string_view name) {
+  return name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
+}
+
+void MakeUserFolders(const Paths& paths, std::string_view name) {
+  if (!CanNameAFolder(name)) return;
+  for (const char* folder : {"Profile", "Files", "Databases"}) {
+    MakeFolder(UserFolder(paths, name) + folder);
+  }
+}
+
+std::string ProfileFile(const Paths& paths, std::string_view name) {
+  return UserFolder(paths, name) + "Profile/Profile.usr";
+}
+
+std::string CustomFile(const Paths& paths, std::string_view name) {
+  return UserFolder(paths, name) + "Databases/Custom.dat";
+}
+
+std::string FavoritesFile(const Paths& paths, std::string_view name) {
+  return UserFolder(paths, name) + "Databases/Favorites.dat";
+}
+
+TextList SubFoldersOf(const std::string& path) {
+  return NamesIn(path, [](const fs::directory_entry& entry) {
+    std::error_code ignored;
+    return entry.is_directory(ignored);
+  });
+}
+
+TextList FilesIn(const std::string& path, std::string_view extension) {
+  return NamesIn(path, [extension](const fs::directory_entry& entry) {
+    std::error_code ignored;
+    return entry.path().extension() == extension && !entry.is_directory(ignored);
+  });
+}
+
+}  // namespace kelvora

@@ -1,0 +1,44 @@
+// The folders of the program and of one user: where they lie and how they come to be.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/program.h"
+
+namespace kelvora {
+
+// Fixes all paths and creates what is missing, before any file is touched. A folder that can't be
+// created leads to no message here: the first file operation on it fails.
+void DetermineFolders(Program& program);
+
+// The users folder below the documents folder.
+[[nodiscard]] std::string DefaultUsersPath(const Folders& folders);
+
+// Takes the users folder of the settings, if `chk_map` asks for it.
+void ApplyAlternativeUsersFolder(Program& program);
+
+// Creates a folder with all its parents; false if that fails.
+bool MakeFolder(const std::string& path);
+
+// False for what this platform can't put in the name of a folder: "/", NUL, and the whole names
+// "." and "..".
+[[nodiscard]] bool CanNameAFolder(std::string_view name);
+
+// Creates the three folders of a user, whose name is used exactly as it was typed. A name that no
+// folder can have gets none, which shows at the first write of the profile.
+void MakeUserFolders(const Paths& paths, std::string_view name);
+
+[[nodiscard]] std::string ProfileFile(const Paths& paths, std::string_view name);
+[[nodiscard]] std::string CustomFile(const Paths& paths, std::string_view name);
+[[nodiscard]] std::string FavoritesFile(const Paths& paths, std::string_view name);
+
+// The names of the sub-folders of `path`, sorted; none if it can't be read.
+[[nodiscard]] TextList SubFoldersOf(const std::string& path);
+
+// The names of the files in `path` that end in `extension`, sorted by name without regard to case;
+// none if it can't be read.
+[[nodiscard]] TextList FilesIn(const std::string& path, std::string_view extension);
+
+}  // namespace kelvora

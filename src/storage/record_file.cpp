@@ -1,0 +1,130 @@
+#include "storage/record_file.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <system_error>
+
+#include "core/common.h"
+
+namespace kelvora {
+namespace {
+
+constexpr std::size_t kLongStringMark = 0xFFFF;
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+[[noreturn]] void ThrowSystemError() {
+  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category());
+}
+
+File Open(const std::string& path, const char* mode) {
+  errno = 0;
+  File file(std::fopen(path.c_str(), mode));
+  if (file == nullptr) ThrowSystemError();
+  return file;
+}
+
+// Reads little-endian numbers and strings from the front of a file image; what lies beyond the end
+// reads as zero bytes and empty strings.
+class RecordReader {
+ public:
+  explicit RecordReader(std::string_view bytes) : rest_(bytes) {}
+
+  std::uint32_t Number(std::size_t size) {
+    std::uint32_t value = 0;
+    const std::string_view bytes = Take(size);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+      value |= std::uint32_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
+    }
+    return value;
+  }
+
+  std::string_view String() {
+    const std::uint32_t length = Number(2);
+    return Take(length == kLongStringMark ? Number(4) : length);
+  }
+
+ private:
+  std::string_view Take(std::size_t size) {
+    const std::string_view taken = rest_.substr(0, size);
+    rest_.remove_prefix(taken.size());
+    return taken;
+  }
+
+  std::string_view rest_;
+};
+
+void AppendNumber(std::string& out, std::size_t value, int size) {
+  for (int i = 0; i < size; ++i) out += static_cast<char>(value >> (8 * i));
+}
+
+void AppendString(std::string& out, std::string_view text) {
+  if (text.size() < kLongStringMark) {
+    AppendNumber(out, text.size(), 2);
+  } else {
+    AppendNumber(out, kLongStringMark, 2);
+    AppendNumber(out, text.size(), 4);
+  }
+  out += text;
+}
+
+}  // namespace
+
+std::string ReadFile(const std::string& path) {
+  const File file = Open(path, "rb");
+  std::error_code unknown_size;
+  const auto expected = std::filesystem::file_size(path, unknown_size);
+  std::string bytes;
+  if (!unknown_size) bytes.reserve(expected);
+  std::array<char, 1 << 16> chunk;
+  std::size_t count = 0;
+  while ((count = std::fread(chunk.data(), 1, chunk.size(), file.get())) > 0) {
+    bytes.append(chunk.data(), count);
+  }
+  if (std::ferror(file.get()) != 0) ThrowSystemError();
+  return bytes;
+}
+
+void DeleteFileIfThere(const std::string& path) {
+  while (FileExists(path)) std::filesystem::remove(path);
+}
+
+void WriteFileAnew(const std::string& path, std::string_view bytes) {
+  DeleteFileIfThere(path);
+  File file = Open(path, "wb");
+  errno = 0;
+  if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) ThrowSystemError();
+  // Buffered bytes may meet a full disk only now.
+  if (std::fclose(file.release()) != 0) ThrowSystemError();
+}
+
+bool DecodeFirstRecord(std::string_view bytes, std::span<Text> strings) {
+  RecordReader reader(bytes);
+  if (static_cast<std::int32_t>(reader.Number(4)) <= 0) return false;
+  for (Text& string : strings) string = reader.String();
+  return true;
+}
+
+std::string EncodeRecord(std::span<const Text> strings) {
+  std::size_t size = 4;
+  for (const Text& string : strings) size += string.size() + 6;
+  std::string bytes;
+  bytes.reserve(size);
+  AppendNumber(bytes, 1, 4);
+  for (const Text& string : strings) AppendString(bytes, string);
+  return bytes;
+}
+
+void ThrowNoRecord() {
+  throw std::runtime_error("The file holds no record");
+}
+
+}  // namespace kelvora

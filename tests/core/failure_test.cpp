@@ -1,0 +1,31 @@
+#include "core/failure.h"
+
+#include <gtest/gtest.h>
+#include <system_error>
+
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+TEST(FailurePath, ShowsTheSystemsWordsAndTheCode) {
+  TestProgram test;
+  const bool done = test.program.Guard(
+      "#FF1-9", [] { throw std::system_error(ENOSPC, std::generic_category(), "writing"); });
+  EXPECT_FALSE(done);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  const Box& box = test.boxes.shown[0];
+  EXPECT_EQ(box.title, "Kelvora FOOD");
+  EXPECT_EQ(box.text, "An error occured.\n\nNo space left on device\nBrelux CODE:#FF1-9");
+  EXPECT_EQ(box.icon, BoxIcon::none);
+  EXPECT_EQ(box.buttons, BoxButtons::ok);
+}
+
+TEST(FailurePath, SaysNothingWhenNothingFails) {
+  TestProgram test;
+  EXPECT_TRUE(test.program.Guard("#FF1-9", [] {}));
+  EXPECT_TRUE(test.boxes.shown.empty());
+}
+
+}  // namespace
+}  // namespace kelvora

@@ -1,0 +1,109 @@
+#include "core/startup.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "language/main_texts.h"
+#include "storage/record_file.h"
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+// A program whose machine is as bare as at a first start.
+struct BareMachine {
+  BareMachine() { program.windows.core = &core; }
+  RecordingBoxes boxes;
+  RecordingPointer pointer;
+  FixedLocale locale;
+  TemporaryFolders folders;
+  FixedClock clock;
+  FixedScreen screen;
+  CountingEvents events;
+  Platform platform{boxes, pointer, locale, folders, clock, screen, events};
+  RecordingCore core;
+  Program program{platform};
+};
+
+TEST(StartUp, AFirstStartMakesFoldersLanguagesAndSettings) {
+  BareMachine machine;
+  StartUp(machine.program);
+  EXPECT_TRUE(machine.boxes.shown.empty());
+  for (const char* name : {"My Users", "My Reports", "My Language"}) {
+    EXPECT_TRUE(
+        std::filesystem::is_directory(machine.folders.Documents() + "/Kelvora FOOD/" + name))
+        << name;
+  }
+  for (const char* name : {"English.lsf", "Nederlands.lsf", "default.lsf"}) {
+    EXPECT_TRUE(std::filesystem::exists(machine.program.paths.LanguagePath + name)) << name;
+  }
+  EXPECT_EQ(machine.program.texts[main_text::kFile], "File");
+  EXPECT_FALSE(machine.program.store.DayIsOpen());
+  EXPECT_TRUE(machine.program.paths.UserName.empty());
+
+  const auto saved =
+      ReadFirstRecord<Rec_Settings>(machine.folders.ApplicationData() + "/Brelux/kvfset.dat");
+  ASSERT_TRUE(saved.has_value());
+  EXPECT_EQ((*saved)[Setting::StartCount], "1");
+  EXPECT_EQ((*saved)[Setting::Combo_taal], "default.lsf");
+  EXPECT_EQ((*saved)[Setting::chk_help], "1");
+  EXPECT_EQ((*saved)[Setting::reserved_11], "1");
+  EXPECT_EQ((*saved)[Setting::reserved_3], "");
+}
+
+TEST(StartUp, EachStartCountsAndTheChosenLanguageIsLoaded) {
+  BareMachine machine;
+  StartUp(machine.program);
+  Rec_Settings settings = *ReadFirstRecord<Rec_Settings>(machine.program.paths.SettingsFile);
+  settings[Setting::Combo_taal] = "Nederlands.lsf";
+  WriteRecord(machine.program.paths.SettingsFile, settings);
+  StartUp(machine.program);
+  EXPECT_EQ(machine.program.settings[Setting::StartCount], "2");
+  EXPECT_EQ(machine.program.texts[main_text::kFile], "Bestand");
+}
+
+TEST(StartUp, ALanguageThatIsGoneFallsBackWithoutAWord) {
+  BareMachine machine;
+  StartUp(machine.program);
+  Rec_Settings settings = *ReadFirstRecord<Rec_Settings>(machine.program.paths.SettingsFile);
+  settings[Setting::Combo_taal] = "Gone.lsf";
+  WriteRecord(machine.program.paths.SettingsFile, settings);
+  StartUp(machine.program);
+  EXPECT_EQ(machine.program.settings[Setting::Combo_taal], "default.lsf");
+  EXPECT_TRUE(machine.boxes.shown.empty());
+}
+
+TEST(StartUp, ADamagedSettingsFileLeavesTheDefaults) {
+  BareMachine machine;
+  std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
+  WriteFileAnew(machine.folders.ApplicationData() + "/Brelux/kvfset.dat", "");
+  StartUp(machine.program);
+  EXPECT_EQ(machine.program.settings[Setting::chk_wiz], "1");
+  EXPECT_EQ(machine.program.settings[Setting::StartCount], "1");
+}
+
+TEST(StartUp, TheAlternativeUsersFolderTakesOverAsItIsStored) {
+  BareMachine machine;
+  std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
+  Rec_Settings settings;
+  settings[Setting::chk_map] = "1";
+  settings[Setting::txt_map] = "/elsewhere/data/";
+  WriteRecord(machine.folders.ApplicationData() + "/Brelux/kvfset.dat", settings);
+  StartUp(machine.program);
+  EXPECT_EQ(machine.program.paths.UsersPath, "/elsewhere/data/");
+}
+
+TEST(StartUp, MessagesComeInTheChosenLanguage) {
+  BareMachine machine;
+  std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
+  Rec_Settings settings;
+  settings[Setting::Combo_taal] = "English.lsf";
+  WriteRecord(machine.folders.ApplicationData() + "/Brelux/kvfset.dat", settings);
+  machine.screen.size = {800, 600};
+  StartUp(machine.program);
+  ASSERT_EQ(machine.boxes.shown.size(), 1u);
+  EXPECT_TRUE(machine.boxes.shown[0].text.starts_with("Your screen resolution"));
+}
+
+}  // namespace
+}  // namespace kelvora

@@ -1,0 +1,135 @@
+"""A desktop of its own for one end-to-end test: a virtual display, a window manager, the program.
+
+Real windows, real mouse and keyboard; nothing here knows the program's code. Everything that is
+started is ended again by its process id. On a failure the last picture of the screen is kept.
+"""
+import os
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+WIDTH, HEIGHT = 1024, 768
+
+
+class Desktop:
+    """The display with its window manager; use it as a context manager."""
+
+    def __init__(self):
+        self.processes = []
+        self.home = tempfile.TemporaryDirectory(prefix="kelvora-e2e-")
+        self.environment = None
+
+    def __enter__(self):
+        reading, writing = os.pipe()
+        self.processes.append(subprocess.Popen(
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{WIDTH}x{HEIGHT}x24"],
+            pass_fds=[writing], stderr=subprocess.DEVNULL))
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            display = ":" + answer.readline().strip()
+        runtime = Path(self.home.name, "run")
+        runtime.mkdir(mode=0o700)
+        self.environment = {
+            "PATH": os.environ["PATH"], "HOME": self.home.name, "DISPLAY": display,
+            "XDG_RUNTIME_DIR": str(runtime), "LANG": "C.UTF-8", "QT_SCALE_FACTOR": "1",
+        }
+        # The sanitizers of an instrumented build keep their own settings.
+        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
+            if name in os.environ:
+                self.environment[name] = os.environ[name]
+        self.processes.append(subprocess.Popen(
+            ["openbox"], env=self.environment, stderr=subprocess.DEVNULL))
+        self.wait_for("a window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in
+                      self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        return self
+
+    def __exit__(self, failure, *_):
+        if failure:
+            picture = Path(tempfile.gettempdir(), f"kelvora-e2e-failure-{os.getpid()}.png")
+            self.output("import", "-window", "root", str(picture))
+            print("the screen at the failure:", picture)
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.terminate()
+                process.wait(timeout=10)
+        self.home.cleanup()
+
+    def start(self, program):
+        """Starts the program and waits for its main window."""
+        process = subprocess.Popen([program], env=self.environment)
+        self.processes.append(process)
+        self.window("^Kelvora FOOD$")
+        self.settle()
+        return process
+
+    def output(self, *command):
+        return subprocess.run(command, env=self.environment, check=False, text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+
+    def wait_for(self, what, condition, seconds=30):
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            if condition():
+                return
+            time.sleep(0.05)
+        raise AssertionError(f"waited in vain for {what}")
+
+    def window(self, title):
+        """Waits until a visible window has that title (a regular expression)."""
+        self.wait_for(f"the window {title}",
+                      lambda: self.output("xdotool", "search", "--onlyvisible", "--name", title))
+
+    def no_window(self, title):
+        self.wait_for(f"the end of the window {title}", lambda: not
+                      self.output("xdotool", "search", "--onlyvisible", "--name", title))
+
+    def picture(self):
+        """The whole screen as raw RGB bytes."""
+        return subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
+                              env=self.environment, check=True, stdout=subprocess.PIPE).stdout
+
+    def settle(self):
+        """Waits until the screen has stood still for a moment."""
+        before = b""
+        for _ in range(100):
+            time.sleep(0.15)
+            now = self.picture()
+            if now == before:
+                return
+            before = now
+        raise AssertionError("the screen never stands still")
+
+    def keys(self, *keys):
+        self.output("xdotool", "key", "--delay", "40", *keys)
+        self.settle()
+
+    def type(self, text):
+        self.output("xdotool", "type", "--delay", "40", text)
+        self.settle()
+
+    def click(self, place, *held_keys):
+        self.output("xdotool", "mousemove", str(place[0]), str(place[1]))
+        for key in held_keys:
+            self.output("xdotool", "keydown", key)
+        self.output("xdotool", "click", "1")
+        for key in held_keys:
+            self.output("xdotool", "keyup", key)
+        self.settle()
+
+    def drag(self, start, end):
+        """Drags with the left button, in steps as a hand would."""
+        self.output("xdotool", "mousemove", str(start[0]), str(start[1]), "mousedown", "1")
+        for step in range(1, 21):
+            x = start[0] + (end[0] - start[0]) * step // 20
+            y = start[1] + (end[1] - start[1]) * step // 20
+            self.output("xdotool", "mousemove", str(x), str(y))
+            time.sleep(0.03)
+        time.sleep(0.2)
+        self.output("xdotool", "mouseup", "1")
+        self.settle()
+
+
+def region(picture, left, top, right, bottom):
+    """The pixels of a rectangle of a picture."""
+    return [picture[(y * WIDTH + left) * 3:(y * WIDTH + right) * 3] for y in range(top, bottom)]

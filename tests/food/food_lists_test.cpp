@@ -1,0 +1,122 @@
+#include "food/food_lists.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+class FoodListsTest : public testing::Test {
+ protected:
+  FoodListsTest() {
+    for (const char* file : {"Bread.dat", "Fruit.dat"}) store.lst_categorien.Add(file);
+    Add({.product = "Rye bread",
+         .unit = "1 slice",
+         .gram = "35.5",
+         .kj = "343.5",
+         .kcal = "82",
+         .fat_s = "0.4",
+         .remark = "roggebrood",
+         .db = "Bread.dat"});
+    Add({.product = "White bread", .remark = "witbrood", .db = "Bread.dat"});
+    Add({.product = "APPLE", .remark = "appel", .db = "Fruit.dat"});
+    store.Custom_list.Add(LineOf({.product = "Apple pie of my own"}));
+  }
+  void Add(const FoodLine& food) { store.Default_list.Add(LineOf(food)); }
+  std::vector<Text> Names() {
+    std::vector<Text> names;
+    for (std::size_t row = 0; row < lists.Count(FoodView::standard); ++row) {
+      names.push_back(lists.Cell(FoodView::standard, row, 1));
+    }
+    return names;
+  }
+  TestProgram test;
+  KV_data& store = test.program.store;
+  FoodLists lists{test.program};
+};
+
+TEST_F(FoodListsTest, TheStandardListBeginsWithItsFirstCategory) {
+  EXPECT_EQ(lists.Toon_Standaardlijst(), "Bread.dat");
+  EXPECT_EQ(Names(), (std::vector<Text>{"Rye bread", "White bread"}));
+  EXPECT_EQ(lists.AvailableText(FoodView::standard), "3 food items available");
+  const TextList categories = lists.Categories();
+  EXPECT_EQ(categories[0], "Bread");
+  EXPECT_EQ(categories[1], "Fruit");
+}
+
+TEST_F(FoodListsTest, WithoutFoodsThereIsNoCategory) {
+  store.Default_list.Clear();
+  EXPECT_EQ(lists.Toon_Standaardlijst(), std::nullopt);
+  EXPECT_EQ(lists.Count(FoodView::standard), 0u);
+}
+
+TEST_F(FoodListsTest, TypingFindsNamesByTheirBeginningInBothListsWithoutRegardToCase) {
+  lists.SearchPrefix("aPP");
+  EXPECT_EQ(Names(), (std::vector<Text>{"APPLE", "Apple pie of my own"}));
+  EXPECT_EQ(lists.ResultsText(), "2 results found");
+  lists.SearchPrefix("bread");
+  EXPECT_TRUE(Names().empty());
+  EXPECT_EQ(lists.ResultsText(), "0 results found");
+}
+
+TEST_F(FoodListsTest, EnterFindsTheTextAnywhereInALine) {
+  EXPECT_TRUE(lists.Zoek_In_Lijsten("BROOD"));
+  EXPECT_EQ(Names(), (std::vector<Text>{"Rye bread", "White bread"}));
+  EXPECT_FALSE(lists.Zoek_In_Lijsten(""));
+  EXPECT_EQ(lists.Count(FoodView::standard), 2u);
+}
+
+TEST_F(FoodListsTest, ACategoryIsASearchForItsFile) {
+  EXPECT_EQ(lists.ChooseCategory("Fruit"), "Fruit.dat");
+  EXPECT_EQ(Names(), std::vector<Text>{"APPLE"});
+}
+
+TEST_F(FoodListsTest, RowsShowNumberNameUnitWeightAndTheUsersNutrient) {
+  (void)lists.Toon_Standaardlijst();
+  const std::array<const char*, kFoodColumns> expected = {"1", "Rye bread", "1 slice", "35.5",
+                                                          "344"};
+  for (std::size_t i = 0; i < kFoodColumns; ++i) {
+    EXPECT_EQ(lists.Cell(FoodView::standard, 0, i), expected[i]);
+  }
+  EXPECT_EQ(lists.Headings(), (std::array<Text, 5>{"#", "Food item:", "Unit:", "Gram:", "Kj.:"}));
+  test.program.profile[ProfileField::type_prioriteit] = "3";
+  EXPECT_EQ(lists.Cell(FoodView::standard, 0, 4), "0");
+  EXPECT_EQ(lists.Headings()[4], "Fat (s).:");
+  test.program.settings[Setting::opt_gramoz] = "1";
+  // 35.5 g are 1.252 oz.
+  EXPECT_EQ(lists.Cell(FoodView::standard, 0, 3), "1.3");
+  EXPECT_EQ(lists.Headings()[3], "oz:");
+}
+
+TEST_F(FoodListsTest, AnAmountBeyondAllRangesIsDrawnAsNothing) {
+  const Text huge(400, '9');
+  store.Custom_list.Add(LineOf({.product = "Huge", .gram = huge, .kj = huge}));
+  test.program.settings[Setting::opt_gramoz] = "1";
+  EXPECT_EQ(lists.Cell(FoodView::own, 1, 3), "");
+  EXPECT_EQ(lists.Cell(FoodView::own, 1, 4), "");
+}
+
+TEST_F(FoodListsTest, ADragCarriesTheWholeLinesOfItsRows) {
+  (void)lists.Toon_Standaardlijst();
+  EXPECT_EQ(
+      lists.DragPayload(FoodView::standard, {0, 1}),
+      "add-" + Text(store.Default_list[0]) + kLineEnd + Text(store.Default_list[1]) + kLineEnd);
+}
+
+TEST_F(FoodListsTest, TenRowsCanBeDraggedAndElevenCannot) {
+  for (int i = 0; i < 12; ++i) store.Custom_list.Add(LineOf({.product = "Food"}));
+  std::vector<std::size_t> rows(10);
+  EXPECT_FALSE(lists.DragPayload(FoodView::own, rows).empty());
+  EXPECT_TRUE(test.boxes.shown.empty());
+  rows.resize(11);
+  EXPECT_EQ(lists.DragPayload(FoodView::own, rows), "");
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::warning);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "You can not drag more then 10 food items at the same time.\n"
+            "Please select the food item(s) again.");
+}
+
+}  // namespace
+}  // namespace kelvora

@@ -1,0 +1,120 @@
+#include "nutrition/numbers.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <stdexcept>
+
+namespace kelvora {
+namespace {
+
+TEST(Val, ReadsTheLongestPrefixThatIsANumber) {
+  EXPECT_EQ(Val("12.5"), 12.5);
+  EXPECT_EQ(Val("  -7 g"), -7);
+  EXPECT_EQ(Val("+3"), 3);
+  EXPECT_EQ(Val(".5"), 0.5);
+  EXPECT_EQ(Val("5."), 5);
+  EXPECT_EQ(Val("1.2.3"), 1.2);
+  EXPECT_EQ(Val("1e5"), 1);
+  EXPECT_EQ(Val("12abc34"), 12);
+}
+
+TEST(Val, NoDigitsGiveZero) {
+  for (const char* text : {"", " ", "-", ".", "abc", "g 12", "-.", "+-3"}) EXPECT_EQ(Val(text), 0);
+}
+
+TEST(Val, NeverFailsOnNumbersOfAnyLength) {
+  EXPECT_EQ(Val("0." + Text(400, '0') + "1"), 0);
+  EXPECT_EQ(Val(Text(400, '9')), std::numeric_limits<double>::infinity());
+  EXPECT_EQ(Val("-" + Text(400, '9')), -std::numeric_limits<double>::infinity());
+}
+
+TEST(ReadStoredNumber, CommaAndPointAreTheSame) {
+  EXPECT_EQ(ReadStoredNumber("70,5"), 70.5);
+  EXPECT_EQ(ReadStoredNumber("70.5 kg"), 70.5);
+  EXPECT_EQ(CommaToPoint("1,2,3"), "1.2.3");
+}
+
+struct StrCase {
+  double value;
+  const char* text;
+};
+
+TEST(Str, ADoubleHasUpToFifteenDigitsAndNeverAnExponent) {
+  for (const auto& [value, text] : {
+           StrCase{0, "0"},
+           StrCase{-0.0, "0"},
+           StrCase{0.5, "0.5"},
+           StrCase{-0.25, "-0.25"},
+           StrCase{10, "10"},
+           StrCase{0.1 + 0.2, "0.3"},
+           StrCase{1.0 / 3, "0.333333333333333"},
+           StrCase{2.0 / 3, "0.666666666666667"},
+           StrCase{1e20, "100000000000000000000"},
+           StrCase{1.5e-7, "0.00000015"},
+           StrCase{123456789012345678.0, "123456789012346000"},
+       }) {
+    EXPECT_EQ(Str(value, "."), text);
+  }
+}
+
+TEST(Str, ASingleHasUpToSevenDigits) {
+  EXPECT_EQ(Str(0.1f, "."), "0.1");
+  EXPECT_EQ(Str(1.0f / 3, "."), "0.3333333");
+  EXPECT_EQ(Str(123456789.0f, "."), "123456800");
+  EXPECT_EQ(Str(16777216.0f, "."), "16777220");
+  EXPECT_EQ(Str(80.5f, ","), "80,5");
+}
+
+TEST(Str, InfinityAndNotANumberAreFailures) {
+  EXPECT_THROW((void)Str(std::numeric_limits<float>::infinity(), "."), std::domain_error);
+  EXPECT_THROW((void)Str(std::nan(""), "."), std::domain_error);
+}
+
+struct FormatCase {
+  double value;
+  const char* pattern;
+  const char* text;
+};
+
+TEST(FormatNumber, PrintsByItsPattern) {
+  for (const auto& [value, pattern, text] : {
+           FormatCase{1.5, "##0.00", "1.50"},
+           FormatCase{0, "##0.00", "0.00"},
+           FormatCase{0.5, "##.00", ".50"},
+           FormatCase{0, "####0", "0"},
+           FormatCase{0, "####", ""},
+           FormatCase{0, "##", ""},
+           FormatCase{0.4, "###0", "0"},
+           FormatCase{12345, "##0", "12345"},
+           FormatCase{1.78, "0.#0", "1.78"},
+           FormatCase{2, "0.#0", "2.00"},
+           FormatCase{154.3236, "##0.00", "154.32"},
+           FormatCase{0.344, "##0.000", "0.344"},
+       }) {
+    EXPECT_EQ(FormatNumber(value, pattern, "."), text) << value << " " << pattern;
+  }
+}
+
+TEST(FormatNumber, RoundsHalvesAwayFromZero) {
+  EXPECT_EQ(FormatNumber(0.5, "0", "."), "1");
+  EXPECT_EQ(FormatNumber(1.5, "0", "."), "2");
+  EXPECT_EQ(FormatNumber(2.5, "0", "."), "3");
+  EXPECT_EQ(FormatNumber(-2.5, "0", "."), "-3");
+  // 2.675 is a little less in binary; its fifteen-digit form is exactly 2.675.
+  EXPECT_EQ(FormatNumber(2.675, "0.00", "."), "2.68");
+  EXPECT_EQ(FormatNumber(9.995, "0.00", "."), "10.00");
+  EXPECT_EQ(FormatNumber(999.5, "##0", "."), "1000");
+}
+
+TEST(FormatNumber, AResultOfZeroHasNoSign) {
+  EXPECT_EQ(FormatNumber(-0.004, "0.00", "."), "0.00");
+  EXPECT_EQ(FormatNumber(-0.4, "##", "."), "");
+}
+
+TEST(FormatNumber, TakesTheSeparatorItIsGiven) {
+  EXPECT_EQ(FormatNumber(1234.5, "##0.00", ","), "1234,50");
+}
+
+}  // namespace
+}  // namespace kelvora

@@ -1,0 +1,85 @@
+#include "support/test_program.h"
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+
+#include "core/common.h"
+#include "language/built_in_texts.h"
+#include "nutrition/dates.h"
+#include "storage/folders.h"
+#include "storage/settings_file.h"
+
+namespace kelvora {
+
+BoxAnswer RecordingBoxes::Show(const Box& box) {
+  shown.push_back(box);
+  if (answers.empty()) return box.buttons == BoxButtons::ok ? BoxAnswer::ok : BoxAnswer::no;
+  const BoxAnswer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+Text FixedLocale::DayMonthYear(const LocalTime& time) const {
+  return TwoDigits(time.day) + date_mark + TwoDigits(time.month) + date_mark +
+         std::to_string(time.year);
+}
+
+Text FixedLocale::HourMinuteSecond(const LocalTime& time) const {
+  return TwoDigits(time.hour) + date_mark + TwoDigits(time.minute) + date_mark +
+         std::to_string(time.second) + time_suffix;
+}
+
+TemporaryFolder::TemporaryFolder() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "kelvora-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  path_ = pattern;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+std::string TemporaryFolder::Path(const std::string& name) const {
+  return name.empty() ? path_.string() : (path_ / name).string();
+}
+
+TestProgram::TestProgram() {
+  program.windows.core = &core;
+  Make_Taal_English(program.texts);
+  DetermineFolders(program);
+  Apply_Default_Settings(program);
+  program.StartSeparator = locale.separator;
+}
+
+void TestProgram::OpenDay(std::string_view user, std::string_view file_name) {
+  MakeUserFolders(program.paths, user);
+  SetCurrentUser(program, user);
+  program.store.KV_bestand = file_name;
+  for (const std::string_view row :
+       {user, std::string_view(""), std::string_view(""), std::string_view(""),
+        std::string_view(""), std::string_view("1.80"), std::string_view("80.5"),
+        std::string_view("Male"), std::string_view("42"), std::string_view("05-03-04"),
+        std::string_view("75"), std::string_view("Friday"), std::string_view(""),
+        std::string_view(""), std::string_view("")}) {
+    program.store.L_gegevens.Add(row);
+  }
+}
+
+Text LineOf(const FoodLine& food) {
+  Text line;
+  for (const std::string_view field :
+       {food.product, food.unit, food.gram, food.kj, food.kcal, food.protein, food.fat_u,
+        food.fat_s, food.carbs, food.sodium, food.group, food.remark}) {
+    line.append(field) += kFieldEnd;
+  }
+  if (!food.db.empty()) line.append(food.db) += kFieldEnd;
+  return line;
+}
+
+Text Packed(std::string_view text) {
+  return ReplaceAll(ReplaceAll(text, "|", "½"_w), "~", "¾"_w);
+}
+
+}  // namespace kelvora

@@ -1,0 +1,129 @@
+// A whole program in a test: real files in a temporary home, and recording doubles at the platform
+// interfaces. A double does nothing but remember what it was asked and answer what the test set.
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "core/program.h"
+
+namespace kelvora {
+
+// Remembers every box; answers from the front of `answers`, then "ok" or, to a question, "no".
+struct RecordingBoxes : Boxes {
+  std::vector<Box> shown;
+  std::deque<BoxAnswer> answers;
+  BoxAnswer Show(const Box& box) override;
+};
+
+struct RecordingPointer : Pointer {
+  bool waiting = false;
+  void ShowWait() override { waiting = true; }
+  void Restore() override { waiting = false; }
+};
+
+struct FixedLocale : Locale {
+  Text separator = ".";
+  Text date_mark = "/";  // what the locale puts in the place of "/"
+  Text time_suffix;      // " PM" and the like
+  Text weekday = "Friday";
+  Text DecimalSeparator() const override { return separator; }
+  Text DayMonthYear(const LocalTime& time) const override;
+  Text HourMinuteSecond(const LocalTime& time) const override;
+  Text WeekdayName(const LocalTime&) const override { return weekday; }
+};
+
+struct FixedClock : Clock {
+  LocalTime now{.year = 2004, .month = 3, .day = 5, .hour = 14, .minute = 7, .second = 9};
+  LocalTime Now() const override { return now; }
+};
+
+struct FixedScreen : Screen {
+  ScreenSize size{1024, 768};
+  ScreenSize Size() const override { return size; }
+};
+
+struct CountingEvents : Events {
+  int yields = 0;
+  void Yield() override { ++yields; }
+};
+
+// A folder of its own below the system's temporary folder, gone with its content at the end.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  [[nodiscard]] std::string Path(const std::string& name = {}) const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+struct TemporaryFolders : Folders {
+  TemporaryFolder home;
+  std::string ApplicationData() const override { return home.Path(".config"); }
+  std::string Documents() const override { return home.Path("Documents"); }
+  std::string ProgramFolder() const override { return home.Path("program"); }
+};
+
+// The main window as the logic sees it; windows open nothing but a note.
+struct RecordingCore : CoreView {
+  MainWindowSize size{15360, 11520, 480};
+  std::vector<WindowId> opened;
+  int updates = 0;
+  void Set_Taal() override {}
+  void Set_toolbar_teksten() override {}
+  void ShowMainWindow() override {}
+  void BringToFront() override {}
+  void UpdateStatusBar() override {}
+  void UpdateCommands() override { ++updates; }
+  MainWindowSize Size() const override { return size; }
+  void OpenWindow(WindowId id) override { opened.push_back(id); }
+};
+
+// Made with its folders determined, English texts in the tables and default settings.
+class TestProgram {
+ public:
+  TestProgram();
+
+  RecordingBoxes boxes;
+  RecordingPointer pointer;
+  FixedLocale locale;
+  TemporaryFolders folders;
+  FixedClock clock;
+  FixedScreen screen;
+  CountingEvents events;
+  Platform platform{boxes, pointer, locale, folders, clock, screen, events};
+  RecordingCore core;
+  Program program{platform};
+
+  // A day of this user, with all fifteen header rows, unchanged and saved nowhere yet.
+  void OpenDay(std::string_view user, std::string_view file_name = "05032004140709.kvf");
+};
+
+// A food line with its closing terminators, "" for what is not given. Numbers stand as given.
+struct FoodLine {
+  std::string_view product;
+  std::string_view unit = "1 piece";
+  std::string_view gram = "0";
+  std::string_view kj = "0";
+  std::string_view kcal = "0";
+  std::string_view protein = "0";
+  std::string_view fat_u = "0";
+  std::string_view fat_s = "0";
+  std::string_view carbs = "0";
+  std::string_view sodium = "0";
+  std::string_view group = "0";
+  std::string_view remark = "";
+  std::string_view db = "";  // no thirteenth field when empty
+};
+[[nodiscard]] Text LineOf(const FoodLine& food);
+
+// `text` written in a test with "|" for the end of a field and "~" for the end of a line.
+[[nodiscard]] Text Packed(std::string_view text);
+
+}  // namespace kelvora
