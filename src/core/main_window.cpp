@@ -38,6 +38,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   BuildMenu();
   menu_toolbar_ = BuildToolbar("menu_toolbar", MenuToolbar());
   menu_toolbar_->setIconSize({kToolbarIconSize, kToolbarIconSize});
+  UseSmallLetters(menu_toolbar_);  // all buttons fit a screen of 1024 pixels in both languages
   addToolBar(Qt::TopToolBarArea, menu_toolbar_);
   Toolbar_quickscreens_ = BuildToolbar("Toolbar_quickscreens", QuickToolbar());
   Toolbar_quickscreens_->setIconSize({kQuickIconSize, kQuickIconSize});

@@ -21,7 +21,8 @@ namespace {
 namespace ct = consumption_text;
 
 constexpr int kProductColumn = 2;
-constexpr int kToolIconSize = 18;
+constexpr int kToolIconSize = 16;
+constexpr int kLeastListHeight = 38;  // the headings and one row
 
 // Captions of the totals panel, each beside the label of the same place.
 struct CaptionRow {
@@ -50,7 +51,8 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
   program_.windows.Consumption(part_) = this;
 
   LV_consumpties_ = new FoodTable("LV_consumpties", this);
-  LV_consumpties_->Model().SetRowIcon(kProductColumn, IconNamed("food-row"));
+  LV_consumpties_->horizontalHeader()->setStretchLastSection(true);
+  LV_consumpties_->setMinimumHeight(kLeastListHeight);
   BuildToolbars();
   BuildTotalsPanel();
   BuildStatusBar();
@@ -153,10 +155,12 @@ void ConsumptionWindow::BuildToolbars() {
 void ConsumptionWindow::BuildTotalsPanel() {
   Info_bar_ = new QWidget(this);
   NameWidget(Info_bar_, "Info_bar");
+  UseSmallLetters(Info_bar_);
+  Info_bar_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   auto* const grid = new QGridLayout(Info_bar_);
-  grid->setContentsMargins(8, 2, 8, 4);
+  grid->setContentsMargins(8, 1, 8, 1);
   grid->setHorizontalSpacing(4);
-  grid->setVerticalSpacing(1);
+  grid->setVerticalSpacing(0);
   for (std::size_t i = 0; i < kCaptions.size(); ++i) {
     captions_[i] = NewLabel(Info_bar_, QLatin1String(kCaptions[i].name));
     lbl_nfo_[i] = NewLabel(Info_bar_, QStringLiteral("lbl_nfo_%1").arg(i + 1));

@@ -155,7 +155,6 @@ void FoodListsWindow::BuildViews() {
   stack_ = new QStackedWidget(this);
   for (const ViewRow& row : kViews) {
     auto* const table = new FoodTable(row.table_name, stack_);
-    table->Model().SetRowIcon(kProductColumn, IconNamed("food-row"));
     table->setDragDropMode(QAbstractItemView::DragOnly);
     table->drag_payload = [this, view = row.view](const std::vector<std::size_t>& rows) {
       return rows.empty() ? Text() : lists_.DragPayload(view, rows);

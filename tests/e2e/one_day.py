@@ -13,11 +13,10 @@ from pathlib import Path
 from day_file_reader import FIELD_END, LINE_END, pieces, read_day_file
 from desktop import Desktop, region
 
-PROGRAM = Path(sys.argv[1]).resolve()
 FOODS = Path(__file__).resolve().parents[2] / "data" / "foods" / "Bread.tsv"
 
 # Places on a screen of 1024 x 768 with the main window maximised and the default screens open.
-FIRST_ROW, ROW_HEIGHT = (80, 307), 20
+FIRST_ROW, ROW_HEIGHT = (80, 306), 20
 MORNING, EVENING = (800, 220), (800, 625)
 DEFAULT_SCREENS = (85, 731)
 CONSUMPTION_WINDOWS = (631, 100, 1002, 706)
@@ -59,11 +58,11 @@ def row(index):
     return FIRST_ROW[0], FIRST_ROW[1] + index * ROW_HEIGHT
 
 
-def make_user_and_day(desktop):
+def make_user_and_day(desktop, title="Start a new day", gender="F"):
     desktop.keys("ctrl+n")
-    desktop.window("^Start a new day$")
+    desktop.window(f"^{title}$")
     desktop.type("Anna")
-    desktop.keys("Tab", "F", "Tab")
+    desktop.keys("Tab", gender, "Tab")
     desktop.type("42")
     desktop.keys("Tab")
     desktop.type("1.80")
@@ -78,7 +77,7 @@ def make_user_and_day(desktop):
     desktop.keys("Tab")
     desktop.type("80.5")
     desktop.keys("Return")
-    desktop.no_window("^Start a new day$")
+    desktop.no_window(f"^{title}$")
     desktop.settle()
 
 
@@ -112,12 +111,13 @@ def end(desktop, process):
 
 
 def main():
+    program = Path(sys.argv[1]).resolve()
     with open(FOODS, encoding="utf-8", newline="") as table:
         foods = list(csv.DictReader(table, delimiter="\t", quoting=csv.QUOTE_NONE))
     with Desktop() as desktop:
         user = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users", "Anna")
 
-        process = desktop.start(PROGRAM)
+        process = desktop.start(program)
         make_user_and_day(desktop)
         assert (user / "Profile" / "Profile.usr").is_file(), "no profile"
         assert not list((user / "Files").iterdir()), "a new day is on disk before it is saved"
@@ -131,7 +131,7 @@ def main():
         assert saved_screen != empty, "the rows do not show"
         end(desktop, process)
 
-        process = desktop.start(PROGRAM)
+        process = desktop.start(program)
         desktop.keys("ctrl+o")
         desktop.window("^Open file$")
         desktop.click(USERS_FIRST)

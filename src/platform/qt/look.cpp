@@ -1,5 +1,6 @@
 #include "platform/qt/look.h"
 
+#include <QFont>
 #include <QWidget>
 
 #include "platform/qt/text.h"
@@ -20,6 +21,12 @@ QIcon IconNamed(std::string_view name) {
 
 void NameWidget(QWidget* widget, const char* object_name) {
   widget->setObjectName(QLatin1String(object_name));
+}
+
+void UseSmallLetters(QWidget* widget) {
+  QFont font = widget->font();
+  font.setPointSizeF(font.pointSizeF() * 0.9);
+  widget->setFont(font);
 }
 
 void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip) {

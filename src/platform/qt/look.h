@@ -18,6 +18,9 @@ namespace kelvora {
 // Gives a widget the name by which tests and assistive tools find it.
 void NameWidget(QWidget* widget, const char* object_name);
 
+// Makes a widget's letters a little smaller than the desktop's, where room is scarce.
+void UseSmallLetters(QWidget* widget);
+
 // Gives an action its texts: caption, tool tip and the same for assistive tools.
 void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip);
 

@@ -1,0 +1,59 @@
+#!/usr/bin/env python3
+"""Takes the pictures of the running program: the main window with a day in it, and the dialogs.
+
+The arguments are the built program, the folder for the pictures and the name of a language file
+"""
+import struct
+import subprocess
+import sys
+from pathlib import Path
+
+from desktop import Desktop
+from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
+
+AFTERNOON = (800, 420)
+WORDS = {"nederlands": {"title": "Begin een nieuwe dag", "gender": "V"}}
+
+
+def choose_language(desktop, program, language):
+    """Lets the program make its settings, then names the language in them."""
+    process = desktop.start(program)
+    desktop.keys("ctrl+q")
+    process.wait(timeout=20)
+    settings = Path(desktop.home.name, ".config", "Brelux", "kvfset.dat")
+    data = settings.read_bytes()
+    (length,) = struct.unpack_from("<H", data, 4)
+    name = language.encode("cp1252")
+    settings.write_bytes(data[:4] + struct.pack("<H", len(name)) + name + data[6 + length:])
+
+
+def take(desktop, path):
+    subprocess.run(["import", "-window", "root", str(path)], env=desktop.environment, check=True)
+
+
+def main():
+    program, folder, language = Path(sys.argv[1]).resolve(), Path(sys.argv[2]), sys.argv[3]
+    stem = Path(language).stem.lower()
+    with Desktop() as desktop:
+        choose_language(desktop, program, language)
+        desktop.start(program)
+        take(desktop, folder / f"empty_{stem}.png")
+        desktop.keys("ctrl+n")
+        take(desktop, folder / f"new_day_{stem}.png")
+        desktop.keys("Escape")
+        make_user_and_day(desktop, **WORDS.get(stem, {}))
+        for number, place in [(2, MORNING), (7, MORNING), (11, AFTERNOON), (14, AFTERNOON),
+                              (4, EVENING)]:
+            desktop.click(row(number))
+            desktop.drag(row(number), place)
+        desktop.click((920, 342))
+        desktop.click((651, 139))
+        take(desktop, folder / f"main_window_{stem}.png")
+        desktop.keys("ctrl+s")
+        desktop.keys("ctrl+o")
+        desktop.click(DAYS_FIRST)
+        take(desktop, folder / f"open_day_{stem}.png")
+
+
+if __name__ == "__main__":
+    main()
