@@ -1,6 +1,7 @@
 #include "food/food_lists_window.h"
 
 #include <QActionGroup>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/program.h"
@@ -40,6 +41,19 @@ constexpr std::array kViews = {
 const ViewRow& RowOf(FoodView view) {
   return kViews[static_cast<std::size_t>(view)];
 }
+
+// The box holds the name of the category most of the time: what is typed takes its place.
+class SearchBox : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    // After the click that brings the focus, which puts the cursor somewhere.
+    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+  }
+};
 
 QLabel* NewLabel(QWidget* parent, const char* name) {
   auto* const label = new QLabel(parent);
@@ -126,7 +140,7 @@ void FoodListsWindow::BuildSearchPanel() {
   NameWidget(combo_cat_, "combo_cat");
   txt_zoekuitleg_ = NewLabel(Pic_zoek_, "txt_zoekuitleg");
   txt_zoekuitleg_->setWordWrap(true);
-  txt_zoeken_ = new QLineEdit(Pic_zoek_);
+  txt_zoeken_ = new SearchBox(Pic_zoek_);
   NameWidget(txt_zoeken_, "txt_zoeken");
   txt_zoeken_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_catuitleg_->setBuddy(combo_cat_);
@@ -234,6 +248,7 @@ void FoodListsWindow::Toon_Standaardlijst() {
     for (const Text& category : categories) combo_cat_->addItem(ToQt(category));
     combo_cat_->setCurrentIndex(0);
     txt_zoeken_->setText(ToQt(*searched));
+    txt_zoeken_->selectAll();
   }
   Populate(FoodView::standard);
   panels_[0]->setText(ToQt(program_.texts[kStatusStandard]));

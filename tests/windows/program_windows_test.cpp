@@ -231,6 +231,9 @@ TEST_F(ProgramWindows, TheListsStartWithTheFirstCategoryAndSearchAsYouType) {
   for (int i = 0; i < 5; ++i) QTest::keyClick(search, Qt::Key_Backspace);
   EXPECT_EQ(search->text(), "Bread.dat");
   EXPECT_EQ(Cell(list, 0, 1), "Bread");
+  // What is typed next takes the place of the category's name.
+  QTest::keyClicks(search, "ap");
+  EXPECT_EQ(search->text(), "ap");
 }
 
 TEST_F(ProgramWindows, ChoosingACategoryListsIt) {
