@@ -126,9 +126,7 @@ void MainWindow::AddDropDown(QToolBar* bar, QAction* action, Command drop_down) 
 void MainWindow::BuildStatusBar() {
   statusBar()->setObjectName(QStringLiteral("StatusBar"));
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    panels_[i] = new QLabel(this);
-    panels_[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
-    panels_[i]->setTextFormat(Qt::PlainText);
+    panels_[i] = NewLabel(this, QStringLiteral("StatusBar_%1").arg(i + 1));
     panels_[i]->setIndent(6);
     if (kPanelWidths[i] > 0) panels_[i]->setFixedWidth(kPanelWidths[i]);
     statusBar()->addWidget(panels_[i], kPanelWidths[i] > 0 ? 0 : 1);

@@ -97,4 +97,35 @@ struct OpenWindows {
   [[nodiscard]] WindowRecord* RecordOf(WindowId id);
 };
 
+// Keeps the open flag of one window: set from its making on, cleared when it closes or at the
+// latest when it is gone, each time with the commands of the main window in step. A window clears
+// it at its closing, since the same window may be opened again before the old one is deleted.
+template <class View>
+class OpenFlag {
+ public:
+  OpenFlag(OpenWindows& windows, View*& flag, View* window)
+      : windows_(windows), flag_(flag), window_(window) {
+    flag_ = window_;
+    UpdateCommands();
+  }
+  ~OpenFlag() { Clear(); }
+  OpenFlag(const OpenFlag&) = delete;
+  OpenFlag& operator=(const OpenFlag&) = delete;
+
+  void Clear() {
+    if (flag_ != window_) return;
+    flag_ = nullptr;
+    UpdateCommands();
+  }
+
+ private:
+  void UpdateCommands() {
+    if (windows_.core != nullptr) windows_.core->UpdateCommands();
+  }
+
+  OpenWindows& windows_;
+  View*& flag_;
+  View* window_;
+};
+
 }  // namespace kelvora

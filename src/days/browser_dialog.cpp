@@ -26,19 +26,13 @@ constexpr std::array<double, BrowseColumn::kCount> kShares = {0.08, 0,    0,    
 
 constexpr std::array kPaneCaptions = {kReference, kLastWeight, kGoalWeight, kHeight, kGender, kAge};
 
-QLabel* NewLabel(QWidget* parent, const QString& name) {
-  auto* const label = new QLabel(parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
 }  // namespace
 
 BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
-    : QDialog(parent), program_(program) {
+    : QDialog(parent),
+      program_(program),
+      open_flag_(program.windows, program.windows.browser, this) {
   NameWidget(this, "KV_browsefiles");
-  program_.windows.browser = this;
   if (WindowView* const wizard = program_.windows.Find(WindowId::wizard)) wizard->CloseWindow();
 
   auto* const lists = new QHBoxLayout;
@@ -76,10 +70,6 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
   connect(cmd_openen_, &QPushButton::clicked, this, &BrowserDialog::OpenSelectedDay);
   connect(cmd_annuleer_, &QPushButton::clicked, this, &BrowserDialog::CloseWindow);
   Set_Taal();
-}
-
-BrowserDialog::~BrowserDialog() {
-  ClearOpenFlag();
 }
 
 QWidget* BrowserDialog::BuildUsers() {
@@ -163,14 +153,8 @@ void BrowserDialog::CloseWindow() {
 }
 
 void BrowserDialog::done(int result) {
-  ClearOpenFlag();
+  open_flag_.Clear();
   QDialog::done(result);
-}
-
-void BrowserDialog::ClearOpenFlag() {
-  if (program_.windows.browser != this) return;
-  program_.windows.browser = nullptr;
-  if (program_.windows.core != nullptr) program_.windows.core->UpdateCommands();
 }
 
 void BrowserDialog::Set_Taal() {

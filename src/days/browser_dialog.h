@@ -23,7 +23,6 @@ class BrowserDialog : public QDialog, public BrowserView {
 
  public:
   BrowserDialog(Program& program, QWidget* parent);
-  ~BrowserDialog() override;
 
   // Shows the window and fills it: the days are read while it can be seen.
   void Open();
@@ -44,12 +43,12 @@ class BrowserDialog : public QDialog, public BrowserView {
   void ShowRows(std::vector<DayRow> rows);
   void ShowProfile();
   void SetColumnWidths();
-  void ClearOpenFlag();
   void SelectCurrentUser();
   void ChooseSelectedUser();
   void OpenSelectedDay();
 
   Program& program_;
+  OpenFlag<BrowserView> open_flag_;
   std::vector<DayRow> rows_;
   TextTableModel model_;
   // Tells a reading that was overtaken by another one, begun while events ran.

@@ -29,13 +29,6 @@ const DayField& RowOf(DayFieldId id) {
   return DayFields()[static_cast<std::size_t>(id)];
 }
 
-QLabel* NewLabel(QWidget* parent, const QString& name) {
-  auto* const label = new QLabel(parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
 QToolButton* NewToolButton(QWidget* bar, const char* name, std::string_view icon) {
   auto* const button = new QToolButton(bar);
   NameWidget(button, name);
@@ -54,9 +47,11 @@ void SetTip(QToolButton* button, std::string_view text) {
 }  // namespace
 
 DaySettingsDialog::DaySettingsDialog(Program& program, QWidget* parent)
-    : QDialog(parent), program_(program), form_(NewUserForm(program)) {
+    : QDialog(parent),
+      program_(program),
+      open_flag_(program.windows, program.windows.day_settings, this),
+      form_(NewUserForm(program)) {
   NameWidget(this, "KV_bestand");
-  program_.windows.day_settings = this;
   if (WindowView* const wizard = program_.windows.Find(WindowId::wizard)) wizard->CloseWindow();
 
   lbl_info_ = NewLabel(this, "lbl_info");
@@ -77,7 +72,6 @@ DaySettingsDialog::~DaySettingsDialog() {
   // A box that loses the focus in its own destruction still tells of it, and by then only the bare
   // dialog is left to hear.
   for (QLineEdit* const field : fields_) field->disconnect(this);
-  ClearOpenFlag();
 }
 
 void DaySettingsDialog::BuildTabs() {
@@ -238,14 +232,8 @@ void DaySettingsDialog::CloseWindow() {
 }
 
 void DaySettingsDialog::done(int result) {
-  ClearOpenFlag();
+  open_flag_.Clear();
   QDialog::done(result);
-}
-
-void DaySettingsDialog::ClearOpenFlag() {
-  if (program_.windows.day_settings != this) return;
-  program_.windows.day_settings = nullptr;
-  if (program_.windows.core != nullptr) program_.windows.core->UpdateCommands();
 }
 
 void DaySettingsDialog::Set_Taal() {

@@ -59,12 +59,12 @@ class DaySettingsDialog : public QDialog, public WindowView {
   void ShowGender();
   void ShowHints();
   void ShowUsers();
-  void ClearOpenFlag();
   void ChooseSelectedUser();
   void BeginNewUser();
   void Start();
 
   Program& program_;
+  OpenFlag<WindowView> open_flag_;
   DayForm form_;
   QLabel* lbl_info_;
   QTabWidget* TabStrip1_;

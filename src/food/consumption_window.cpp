@@ -36,19 +36,14 @@ constexpr std::array kCaptions = {
     CaptionRow{"txt_9", ct::kWeight},
 };
 
-QLabel* NewLabel(QWidget* parent, const QString& name) {
-  auto* const label = new QLabel(parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
 }  // namespace
 
 ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* parent)
-    : QWidget(parent), program_(program), part_(part) {
+    : QWidget(parent),
+      program_(program),
+      part_(part),
+      open_flag_(program.windows, program.windows.Consumption(part), this) {
   setObjectName(ToQt(RowOf(part).window_name));
-  program_.windows.Consumption(part_) = this;
 
   LV_consumpties_ = new FoodTable("LV_consumpties", this);
   LV_consumpties_->horizontalHeader()->setStretchLastSection(true);
@@ -91,23 +86,10 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
   Set_Taal();
   Refresh_Consumpties();
   Refresh_Totalen(program_);
-  program_.windows.core->UpdateCommands();
-}
-
-ConsumptionWindow::~ConsumptionWindow() {
-  ClearOpenFlag();
-}
-
-// At the closing, not at the later deletion: the same window may be opened again in between.
-void ConsumptionWindow::ClearOpenFlag() {
-  ConsumptionView*& flag = program_.windows.Consumption(part_);
-  if (flag != this) return;
-  flag = nullptr;
-  if (program_.windows.core != nullptr) program_.windows.core->UpdateCommands();
 }
 
 void ConsumptionWindow::closeEvent(QCloseEvent* event) {
-  ClearOpenFlag();
+  open_flag_.Clear();
   QWidget::closeEvent(event);
 }
 

@@ -22,7 +22,6 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
 
  public:
   ConsumptionWindow(Program& program, DayPart part, QWidget* parent);
-  ~ConsumptionWindow() override;
 
   void CloseWindow() override;
   void Set_Taal() override;
@@ -35,7 +34,6 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void ClearOpenFlag();
   void BuildToolbars();
   void BuildTotalsPanel();
   void BuildStatusBar();
@@ -49,6 +47,7 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
 
   Program& program_;
   const DayPart part_;
+  OpenFlag<ConsumptionView> open_flag_;
   FoodTable* LV_consumpties_;
   QToolBar* Toolbar_;
   QToolBar* Toolbar_control_;

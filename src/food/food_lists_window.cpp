@@ -55,19 +55,14 @@ class SearchBox : public QLineEdit {
   }
 };
 
-QLabel* NewLabel(QWidget* parent, const char* name) {
-  auto* const label = new QLabel(parent);
-  NameWidget(label, name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
 }  // namespace
 
 FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
-    : QWidget(parent), program_(program), lists_(program) {
+    : QWidget(parent),
+      program_(program),
+      open_flag_(program.windows, program.windows.lists, this),
+      lists_(program) {
   NameWidget(this, "KV_tb_lijsten");
-  program_.windows.lists = this;
   BuildToolbar();
   BuildSearchPanel();
   BuildViews();
@@ -89,22 +84,10 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
   Populate_Food_List_Favo();
   ShowView(FoodView::standard);
   Toon_Standaardlijst();
-  program_.windows.core->UpdateCommands();
-}
-
-FoodListsWindow::~FoodListsWindow() {
-  ClearOpenFlag();
-}
-
-// At the closing, not at the later deletion: the window may be opened again in between.
-void FoodListsWindow::ClearOpenFlag() {
-  if (program_.windows.lists != this) return;
-  program_.windows.lists = nullptr;
-  if (program_.windows.core != nullptr) program_.windows.core->UpdateCommands();
 }
 
 void FoodListsWindow::closeEvent(QCloseEvent* event) {
-  ClearOpenFlag();
+  open_flag_.Clear();
   QWidget::closeEvent(event);
 }
 

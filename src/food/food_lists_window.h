@@ -13,7 +13,7 @@
 #include <QToolBar>
 #include <QWidget>
 
-#include "core/views.h"
+#include "core/program.h"
 #include "food/food_lists.h"
 #include "food/food_table_panel.h"
 
@@ -24,7 +24,6 @@ class FoodListsWindow : public QWidget, public FoodListsView {
 
  public:
   FoodListsWindow(Program& program, QWidget* parent);
-  ~FoodListsWindow() override;
 
   void CloseWindow() override;
   void Set_Taal() override;
@@ -36,7 +35,6 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void ClearOpenFlag();
   void BuildToolbar();
   void BuildSearchPanel();
   void BuildViews();
@@ -51,6 +49,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   }
 
   Program& program_;
+  OpenFlag<FoodListsView> open_flag_;
   FoodLists lists_;
   QToolBar* Toolbar_;
   std::array<QAction*, 4> view_actions_;

@@ -10,23 +10,8 @@
 namespace kelvora {
 namespace {
 
-// A program whose machine is as bare as at a first start.
-struct BareMachine {
-  BareMachine() { program.windows.core = &core; }
-  RecordingBoxes boxes;
-  RecordingPointer pointer;
-  FixedLocale locale;
-  TemporaryFolders folders;
-  FixedClock clock;
-  FixedScreen screen;
-  CountingEvents events;
-  Platform platform{boxes, pointer, locale, folders, clock, screen, events};
-  RecordingCore core;
-  Program program{platform};
-};
-
 TEST(StartUp, AFirstStartMakesFoldersLanguagesAndSettings) {
-  BareMachine machine;
+  TestProgram machine(Machine::bare);
   StartUp(machine.program);
   EXPECT_TRUE(machine.boxes.shown.empty());
   for (const char* name : {"My Users", "My Reports", "My Language"}) {
@@ -52,7 +37,7 @@ TEST(StartUp, AFirstStartMakesFoldersLanguagesAndSettings) {
 }
 
 TEST(StartUp, EachStartCountsAndTheChosenLanguageIsLoaded) {
-  BareMachine machine;
+  TestProgram machine(Machine::bare);
   StartUp(machine.program);
   Rec_Settings settings = *ReadFirstRecord<Rec_Settings>(machine.program.paths.SettingsFile);
   settings[Setting::Combo_taal] = "Nederlands.lsf";
@@ -63,7 +48,7 @@ TEST(StartUp, EachStartCountsAndTheChosenLanguageIsLoaded) {
 }
 
 TEST(StartUp, ALanguageThatIsGoneFallsBackWithoutAWord) {
-  BareMachine machine;
+  TestProgram machine(Machine::bare);
   StartUp(machine.program);
   Rec_Settings settings = *ReadFirstRecord<Rec_Settings>(machine.program.paths.SettingsFile);
   settings[Setting::Combo_taal] = "Gone.lsf";
@@ -74,7 +59,7 @@ TEST(StartUp, ALanguageThatIsGoneFallsBackWithoutAWord) {
 }
 
 TEST(StartUp, ADamagedSettingsFileLeavesTheDefaults) {
-  BareMachine machine;
+  TestProgram machine(Machine::bare);
   std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
   WriteFileAnew(machine.folders.ApplicationData() + "/Brelux/kvfset.dat", "");
   StartUp(machine.program);
@@ -83,7 +68,7 @@ TEST(StartUp, ADamagedSettingsFileLeavesTheDefaults) {
 }
 
 TEST(StartUp, TheAlternativeUsersFolderTakesOverAsItIsStored) {
-  BareMachine machine;
+  TestProgram machine(Machine::bare);
   std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
   Rec_Settings settings;
   settings[Setting::chk_map] = "1";
@@ -94,7 +79,7 @@ TEST(StartUp, TheAlternativeUsersFolderTakesOverAsItIsStored) {
 }
 
 TEST(StartUp, MessagesComeInTheChosenLanguage) {
-  BareMachine machine;
+  TestProgram machine(Machine::bare);
   std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
   Rec_Settings settings;
   settings[Setting::Combo_taal] = "English.lsf";

@@ -45,8 +45,9 @@ std::string TemporaryFolder::Path(const std::string& name) const {
   return name.empty() ? path_.string() : (path_ / name).string();
 }
 
-TestProgram::TestProgram() {
+TestProgram::TestProgram(Machine machine) {
   program.windows.core = &core;
+  if (machine == Machine::bare) return;
   Make_Taal_English(program.texts);
   DetermineFolders(program);
   Apply_Default_Settings(program);

@@ -85,10 +85,13 @@ struct RecordingCore : CoreView {
   void OpenWindow(WindowId id) override { opened.push_back(id); }
 };
 
-// Made with its folders determined, English texts in the tables and default settings.
+// `bare` is the machine before a first start; `prepared` has its folders determined, English texts
+// in the tables and default settings.
+enum class Machine { bare, prepared };
+
 class TestProgram {
  public:
-  TestProgram();
+  explicit TestProgram(Machine machine = Machine::prepared);
 
   RecordingBoxes boxes;
   RecordingPointer pointer;

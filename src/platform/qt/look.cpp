@@ -1,6 +1,7 @@
 #include "platform/qt/look.h"
 
 #include <QFont>
+#include <QLabel>
 #include <QWidget>
 
 #include "platform/qt/text.h"
@@ -21,6 +22,13 @@ QIcon IconNamed(std::string_view name) {
 
 void NameWidget(QWidget* widget, const char* object_name) {
   widget->setObjectName(QLatin1String(object_name));
+}
+
+QLabel* NewLabel(QWidget* parent, const QString& object_name) {
+  auto* const label = new QLabel(parent);
+  label->setObjectName(object_name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
 }
 
 void UseSmallLetters(QWidget* widget) {

@@ -8,6 +8,7 @@
 
 #include "core/geometry.h"
 
+class QLabel;
 class QWidget;
 
 namespace kelvora {
@@ -17,6 +18,9 @@ namespace kelvora {
 
 // Gives a widget the name by which tests and assistive tools find it.
 void NameWidget(QWidget* widget, const char* object_name);
+
+// A label of plain text under that name.
+[[nodiscard]] QLabel* NewLabel(QWidget* parent, const QString& object_name);
 
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
