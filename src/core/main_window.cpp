@@ -45,6 +45,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   Toolbar_quickscreens_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   addToolBar(Qt::BottomToolBarArea, Toolbar_quickscreens_);
   BuildStatusBar();
+  UpdateCommands();
   program_.windows.core = this;
 }
 

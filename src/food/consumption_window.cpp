@@ -1,5 +1,6 @@
 #include "food/consumption_window.h"
 
+#include <algorithm>
 #include <memory>
 
 #include <QGridLayout>
@@ -101,8 +102,8 @@ void ConsumptionWindow::showEvent(QShowEvent* event) {
 void ConsumptionWindow::BuildToolbars() {
   const auto add = [](QToolBar* bar, const char* name, const char* icon) {
     QAction* const action = bar->addAction(IconNamed(icon), QString());
-    action->setObjectName(QLatin1String(name));
-    bar->widgetForAction(action)->setObjectName(QLatin1String(name) + QLatin1String("_button"));
+    action->setObjectName(QLatin1String(name) + QLatin1String("_action"));
+    bar->widgetForAction(action)->setObjectName(QLatin1String(name));
     return action;
   };
   Toolbar_ = new QToolBar(this);
@@ -254,7 +255,10 @@ TextList ConsumptionWindow::SelectedNames() const {
 
 Text ConsumptionWindow::CurrentName() const {
   const auto rows = LV_consumpties_->SelectedRows();
-  return rows.empty() ? Text() : NameInRow(rows.front());
+  if (rows.empty()) return {};
+  const auto current = static_cast<std::size_t>(LV_consumpties_->currentIndex().row());
+  const bool current_is_selected = std::ranges::find(rows, current) != rows.end();
+  return NameInRow(current_is_selected ? current : rows.front());
 }
 
 }  // namespace kelvora

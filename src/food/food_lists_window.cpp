@@ -101,9 +101,9 @@ void FoodListsWindow::BuildToolbar() {
     const auto place = static_cast<std::size_t>(row.view);
     QAction* const action = Toolbar_->addAction(IconNamed(row.icon), QString());
     const QString name = QStringLiteral("Toolbar_%1").arg(place + 1);
-    action->setObjectName(name);
+    action->setObjectName(name + QStringLiteral("_action"));
     action->setCheckable(true);
-    Toolbar_->widgetForAction(action)->setObjectName(name + QStringLiteral("_button"));
+    Toolbar_->widgetForAction(action)->setObjectName(name);
     group->addAction(action);
     connect(action, &QAction::triggered, this, [this, view = row.view] { ShowView(view); });
     view_actions_[place] = action;

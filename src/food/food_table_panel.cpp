@@ -63,6 +63,7 @@ void FoodTable::SelectRow(int row) {
 
 void FoodTable::SelectRowsReading(int column, const QString& text) {
   clearSelection();
+  if (text.isEmpty()) return;
   bool first = true;
   for (int row = 0; row < model_.rowCount(); ++row) {
     const QModelIndex index = model_.index(row, column);

@@ -184,14 +184,14 @@ TEST_F(ProgramWindows, PlusMinusAndRemoveWorkOnTheSelectedRow) {
   FoodTable* const list = List("KV_tb_vavond", "LV_consumpties");
   Drop(list, "add-" + LineOf(kBread) + kLineEnd + LineOf(kApple) + kLineEnd);
   list->SelectRow(0);
-  QTest::mouseClick(Child("KV_tb_vavond")->findChild<QToolButton*>("Toolbar_control_1_button"),
+  QTest::mouseClick(Child("KV_tb_vavond")->findChild<QToolButton*>("Toolbar_control_1"),
                     Qt::LeftButton);
   EXPECT_EQ(Cell(list, 0, 1), "2");
   EXPECT_EQ(list->SelectedRows(), std::vector<std::size_t>{0});
   QTest::keyClick(list, Qt::Key_Plus, Qt::KeypadModifier);
   EXPECT_EQ(Cell(list, 0, 1), "3");
   QTest::keyClick(list, Qt::Key_Minus, Qt::KeypadModifier);
-  QTest::mouseClick(Child("KV_tb_vavond")->findChild<QToolButton*>("Toolbar_control_2_button"),
+  QTest::mouseClick(Child("KV_tb_vavond")->findChild<QToolButton*>("Toolbar_control_2"),
                     Qt::LeftButton);
   EXPECT_EQ(Cell(list, 0, 1), "1");
   QTest::keyClick(list, Qt::Key_Delete);
@@ -202,8 +202,7 @@ TEST_F(ProgramWindows, PlusMinusAndRemoveWorkOnTheSelectedRow) {
 TEST_F(ProgramWindows, TheTotalsPanelIsToggledAndRemembered) {
   OpenDay();
   EXPECT_FALSE(Child("KV_tb_vmiddag")->findChild<QWidget*>("Info_bar")->isVisible());
-  QTest::mouseClick(Child("KV_tb_vmiddag")->findChild<QToolButton*>("Toolbar_1_button"),
-                    Qt::LeftButton);
+  QTest::mouseClick(Child("KV_tb_vmiddag")->findChild<QToolButton*>("Toolbar_1"), Qt::LeftButton);
   EXPECT_TRUE(Child("KV_tb_vmiddag")->findChild<QWidget*>("Info_bar")->isVisible());
   Find<QMdiSubWindow>("KV_tb_vmiddag_frame")->close();
   QTest::qWait(1);

@@ -1,0 +1,43 @@
+#!/usr/bin/env python3
+"""Shows that the check of the layers can fail: each wrong arrow is found, each right one is not."""
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+from check_layers import wrong_arrows  # noqa: E402
+
+
+class Layers(unittest.TestCase):
+    def wrong(self, path, include):
+        return wrong_arrows(path, f"#include {include}\n")
+
+    def test_logic_may_not_include_qt(self):
+        self.assertTrue(self.wrong("storage/day_file.cpp", "<QString>"))
+        self.assertTrue(self.wrong("platform/boxes.h", "<QtCore/qstring.h>"))
+        self.assertFalse(self.wrong("food/consumption_window.cpp", "<QString>"))
+        self.assertFalse(self.wrong("platform/qt/text.cpp", "<QString>"))
+
+    def test_logic_may_not_include_a_window_or_the_qt_platform(self):
+        self.assertTrue(self.wrong("core/commands.cpp", '"food/consumption_window.h"'))
+        self.assertTrue(self.wrong("core/commands.cpp", '"platform/qt/text.h"'))
+        self.assertFalse(self.wrong("core/main_window.cpp", '"food/consumption_window.h"'))
+
+    def test_the_qt_platform_may_not_include_a_window(self):
+        self.assertTrue(self.wrong("platform/qt/look.cpp", '"food/consumption_window.h"'))
+
+    def test_arrows_between_rooms_go_one_way(self):
+        self.assertTrue(self.wrong("storage/day_file.cpp", '"food/consumption.h"'))
+        self.assertTrue(self.wrong("core/program.h", '"storage/day_file.h"'))
+        self.assertTrue(self.wrong("core/store.h", '"core/program.h"'))
+        self.assertTrue(self.wrong("days/open_day.cpp", '"core/startup.h"'))
+        self.assertFalse(self.wrong("food/consumption.cpp", '"storage/day_file.h"'))
+        self.assertFalse(self.wrong("storage/day_file.cpp", '"language/common_texts.h"'))
+
+    def test_a_room_may_not_know_the_window_of_another(self):
+        self.assertTrue(self.wrong("days/browser_dialog.cpp", '"food/food_lists_window.h"'))
+        self.assertFalse(self.wrong("days/browser_dialog.cpp", '"days/browser_dialog.h"'))
+
+
+if __name__ == "__main__":
+    unittest.main()
