@@ -1,5 +1,7 @@
 #include "food/food_table_panel.h"
 
+#include <algorithm>
+
 #include <QDrag>
 #include <QDropEvent>
 #include <QHeaderView>
@@ -15,7 +17,8 @@ namespace kelvora {
 namespace {
 
 bool CarriesFood(const QMimeData* data) {
-  return data->hasText() && IsDragText(FromQt(data->text()));
+  // The marker is enough: a drag may carry much text, and this runs at every move of the mouse.
+  return data->hasText() && IsDragText(FromQt(data->text().left(kLongestMarker)));
 }
 
 }  // namespace
@@ -50,7 +53,7 @@ std::vector<std::size_t> FoodTable::SelectedRows() const {
   for (const QModelIndex& index : selectionModel()->selectedRows()) {
     rows.push_back(static_cast<std::size_t>(index.row()));
   }
-  std::sort(rows.begin(), rows.end());
+  std::ranges::sort(rows);
   return rows;
 }
 

@@ -55,9 +55,9 @@ class Desktop:
                 process.wait(timeout=10)
         self.home.cleanup()
 
-    def start(self, program):
-        """Starts the program and waits for its main window."""
-        process = subprocess.Popen([program], env=self.environment)
+    def start(self, program, locale="C.UTF-8"):
+        """Starts the program under a locale and waits for its main window."""
+        process = subprocess.Popen([program], env=self.environment | {"LANG": locale})
         self.processes.append(process)
         self.window("^Kelvora FOOD$")
         self.settle()

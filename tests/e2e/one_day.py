@@ -3,7 +3,8 @@
 
 Makes a user and a day, drags two foods into the morning and one into the evening, saves, ends the
 program, starts it again and opens the day: the same rows and totals are on the screen, and the file
-holds what it must, byte by byte. The argument is the built program.
+holds what it must, byte by byte. The arguments are the built program and the locale under which the
+day is written; it is always opened under one with a decimal point.
 """
 import csv
 import struct
@@ -31,12 +32,12 @@ def single(number):
     return struct.unpack("f", struct.pack("f", number))[0]
 
 
-def written(number):
+def written(number, separator):
     """Seven significant digits, without trailing zeros."""
-    return f"{number:.7g}"
+    return f"{number:.7g}".replace(".", separator)
 
 
-def trend_of(morning, evening, weight):
+def trend_of(morning, evening, weight, separator):
     fields = []
     for column in TREND_COLUMNS:
         totals = []
@@ -45,7 +46,7 @@ def trend_of(morning, evening, weight):
             for food in period:
                 total = single(total + float(food[column]))
             totals.append(total)
-        fields.append(written(single(totals[0] + totals[1])))
+        fields.append(written(single(totals[0] + totals[1]), separator))
     return "".join(field + "½" for field in fields + [weight]).encode("cp1252")
 
 
@@ -91,17 +92,18 @@ def drag_foods(desktop):
     desktop.click(DEFAULT_SCREENS)
 
 
-def check_file(path, foods):
+def check_file(path, foods, separator):
+    height, weight = (number.encode() for number in (f"1{separator}80", f"80{separator}5"))
     trend, notes, header, morning, afternoon, evening = read_day_file(path)
     assert pieces(header, LINE_END) == [
-        b"Anna", b"", b"", b"", b"", b"1.80", b"80.5", b"Female", b"42", b"05-03-04", b"75",
+        b"Anna", b"", b"", b"", b"", height, weight, b"Female", b"42", b"05-03-04", b"75",
         b"Friday", b"", b"", b""], header
     assert notes == b""
     assert pieces(morning, LINE_END) == [line_of(foods[0]), line_of(foods[1])], morning
     assert afternoon == b""
     assert pieces(evening, LINE_END) == [line_of(foods[3])], evening
     assert all(len(pieces(line, FIELD_END)) == 13 for line in pieces(morning, LINE_END))
-    expected = trend_of(foods[:2], foods[3:4], "80.5")
+    expected = trend_of(foods[:2], foods[3:4], weight.decode(), separator)
     assert trend == expected, f"{trend} is not {expected}"
 
 
@@ -111,13 +113,14 @@ def end(desktop, process):
 
 
 def main():
-    program = Path(sys.argv[1]).resolve()
+    program, locale = Path(sys.argv[1]).resolve(), sys.argv[2]
+    separator = "," if locale.startswith("nl") else "."
     with open(FOODS, encoding="utf-8", newline="") as table:
         foods = list(csv.DictReader(table, delimiter="\t", quoting=csv.QUOTE_NONE))
     with Desktop() as desktop:
         user = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users", "Anna")
 
-        process = desktop.start(program)
+        process = desktop.start(program, locale)
         make_user_and_day(desktop)
         assert (user / "Profile" / "Profile.usr").is_file(), "no profile"
         assert not list((user / "Files").iterdir()), "a new day is on disk before it is saved"
@@ -125,7 +128,7 @@ def main():
         drag_foods(desktop)
         desktop.keys("ctrl+s")
         (day,) = (user / "Files").glob("*.kvf")
-        check_file(day, foods)
+        check_file(day, foods, separator)
         saved_bytes = day.read_bytes()
         saved_screen = region(desktop.picture(), *CONSUMPTION_WINDOWS)
         assert saved_screen != empty, "the rows do not show"
