@@ -13,6 +13,9 @@ constexpr std::array<std::string_view, 3> kRoutingCodes = {"1", "2", "3"};
 constexpr std::array kPriorityFields = {FoodField::kKj,   FoodField::kKcal,  FoodField::kFatU,
                                         FoodField::kFatS, FoodField::kCarbs, FoodField::kProtein};
 
+constexpr std::array<std::string_view, 6> kPriorityPatterns = {"#####0", "####0", "###0",
+                                                               "###0",   "###0",  "###0"};
+
 TextList* ListOfRoutingCode(KV_data& store, std::string_view code) {
   for (const DayPart part : kDayParts) {
     if (RoutingCodeOf(part) == code) return &store.ListOf(part);
@@ -25,6 +28,10 @@ TextList* ListOfRoutingCode(KV_data& store, std::string_view code) {
 Priority PriorityOf(std::string_view code) {
   const bool known = code.size() == 1 && code[0] >= '0' && code[0] <= '5';
   return known ? static_cast<Priority>(code[0] - '0') : Priority::kj;
+}
+
+std::string_view PatternOf(Priority priority) {
+  return kPriorityPatterns[static_cast<std::size_t>(priority)];
 }
 
 std::size_t FoodFieldOf(Priority priority) {

@@ -22,6 +22,10 @@ enum class Priority { kj, kcal, fat_u, fat_s, carbs, protein };
 // The nutrient of a stored code "0" to "5"; any other text reads as kj.
 [[nodiscard]] Priority PriorityOf(std::string_view code);
 
+// The pattern by which every list and status bar prints a value of the nutrient. That of the
+// kilocalories is one digit shorter than in the totals panel, and meant to be.
+[[nodiscard]] std::string_view PatternOf(Priority priority);
+
 // The field of a food line that holds the nutrient.
 [[nodiscard]] std::size_t FoodFieldOf(Priority priority);
 

@@ -1,6 +1,5 @@
 #include "core/program.h"
 
-#include "core/common.h"
 #include "language/message_texts.h"
 
 namespace kelvora {
@@ -12,6 +11,10 @@ FailureBox Program::FailurePath() {
 void SetFileChanged(Program& program, bool changed) {
   program.day.FileChanged = changed;
   if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
+}
+
+Priority PriorityOfUser(const Program& program) {
+  return PriorityOf(program.profile[ProfileField::type_prioriteit]);
 }
 
 std::string UserFolder(const Paths& paths, std::string_view name) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "core/common.h"
 #include "core/failure.h"
 #include "core/records.h"
 #include "core/store.h"
@@ -74,6 +75,9 @@ void SetFileChanged(Program& program, bool changed);
 
 // Makes `name` the current user: name and folder of the day files.
 void SetCurrentUser(Program& program, std::string_view name);
+
+// The nutrient that the current user gives priority.
+[[nodiscard]] Priority PriorityOfUser(const Program& program);
 
 // The folder of one user, with its closing "/".
 [[nodiscard]] std::string UserFolder(const Paths& paths, std::string_view name);

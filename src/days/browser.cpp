@@ -27,17 +27,15 @@ constexpr std::array<TextId, BrowseColumn::kNutrient> kHeadings = {
 struct NutrientColumn {
   TextId heading;
   std::size_t trend_field;
-  std::string_view pattern;
 };
 constexpr std::array kNutrients = {
-    NutrientColumn{kColumnKj, 1, "#####0"},  NutrientColumn{kColumnKcal, 2, "####0"},
-    NutrientColumn{kColumnFatU, 3, "###0"},  NutrientColumn{kColumnFatS, 4, "###0"},
-    NutrientColumn{kColumnCarbs, 5, "###0"}, NutrientColumn{kColumnProtein, 6, "###0"},
+    NutrientColumn{kColumnKj, 1},    NutrientColumn{kColumnKcal, 2},
+    NutrientColumn{kColumnFatU, 3},  NutrientColumn{kColumnFatS, 4},
+    NutrientColumn{kColumnCarbs, 5}, NutrientColumn{kColumnProtein, 6},
 };
 
 const NutrientColumn& NutrientOf(const Program& program) {
-  const Priority priority = PriorityOf(program.profile[ProfileField::type_prioriteit]);
-  return kNutrients[static_cast<std::size_t>(priority)];
+  return kNutrients[static_cast<std::size_t>(PriorityOfUser(program))];
 }
 
 // What the list needs of one day file.
@@ -94,8 +92,8 @@ DayRow RowOf(Program& program, const std::string& folder, StoredDay day, std::si
   cells[BrowseColumn::kWeight] = WeightText(program, day.weight);
   cells[BrowseColumn::kBmi] = Bereken_BMI(day.height, day.weight, units);
   cells[BrowseColumn::kNutrient] =
-      FormatNumber(ReadStoredNumber(FieldOf(day.trend, nutrient.trend_field)), nutrient.pattern,
-                   units.locale.DecimalSeparator());
+      FormatNumber(ReadStoredNumber(FieldOf(day.trend, nutrient.trend_field)),
+                   PatternOf(PriorityOfUser(program)), units.locale.DecimalSeparator());
   return row;
 }
 

@@ -21,20 +21,9 @@ constexpr std::array kRows = {
                "#F14-2", "#F14-3", "#F14-7"},
 };
 
-// Heading and number pattern of the nutrient column, in the order of Priority.
-struct NutrientColumn {
-  std::size_t heading;
-  std::string_view pattern;
-};
-constexpr std::array kNutrients = {
-    NutrientColumn{ct::kColumnKj, "#####0"},  NutrientColumn{ct::kColumnKcal, "####0"},
-    NutrientColumn{ct::kColumnFatU, "###0"},  NutrientColumn{ct::kColumnFatS, "###0"},
-    NutrientColumn{ct::kColumnCarbs, "###0"}, NutrientColumn{ct::kColumnProtein, "###0"},
-};
-
-Priority PriorityOfUser(const Program& program) {
-  return PriorityOf(program.profile[ProfileField::type_prioriteit]);
-}
+// Headings of the nutrient column, in the order of Priority.
+constexpr std::array kNutrientHeadings = {ct::kColumnKj,   ct::kColumnKcal,  ct::kColumnFatU,
+                                          ct::kColumnFatS, ct::kColumnCarbs, ct::kColumnProtein};
 
 const Text& TextOf(const Program& program, DayPart part, std::size_t index) {
   return program.texts[{RowOf(part).texts, index}];
@@ -100,11 +89,10 @@ std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
       const double times = Val(count);
       const Text portion = WeightOfPortion(program, FieldOf(line, FoodField::kGram));
       const double nutrient = ReadStoredNumber(FieldOf(line, FoodFieldOf(priority)));
-      rows.push_back(
-          {std::to_string(i + 1), count, Text(FieldOf(line, FoodField::kProduct)),
-           Text(FieldOf(line, FoodField::kUnit)), Str(ReadStoredNumber(portion) * times, separator),
-           FormatNumber(nutrient * times, kNutrients[static_cast<std::size_t>(priority)].pattern,
-                        separator)});
+      rows.push_back({std::to_string(i + 1), count, Text(FieldOf(line, FoodField::kProduct)),
+                      Text(FieldOf(line, FoodField::kUnit)),
+                      Str(ReadStoredNumber(portion) * times, separator),
+                      FormatNumber(nutrient * times, PatternOf(priority), separator)});
     }
   });
   return rows;
@@ -119,7 +107,7 @@ std::array<Text, kConsumptionColumns> ConsumptionHeadings(const Program& program
           text(ct::kColumnFood),
           text(ct::kColumnUnit),
           text(ounces ? ct::kColumnOz : ct::kColumnGram),
-          text(kNutrients[priority].heading)};
+          text(kNutrientHeadings[priority])};
 }
 
 Text ConsumptionTitle(Program& program, DayPart part) {

@@ -32,7 +32,8 @@ inline constexpr std::size_t kConsumptionColumns = 6;
 // The rows of a day part, in the order of first appearance. Fills `Dupe_list` on the way.
 [[nodiscard]] std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part);
 
-// The headings of the six columns, and the shares of the list's width they take; 0 is hidden.
+// The headings of the six columns, and the shares of the list's width they take; 0 is hidden, and
+// the last column takes what is left over besides.
 [[nodiscard]] std::array<Text, kConsumptionColumns> ConsumptionHeadings(const Program& program,
                                                                         DayPart part);
 inline constexpr std::array<double, kConsumptionColumns> kConsumptionWidths = {0,    0.09, 0.40,

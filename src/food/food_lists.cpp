@@ -17,23 +17,12 @@ using namespace lists_text;
 constexpr std::string_view kExtension = ".dat";
 constexpr std::size_t kMaxDraggedRows = 10;
 
-// Heading and number pattern of the nutrient column, in the order of Priority.
-struct NutrientColumn {
-  TextId heading;
-  std::string_view pattern;
-};
-constexpr std::array kNutrients = {
-    NutrientColumn{kColumnKj, "#####0"},  NutrientColumn{kColumnKcal, "####0"},
-    NutrientColumn{kColumnFatU, "###0"},  NutrientColumn{kColumnFatS, "###0"},
-    NutrientColumn{kColumnCarbs, "###0"}, NutrientColumn{kColumnProtein, "###0"},
-};
+// Headings of the nutrient column, in the order of Priority.
+constexpr std::array kNutrientHeadings = {kColumnKj,   kColumnKcal,  kColumnFatU,
+                                          kColumnFatS, kColumnCarbs, kColumnProtein};
 
 bool ShowsOunces(const Program& program) {
   return program.settings[Setting::opt_gramoz] == "1";
-}
-
-Priority PriorityOfUser(const Program& program) {
-  return PriorityOf(program.profile[ProfileField::type_prioriteit]);
 }
 
 }  // namespace
@@ -81,8 +70,7 @@ Text FoodLists::NutrientCell(std::string_view line) const {
   const Priority priority = PriorityOfUser(program_);
   const double value = ReadStoredNumber(FieldOf(line, FoodFieldOf(priority)));
   if (!std::isfinite(value)) return {};
-  return FormatNumber(value, kNutrients[static_cast<std::size_t>(priority)].pattern,
-                      program_.platform.locale.DecimalSeparator());
+  return FormatNumber(value, PatternOf(priority), program_.platform.locale.DecimalSeparator());
 }
 
 std::array<Text, kFoodColumns> FoodLists::Headings() const {
@@ -90,7 +78,7 @@ std::array<Text, kFoodColumns> FoodLists::Headings() const {
   const auto priority = static_cast<std::size_t>(PriorityOfUser(program_));
   return {texts[kColumnNumber], texts[kColumnFood], texts[kColumnUnit],
           texts[ShowsOunces(program_) ? kColumnOz : kColumnGram],
-          texts[kNutrients[priority].heading]};
+          texts[kNutrientHeadings[priority]]};
 }
 
 TextList FoodLists::Categories() const {

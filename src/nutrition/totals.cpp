@@ -30,21 +30,19 @@ constexpr std::array kTrendOrder = {&Amounts::gram,    &Amounts::kj,    &Amounts
                                     &Amounts::fat_u,   &Amounts::fat_s, &Amounts::carbs,
                                     &Amounts::protein, &Amounts::sodium};
 
-// How the priority nutrient shows in the status bar of a consumption window. The pattern of the
-// kilocalories is one digit shorter than that of the totals panel, and meant to be.
+// How the priority nutrient shows in the status bar of a consumption window.
 struct PriorityRow {
   float Amounts::*amount;
-  std::string_view pattern;
   TextId unit;
 };
 
 constexpr std::array kPriorityRows = {
-    PriorityRow{&Amounts::kj, "#####0", common_text::kUnitKj},
-    PriorityRow{&Amounts::kcal, "####0", common_text::kUnitKcal},
-    PriorityRow{&Amounts::fat_u, "###0", common_text::kUnitFatU},
-    PriorityRow{&Amounts::fat_s, "###0", common_text::kUnitFatS},
-    PriorityRow{&Amounts::carbs, "###0", common_text::kUnitCarbohydrates},
-    PriorityRow{&Amounts::protein, "###0", common_text::kUnitProteins},
+    PriorityRow{&Amounts::kj, common_text::kUnitKj},
+    PriorityRow{&Amounts::kcal, common_text::kUnitKcal},
+    PriorityRow{&Amounts::fat_u, common_text::kUnitFatU},
+    PriorityRow{&Amounts::fat_s, common_text::kUnitFatS},
+    PriorityRow{&Amounts::carbs, common_text::kUnitCarbohydrates},
+    PriorityRow{&Amounts::protein, common_text::kUnitProteins},
 };
 
 constexpr std::array kHeadings = {common_text::kMorningContains, common_text::kAfternoonContains,
@@ -55,7 +53,7 @@ const PriorityRow& RowOf(Priority priority) {
 }
 
 void ShowPeriods(Program& program, const std::array<Amounts, 3>& periods, const Text& separator) {
-  const Priority priority = PriorityOf(program.profile[ProfileField::type_prioriteit]);
+  const Priority priority = PriorityOfUser(program);
   const Text& unit = program.texts[RowOf(priority).unit];
   for (std::size_t i = 0; i < periods.size(); ++i) {
     ConsumptionView* const window = program.windows.consumption[i];
@@ -115,7 +113,7 @@ ConsumptionTotals PeriodTotals(const Amounts& period, Priority priority, std::st
   const PriorityRow& row = RowOf(priority);
   totals.status.append(heading)
       .append(" ")
-      .append(print(period.*row.amount, row.pattern))
+      .append(print(period.*row.amount, PatternOf(priority)))
       .append(" ")
       .append(unit);
   return totals;
