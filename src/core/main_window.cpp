@@ -45,7 +45,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   Toolbar_quickscreens_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   addToolBar(Qt::BottomToolBarArea, Toolbar_quickscreens_);
   BuildStatusBar();
-  UpdateCommands();
+  UpdateCommands();  // nothing looks usable while the start is still under way
   program_.windows.core = this;
 }
 

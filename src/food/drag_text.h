@@ -18,8 +18,6 @@ inline constexpr std::string_view kAddMarker = "add-";
 inline constexpr std::string_view kKillMarker = "kill-";
 inline constexpr std::string_view kForeignMarker = "NVITEM-";
 
-inline constexpr int kLongestMarker = static_cast<int>(kForeignMarker.size());
-
 // The field that marks a line as coming from the separate calorie program.
 inline constexpr std::string_view kForeignOrigin = "Nomivant.exe";
 

@@ -1,6 +1,7 @@
 #include "food/food_lists_window.h"
 
 #include <QActionGroup>
+#include <QFocusEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -50,6 +51,8 @@ class SearchBox : public QLineEdit {
  protected:
   void focusInEvent(QFocusEvent* event) override {
     QLineEdit::focusInEvent(event);
+    // A window that comes back to the front keeps what was being typed.
+    if (event->reason() != Qt::MouseFocusReason) return;
     // After the click that brings the focus, which puts the cursor somewhere.
     QTimer::singleShot(0, this, &QLineEdit::selectAll);
   }

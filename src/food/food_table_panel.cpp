@@ -17,8 +17,7 @@ namespace kelvora {
 namespace {
 
 bool CarriesFood(const QMimeData* data) {
-  // The marker is enough: a drag may carry much text, and this runs at every move of the mouse.
-  return data->hasText() && IsDragText(FromQt(data->text().left(kLongestMarker)));
+  return data->hasText() && IsDragText(FromQt(data->text()));
 }
 
 }  // namespace
@@ -66,7 +65,6 @@ void FoodTable::SelectRow(int row) {
 
 void FoodTable::SelectRowsReading(int column, const QString& text) {
   clearSelection();
-  if (text.isEmpty()) return;
   bool first = true;
   for (int row = 0; row < model_.rowCount(); ++row) {
     const QModelIndex index = model_.index(row, column);
@@ -97,8 +95,9 @@ void FoodTable::dragEnterEvent(QDragEnterEvent* event) {
   SetDropLight(true);
 }
 
+// What is dragged was looked at when it came over the list.
 void FoodTable::dragMoveEvent(QDragMoveEvent* event) {
-  if (!drop || !CarriesFood(event->mimeData())) return event->ignore();
+  if (!drop_light_) return event->ignore();
   event->acceptProposedAction();
 }
 

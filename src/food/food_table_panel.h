@@ -28,7 +28,7 @@ class FoodTable : public QTableView {
   // The numbers of the selected rows, from first to last.
   [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
   // Selects the rows whose cell in `column` reads `text`, and brings the first into view; nothing
-  // is selected if there is none or the text is empty.
+  // is selected if there is none.
   void SelectRowsReading(int column, const QString& text);
   void SelectRow(int row);
 

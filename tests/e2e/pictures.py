@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Takes the pictures of the running program: the main window with a day in it, and the dialogs.
 
-The arguments are the built program, the folder for the pictures and the name of a language file
+The arguments are the built program, the folder for the pictures and the name of a language file.
+Not a test: a person looks at what it makes.
 """
 import struct
 import subprocess
@@ -12,6 +13,8 @@ from desktop import Desktop
 from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
 
 AFTERNOON = (800, 420)
+AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
+# What differs from English in making a user and a day.
 WORDS = {"nederlands": {"title": "Begin een nieuwe dag", "gender": "V"}}
 
 
@@ -46,8 +49,8 @@ def main():
                               (4, EVENING)]:
             desktop.click(row(number))
             desktop.drag(row(number), place)
-        desktop.click((920, 342))
-        desktop.click((651, 139))
+        desktop.click(AFTERNOON_PLUS)
+        desktop.click(MORNING_TOTALS)
         take(desktop, folder / f"main_window_{stem}.png")
         desktop.keys("ctrl+s")
         desktop.keys("ctrl+o")

@@ -235,6 +235,21 @@ TEST_F(ProgramWindows, TheListsStartWithTheFirstCategoryAndSearchAsYouType) {
   EXPECT_EQ(search->text(), "ap");
 }
 
+TEST_F(ProgramWindows, AClickSelectsWhatStandsInTheSearchBoxAndComingBackDoesNot) {
+  OpenDay();
+  auto* const search = Child("KV_tb_lijsten")->findChild<QLineEdit*>("txt_zoeken");
+  search->deselect();
+  QFocusEvent clicked(QEvent::FocusIn, Qt::MouseFocusReason);
+  QApplication::sendEvent(search, &clicked);
+  QTest::qWait(1);
+  EXPECT_EQ(search->selectedText(), "Bread.dat");
+  search->deselect();
+  QFocusEvent came_back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(search, &came_back);
+  QTest::qWait(1);
+  EXPECT_EQ(search->selectedText(), "");
+}
+
 TEST_F(ProgramWindows, ChoosingACategoryListsIt) {
   OpenDay();
   auto* const categories = Child("KV_tb_lijsten")->findChild<QComboBox*>("combo_cat");

@@ -32,8 +32,13 @@ QLabel* NewLabel(QWidget* parent, const QString& object_name) {
 }
 
 void UseSmallLetters(QWidget* widget) {
+  constexpr double kShare = 0.9;
   QFont font = widget->font();
-  font.setPointSizeF(font.pointSizeF() * 0.9);
+  if (font.pointSizeF() > 0) {
+    font.setPointSizeF(font.pointSizeF() * kShare);
+  } else {  // a desktop font whose size is given in pixels
+    font.setPixelSize(qRound(font.pixelSize() * kShare));
+  }
   widget->setFont(font);
 }
 
