@@ -16,8 +16,8 @@ WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 
 # A file may include files of its own rank or a lower one. The text tables and their names are
 # data that every layer addresses; the whole of core but these top files lies below the rest.
-TOP_OF_CORE = {"startup", "commands", "command_tables", "main_window", "child_area_panel"}
-BOTTOM_OF_CORE = {"text", "store", "records", "geometry"}
+TOP_OF_CORE = {"startup", "load_settings", "commands", "command_tables", "main_window", "child_area_panel"}
+BOTTOM_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry"}
 RANK_OF_FOLDER = {
     "platform": 1, "core": 2, "nutrition": 3, "storage": 3,
     "food": 4, "days": 4, "analysis": 4, "output": 4, "language": 4, "internet": 4,

@@ -126,7 +126,7 @@ bool MayEndProgram(Program& program) {
 }
 
 Text ProgramPanelText() {
-  return Text(kAppTitle) + " " + Text(kVersionText);
+  return Text(AppTitle) + " " + Text(VersionText);
 }
 
 Text UserPanelText(const Program& program) {

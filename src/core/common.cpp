@@ -1,5 +1,6 @@
 #include "core/common.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -54,9 +55,25 @@ void MoveConsumption(KV_data& store, std::string_view source, std::string_view k
   from->Remove(*found);
 }
 
+bool CategoryKnown(const KV_data& store, std::string_view category) {
+  return std::ranges::find(store.lst_categorien, category) != store.lst_categorien.end();
+}
+
+Text& CleanText(Text& text) {
+  constexpr std::string_view kAccented = "áéíóúäëïöü"_w;
+  constexpr std::string_view kPlain = "aeiouaeiou";
+  static constexpr std::string_view kRemoved = "?@#%^&*()'€$£¦"_w;
+  std::erase_if(text, [](char c) { return kRemoved.find(c) != kRemoved.npos; });
+  for (char& c : text) {
+    const std::size_t place = kAccented.find(c);
+    if (place != kAccented.npos) c = kPlain[place];
+  }
+  return text;
+}
+
 bool FileExists(const std::string& path) {
   std::error_code ignored;
-  if (std::filesystem::is_directory(path, ignored)) return false;
+  if (!std::filesystem::is_regular_file(path, ignored)) return false;
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
                                                              &std::fclose);
   return file != nullptr;

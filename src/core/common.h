@@ -9,12 +9,15 @@
 
 namespace kelvora {
 
-inline constexpr std::string_view kAppTitle = "Kelvora FOOD";
-inline constexpr std::string_view kVersionText = "2.24";
+inline constexpr std::string_view AppTitle = "Kelvora FOOD";
+inline constexpr std::string_view VersionText = "2.24";
 
 // A day-part list holding more lines than this takes no more. Meant: a list of exactly this many
 // still accepts one addition.
-inline constexpr std::size_t kMaxDayPartLines = 50;
+inline constexpr std::size_t MaxDayPartLines = 50;
+
+// Most characters in the diary.
+inline constexpr std::size_t MaxDiaryLength = 5000;
 
 // A nutrient by the code of `type_prioriteit`: the one extra column of every food list.
 enum class Priority { kj, kcal, fat_u, fat_s, carbs, protein };
@@ -40,7 +43,16 @@ inline constexpr std::string_view kDeleteTarget = "0";
 void MoveConsumption(KV_data& store, std::string_view source, std::string_view key,
                      std::string_view target);
 
-// True if `path` can be opened for reading. A folder is no file.
+// True if the list of categories holds exactly this name.
+[[nodiscard]] bool CategoryKnown(const KV_data& store, std::string_view category);
+
+// Makes `text` fit for file names and XML values: plain letters for the small vowels with an acute
+// accent or a diaeresis, and none of ? @ # % ^ & * ( ) ' € $ £ ¦. All else stays, capitals too.
+// Changes `text` in place and returns it.
+Text& CleanText(Text& text);
+
+// True if `path` can be opened for reading. Only a regular file is one: a folder, a pipe or a
+// device is not.
 [[nodiscard]] bool FileExists(const std::string& path);
 
 }  // namespace kelvora

@@ -9,7 +9,7 @@ namespace kelvora {
 void ReportFailure(const FailureBox& box, std::string_view code, std::string_view description) {
   Text text = box.opening_line;
   text.append("\n\n").append(description).append("\nBrelux CODE:").append(code);
-  box.boxes.Show({.title = Text(kAppTitle), .text = text});
+  box.boxes.Show({.title = Text(AppTitle), .text = text});
 }
 
 Text DescribeFailure(const std::exception& failure) {

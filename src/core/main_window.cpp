@@ -30,7 +30,7 @@ QString QtName(std::string_view name) {
 
 MainWindow::MainWindow(Program& program) : program_(program) {
   NameWidget(this, "KV_Core");
-  setWindowTitle(ToQt(kAppTitle));
+  setWindowTitle(ToQt(AppTitle));
   setMinimumSize(PixelsOfTwips(kMainMinimumWidth), PixelsOfTwips(kMainMinimumHeight));
   resize(1024, 740);
   area_ = new ChildArea(this);
@@ -221,6 +221,9 @@ void MainWindow::OpenWindow(WindowId id) {
       return;
   }
 }
+
+// The settings have no dialog yet.
+void MainWindow::OpenSettings() {}
 
 void MainWindow::OpenConsumption(DayPart part, const char* icon) {
   OpenChild(WindowOf(part), new ConsumptionWindow(program_, part, area_), icon,

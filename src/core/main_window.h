@@ -33,6 +33,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void UpdateCommands() override;
   [[nodiscard]] MainWindowSize Size() const override;
   void OpenWindow(WindowId id) override;
+  void OpenSettings() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

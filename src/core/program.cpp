@@ -38,7 +38,7 @@ Text JoinLines(const TextTables& texts, std::initializer_list<std::optional<Text
 }
 
 void Tell(Program& program, BoxIcon icon, Text text) {
-  program.platform.boxes.Show({.title = Text(kAppTitle), .text = std::move(text), .icon = icon});
+  program.platform.boxes.Show({.title = Text(AppTitle), .text = std::move(text), .icon = icon});
 }
 
 }  // namespace kelvora

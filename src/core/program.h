@@ -42,8 +42,13 @@ struct DayState {
 // What the previous read of a file kind left; a file with no record falls back on it.
 struct LastRead {
   std::optional<Rec_DayFile> day;
-  std::optional<Rec_Settings> settings;
   std::optional<Rec_Profile> profile;
+};
+
+// The addresses of the chosen food server; empty while it is not known.
+struct ServerAddresses {
+  std::string search;
+  std::string submission;
 };
 
 struct Program {
@@ -59,6 +64,7 @@ struct Program {
   DayState day;
   OpenWindows windows;
   LastRead last_read;
+  ServerAddresses servers;
   Text StartSeparator;  // the decimal separator that the locale had at start
   Platform& platform;
 

@@ -4,6 +4,8 @@
 
 #include "core/arrangement.h"
 #include "core/environment.h"
+#include "core/load_settings.h"
+#include "internet/servers.h"
 #include "language/language_file.h"
 #include "nutrition/numbers.h"
 #include "storage/folders.h"
@@ -31,9 +33,6 @@ void LoadSettings(Program& program) {
   Load_Settings(program);
   Apply_Default_Settings(program);
 }
-
-// The food servers have no transfer yet.
-void ChooseServers(Program&) {}
 
 void SetCaptions(Program& program) {
   program.windows.core->Set_Taal();
@@ -72,7 +71,7 @@ constexpr std::array kSteps = {
     &ComputeDefaultGeometry,
     &Check_Language_Files,
     &ApplyAlternativeUsersFolder,
-    &ChooseServers,
+    &Zet_Server_Adressen,
     &LoadChosenLanguage,
     &SetCaptions,
     &CheckScreenResolution,

@@ -1,6 +1,5 @@
 #include "core/store.h"
 
-#include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -18,28 +17,6 @@ void ForEachTerminated(std::string_view text, char terminator, Take take) {
 }
 
 }  // namespace
-
-void TextList::Remove(std::size_t index) {
-  if (index < lines_.size()) lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(index));
-}
-
-void TextList::Replace(std::size_t index, std::string_view line) {
-  if (index < lines_.size()) lines_[index] = line;
-}
-
-std::optional<std::size_t> TextList::FindFirst(std::string_view key) const {
-  const auto found =
-      std::ranges::find_if(lines_, [&](const Text& s) { return s.starts_with(key); });
-  if (found == lines_.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - lines_.begin());
-}
-
-std::optional<std::size_t> TextList::FindLast(std::string_view key) const {
-  for (std::size_t i = lines_.size(); i-- > 0;) {
-    if (lines_[i].starts_with(key)) return i;
-  }
-  return std::nullopt;
-}
 
 const TextList& KV_data::ListOf(DayPart part) const {
   switch (part) {
@@ -81,9 +58,16 @@ void SplitBlock(std::string_view block, TextList& lines) {
   ForEachTerminated(block, kLineEnd, [&](std::string_view line) { lines.Add(line); });
 }
 
+void SplitBlock(std::string_view block, std::string_view closing, TextList& lines) {
+  ForEachTerminated(block, kLineEnd, [&](std::string_view line) { lines.Add({line, closing}); });
+}
+
 Text PackBlock(const TextList& lines) {
+  std::size_t size = 0;
+  for (const std::string_view line : lines) size += line.size() + 1;
   Text block;
-  for (const Text& line : lines) (block += line) += kLineEnd;
+  block.reserve(size);
+  for (const std::string_view line : lines) (block += line) += kLineEnd;
   return block;
 }
 
@@ -95,12 +79,24 @@ bool HoldsTerminator(std::string_view text) {
   return text.find_first_of(std::string_view("\xBD\xBE", 2)) != std::string_view::npos;
 }
 
+std::string_view PodCodeOf(DayPart part) {
+  constexpr std::array<std::string_view, 3> kCodes = {"0", "1", "2"};
+  return kCodes[static_cast<std::size_t>(part)];
+}
+
+void MergeDay(const std::array<std::string_view, 3>& blocks, TextList& merged) {
+  merged.Clear();
+  for (const DayPart part : kDayParts) {
+    SplitBlock(blocks[static_cast<std::size_t>(part)], Text(PodCodeOf(part)) + kFieldEnd, merged);
+  }
+}
+
 void CountEqualLines(const TextList& lines, TextList& distinct, TextList& counts) {
   distinct.Clear();
   counts.Clear();
   std::unordered_map<std::string_view, std::size_t> place;
   std::vector<std::size_t> tally;
-  for (const Text& line : lines) {
+  for (const std::string_view line : lines) {
     const auto [entry, is_new] = place.try_emplace(line, tally.size());
     if (is_new) {
       distinct.Add(line);

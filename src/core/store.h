@@ -6,11 +6,10 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string_view>
 #include <vector>
 
-#include "core/text.h"
+#include "core/text_list.h"
 
 namespace kelvora {
 
@@ -62,30 +61,15 @@ struct HeaderRow {
 enum class DayPart { morning, afternoon, evening };
 inline constexpr std::array kDayParts = {DayPart::morning, DayPart::afternoon, DayPart::evening};
 
-// A list of strings in insertion order; an index beyond the end reads as "".
-class TextList {
- public:
-  void Add(std::string_view line) { lines_.emplace_back(line); }
-  void Remove(std::size_t index);
-  void Replace(std::size_t index, std::string_view line);
-  void Clear() { lines_.clear(); }
+// One row of a list view kept aside: the texts of its columns.
+using ListViewRow = std::vector<Text>;
 
-  [[nodiscard]] std::size_t Count() const { return lines_.size(); }
-  [[nodiscard]] bool Empty() const { return lines_.empty(); }
-  [[nodiscard]] std::string_view operator[](std::size_t index) const {
-    return index < lines_.size() ? std::string_view(lines_[index]) : std::string_view();
-  }
-  [[nodiscard]] auto begin() const { return lines_.begin(); }
-  [[nodiscard]] auto end() const { return lines_.end(); }
-
-  // The first or last line that begins with `key`, which is a name and its closing kFieldEnd.
-  [[nodiscard]] std::optional<std::size_t> FindFirst(std::string_view key) const;
-  [[nodiscard]] std::optional<std::size_t> FindLast(std::string_view key) const;
-
-  bool operator==(const TextList&) const = default;
-
- private:
-  std::vector<Text> lines_;
+// The small icons that come with the store, by the names of their pictures.
+inline constexpr std::array<std::string_view, 24> kStoreIcons = {
+    "new",      "open",      "save",    "print",          "close",    "user",
+    "foods",    "morning",   "evening", "afternoon",      "summary",  "trend",
+    "diary",    "compare",   "export",  "settings",       "help",     "about",
+    "item-add", "item-info", "search",  "item-favourite", "list-own", "list-internet",
 };
 
 struct KV_data {
@@ -101,9 +85,14 @@ struct KV_data {
   TextList lst_data_dir;
   TextList lst_files;
 
-  TextList tmp_filter, temp_filter, var_filter;
-  TextList Dupe_list, Dupe_list_teller;
+  TextList tmp_filter;   // the merged lines of a whole day
+  TextList temp_filter;  // the fields of one line
+  TextList var_filter;   // cleared with the day
+  std::vector<ListViewRow> tmp_lv;
+  TextList Dupe_list, Dupe_list_teller;  // distinct lines and how often each occurs
   Text txt_testdata;
+  Text txt_internetzoekdata;  // the raw answer of a food server
+  std::array<std::string_view, 24> picIcon = kStoreIcons;
 
   [[nodiscard]] bool DayIsOpen() const { return !KV_bestand.empty(); }
   [[nodiscard]] TextList& ListOf(DayPart part);
@@ -119,8 +108,9 @@ struct KV_data {
 // Clears `fields` and fills it with the fields of `line`.
 void SplitLine(std::string_view line, TextList& fields);
 
-// Appends each line of `block` to `lines`; nothing is cleared.
+// Appends each line of `block` to `lines`; nothing is cleared. `closing` is put behind every line.
 void SplitBlock(std::string_view block, TextList& lines);
+void SplitBlock(std::string_view block, std::string_view closing, TextList& lines);
 
 // All lines in order, each with its closing kLineEnd.
 [[nodiscard]] Text PackBlock(const TextList& lines);
@@ -130,6 +120,13 @@ void SplitBlock(std::string_view block, TextList& lines);
 
 // True if either terminator stands in `text`.
 [[nodiscard]] bool HoldsTerminator(std::string_view text);
+
+// The code of a day part in merged lines: "0", "1" or "2".
+[[nodiscard]] std::string_view PodCodeOf(DayPart part);
+
+// Fills `merged` with the lines of a whole day from its three packed blocks, morning first. Each
+// line gets the code of its day part as one more field, at index 12 or 13, whichever is next.
+void MergeDay(const std::array<std::string_view, 3>& blocks, TextList& merged);
 
 // Groups equal lines: `distinct` gets each different line in order of first appearance, `counts`
 // how often it occurs, as text. Both are cleared first. Lines differing in any field stay apart.

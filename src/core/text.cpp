@@ -3,31 +3,6 @@
 namespace kelvora {
 namespace {
 
-constexpr char LowerOf(char byte) {
-  const auto code = static_cast<unsigned char>(byte);
-  if (byte >= 'A' && byte <= 'Z') return static_cast<char>(code + 0x20);
-  // The accented capitals; 0xD7 is the multiplication sign and has no lower case.
-  if (code >= 0xC0 && code <= 0xDE && code != 0xD7) return static_cast<char>(code + 0x20);
-  switch (code) {
-    case 0x8A:
-      return static_cast<char>(0x9A);
-    case 0x8C:
-      return static_cast<char>(0x9C);
-    case 0x8E:
-      return static_cast<char>(0x9E);
-    case 0x9F:
-      return static_cast<char>(0xFF);
-    default:
-      return byte;
-  }
-}
-
-constexpr auto kLower = [] {
-  std::array<char, 256> table{};
-  for (std::size_t i = 0; i < table.size(); ++i) table[i] = LowerOf(static_cast<char>(i));
-  return table;
-}();
-
 void AppendUtf8(std::string& out, char32_t code_point) {
   const auto put = [&out](char32_t value) { out += static_cast<char>(value); };
   if (code_point < 0x80) {
@@ -64,7 +39,7 @@ std::string Utf8FromText(std::string_view text) {
 
 Text LowerCase(std::string_view text) {
   Text lower(text);
-  for (char& byte : lower) byte = kLower[static_cast<unsigned char>(byte)];
+  for (char& byte : lower) byte = LowerCaseOf(byte);
   return lower;
 }
 

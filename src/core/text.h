@@ -72,7 +72,24 @@ struct Utf8Character {
 // Windows-1252 to UTF-8; never loses anything.
 [[nodiscard]] std::string Utf8FromText(std::string_view text);
 
-// Lower case by the letters of Windows-1252, accented ones included.
+// The lower case of every byte by the letters of Windows-1252, accented ones included.
+inline constexpr auto kLowerCase = [] {
+  std::array<char, 256> lower{};
+  for (std::size_t code = 0; code < lower.size(); ++code) {
+    // The accented capitals stand from 0xC0 on; 0xD7 is the multiplication sign.
+    const bool capital =
+        (code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7);
+    lower[code] = static_cast<char>(capital ? code + 0x20 : code);
+  }
+  lower[0x8A] = static_cast<char>(0x9A);  // S with caron
+  lower[0x8C] = static_cast<char>(0x9C);  // OE
+  lower[0x8E] = static_cast<char>(0x9E);  // Z with caron
+  lower[0x9F] = static_cast<char>(0xFF);  // Y with diaeresis
+  return lower;
+}();
+[[nodiscard]] constexpr char LowerCaseOf(char byte) {
+  return kLowerCase[static_cast<unsigned char>(byte)];
+}
 [[nodiscard]] Text LowerCase(std::string_view text);
 
 // `text` with every occurrence of `what`, found from the left, replaced by `with`.

@@ -16,8 +16,9 @@ WindowView* OpenWindows::Find(WindowId id) const {
       return consumption[1];
     case WindowId::evening:
       return consumption[2];
-    case WindowId::wizard:
     case WindowId::day_summary:
+      return day_summary;
+    case WindowId::wizard:
     case WindowId::food_details:
     case WindowId::multi_day:
     case WindowId::diary:

@@ -52,8 +52,18 @@ struct ConsumptionView : WindowView {
 };
 
 struct FoodListsView : WindowView {
+  // Shows the standard list from its first category on.
+  virtual void Toon_Standaardlijst() = 0;
   virtual void Populate_Food_List_Custom() = 0;
   virtual void Populate_Food_List_Favo() = 0;
+};
+
+// Totals of the whole day in the order of the requirements: kilojoules and kilocalories, then
+// unsaturated fat, saturated fat, sodium, protein and carbohydrates in grams.
+using DayTotals = std::array<float, 7>;
+
+struct DaySummaryView : WindowView {
+  virtual void Maak_Voedingsbehoefte(const DayTotals& totals) = 0;
 };
 
 struct BrowserView : WindowView {
@@ -75,6 +85,8 @@ struct CoreView {
   // Opens a window at its record; a dialog is shown modally and this returns when it is gone. A
   // window that the program does not have yet stays closed.
   virtual void OpenWindow(WindowId id) = 0;
+  // Shows the settings dialog modally; returns when it is gone.
+  virtual void OpenSettings() = 0;
 };
 
 struct OpenWindows {
@@ -83,6 +95,8 @@ struct OpenWindows {
   std::array<ConsumptionView*, 3> consumption{};
   WindowView* day_settings = nullptr;
   BrowserView* browser = nullptr;
+  DaySummaryView* day_summary = nullptr;
+  WindowView* export_html = nullptr;
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
   std::array<bool, 3> totals_shown{};

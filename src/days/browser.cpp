@@ -45,12 +45,12 @@ struct StoredDay {
   Text trend;
 };
 
-StoredDay ReadDay(Program& program, const std::string& folder, const Text& file_name) {
+StoredDay ReadDay(Program& program, const std::string& folder, std::string_view file_name) {
   const Rec_DayFile& record =
       ReadOrKeepRecord(folder + Utf8FromText(file_name), program.last_read.day);
   TextList header;
   SplitBlock(record[DayFileField::Header], header);
-  return {file_name,
+  return {Text(file_name),
           Text(header[HeaderRow::kDate]),
           Text(header[HeaderRow::kWeekday]),
           Text(header[HeaderRow::kHeight]),
@@ -64,7 +64,7 @@ std::vector<StoredDay> ReadStoredDays(Program& program, const std::string& folde
     program.platform.pointer.ShowWait();
     const TextList files = FilesIn(folder, ".kvf");
     program.store.lst_files = files;
-    for (const Text& file : files) days.push_back(ReadDay(program, folder, file));
+    for (const std::string_view file : files) days.push_back(ReadDay(program, folder, file));
   });
   return days;
 }

@@ -179,7 +179,7 @@ void BrowserDialog::Refresh_GebruikersLijst() {
   const TextList names = UsersToBrowse(program_);
   const QSignalBlocker quiet(lst_users_);
   lst_users_->clear();
-  for (const Text& name : names) lst_users_->addItem(ToQt(name));
+  for (const std::string_view name : names) lst_users_->addItem(ToQt(name));
   SelectCurrentUser();
   ShowProfile();
 }

@@ -261,7 +261,7 @@ void DaySettingsDialog::ShowUsers() {
   lbl_info_->setText(ToQt(program_.texts[InstructionFor(names.Count())]));
   const QSignalBlocker quiet(lst_users_);
   lst_users_->clear();
-  for (const Text& name : names) lst_users_->addItem(ToQt(name));
+  for (const std::string_view name : names) lst_users_->addItem(ToQt(name));
   const auto current = lst_users_->findItems(ToQt(program_.paths.UserName),
                                              Qt::MatchFixedString | Qt::MatchCaseSensitive);
   if (names.Empty()) {

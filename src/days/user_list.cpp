@@ -7,7 +7,7 @@ namespace kelvora {
 
 void ReadUserNames(Program& program, TextList& names) {
   program.store.lst_data_dir = SubFoldersOf(program.paths.UsersPath);
-  for (const Text& folder : program.store.lst_data_dir) {
+  for (const std::string_view folder : program.store.lst_data_dir) {
     const Rec_Profile& profile =
         ReadOrKeepRecord(ProfileFile(program.paths, folder), program.last_read.profile);
     names.Add(profile[ProfileField::name]);

@@ -11,19 +11,20 @@ namespace {
 
 namespace ct = consumption_text;
 
-// Afternoon and evening share their failure codes, and are meant to.
 constexpr std::array kRows = {
-    DayPartRow{DayPart::morning, "KV_tb_vochtend", TextTable::taal_morning, "#F15-0", "#F15-1",
-               "#F15-2", "#F15-3", "#F15-7"},
-    DayPartRow{DayPart::afternoon, "KV_tb_vmiddag", TextTable::taal_afternoon, "#F14-0", "#F14-1",
-               "#F14-2", "#F14-3", "#F14-7"},
-    DayPartRow{DayPart::evening, "KV_tb_vavond", TextTable::taal_evening, "#F14-0", "#F14-1",
-               "#F14-2", "#F14-3", "#F14-7"},
+    DayPartRow{DayPart::morning, "KV_tb_vochtend", TextTable::taal_morning},
+    DayPartRow{DayPart::afternoon, "KV_tb_vmiddag", TextTable::taal_afternoon},
+    DayPartRow{DayPart::evening, "KV_tb_vavond", TextTable::taal_evening},
 };
 
 // Headings of the nutrient column, in the order of Priority.
 constexpr std::array kNutrientHeadings = {ct::kColumnKj,   ct::kColumnKcal,  ct::kColumnFatU,
                                           ct::kColumnFatS, ct::kColumnCarbs, ct::kColumnProtein};
+
+// Afternoon and evening share their failure codes, and are meant to.
+std::string_view CodeOf(DayPart part, std::string_view morning, std::string_view later) {
+  return part == DayPart::morning ? morning : later;
+}
 
 const Text& TextOf(const Program& program, DayPart part, std::size_t index) {
   return program.texts[{RowOf(part).texts, index}];
@@ -38,7 +39,7 @@ Text WeightOfPortion(Program& program, std::string_view gram) {
 
 // A list of exactly the limit still takes one addition, as is meant.
 bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line) {
-  if (program.store.ListOf(part).Count() <= kMaxDayPartLines) return false;
+  if (program.store.ListOf(part).Count() <= MaxDayPartLines) return false;
   const auto text = [&](std::size_t index) { return TextOf(program, part, index); };
   program.platform.boxes.Show(
       {.title = {},
@@ -78,7 +79,7 @@ const Text& CellOf(const ConsumptionRow& row, std::size_t column) {
 
 std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
   std::vector<ConsumptionRow> rows;
-  program.Guard(RowOf(part).code_rows, [&] {
+  program.Guard(CodeOf(part, "#F15-0", "#F14-0"), [&] {
     KV_data& store = program.store;
     const Text separator = program.platform.locale.DecimalSeparator();
     const Priority priority = PriorityOfUser(program);
@@ -123,7 +124,7 @@ void SelectName(Program& program, DayPart part, std::string_view product) {
 }
 
 void Item_Plus_Een(Program& program, DayPart part, std::string_view product) {
-  program.Guard(RowOf(part).code_plus, [&] {
+  program.Guard(CodeOf(part, "#F15-1", "#F14-1"), [&] {
     if (IsAboveLimit(program, part, ct::kLimitAdd)) return;
     SetFileChanged(program, true);
     TextList& lines = program.store.ListOf(part);
@@ -136,7 +137,7 @@ void Item_Plus_Een(Program& program, DayPart part, std::string_view product) {
 }
 
 void Item_Min_Een(Program& program, DayPart part, std::string_view product) {
-  program.Guard(RowOf(part).code_minus, [&] {
+  program.Guard(CodeOf(part, "#F15-2", "#F14-2"), [&] {
     SetFileChanged(program, true);
     TextList& lines = program.store.ListOf(part);
     if (!lines.Empty()) {
@@ -149,11 +150,11 @@ void Item_Min_Een(Program& program, DayPart part, std::string_view product) {
 }
 
 void Item_Verwijder(Program& program, DayPart part, const TextList& products) {
-  program.Guard(RowOf(part).code_remove, [&] {
+  program.Guard(CodeOf(part, "#F15-3", "#F14-3"), [&] {
     SetFileChanged(program, true);
     TextList& lines = program.store.ListOf(part);
     if (lines.Empty()) return;
-    for (const Text& product : products) {
+    for (const std::string_view product : products) {
       const Text key = KeyOf(product);
       while (const auto found = lines.FindLast(key)) lines.Remove(*found);
     }
@@ -164,13 +165,13 @@ void Item_Verwijder(Program& program, DayPart part, const TextList& products) {
 Text BeginConsumptionDrag(Program& program, DayPart part, const TextList& products) {
   program.day.drag_source = RoutingCodeOf(part);
   Text payload(kKillMarker);
-  for (const Text& product : products) (payload += KeyOf(product)) += kLineEnd;
+  for (const std::string_view product : products) (payload += KeyOf(product)) += kLineEnd;
   return payload;
 }
 
 bool DropOnDayPart(Program& program, DayPart part, std::string_view payload) {
   bool accepted = false;
-  program.Guard(RowOf(part).code_drop, [&] {
+  program.Guard(CodeOf(part, "#F15-7", "#F14-7"), [&] {
     // The limit does not count what is being dropped, as is meant.
     if (IsAboveLimit(program, part, ct::kLimitDrop)) return;
     accepted = true;
@@ -179,14 +180,14 @@ bool DropOnDayPart(Program& program, DayPart part, std::string_view payload) {
     // One after the other, not one of the three: what a marker leaves is looked at again.
     Text rest(payload);
     if (TakeMarker(rest, kAddMarker)) {
-      for (const Text& line : PartsOf(rest)) lines.Add(line);
+      for (const std::string_view line : PartsOf(rest)) lines.Add(line);
     }
     if (TakeMarker(rest, kForeignMarker)) {
       rest.append(kForeignOrigin) += kFieldEnd;
       lines.Add(rest);
     }
     if (TakeMarker(rest, kKillMarker)) {
-      for (const Text& key : PartsOf(rest)) {
+      for (const std::string_view key : PartsOf(rest)) {
         MoveConsumption(program.store, program.day.drag_source, key, RoutingCodeOf(part));
       }
       RefreshDragSource(program);

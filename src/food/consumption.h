@@ -18,7 +18,6 @@ struct DayPartRow {
   DayPart part;
   std::string_view window_name;
   TextTable texts;
-  std::string_view code_rows, code_plus, code_minus, code_remove, code_drop;
 };
 [[nodiscard]] const DayPartRow& RowOf(DayPart part);
 

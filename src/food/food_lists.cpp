@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "core/common.h"
+#include "core/text_search.h"
 #include "food/drag_text.h"
 #include "language/lists_texts.h"
 #include "nutrition/numbers.h"
@@ -83,22 +84,20 @@ std::array<Text, kFoodColumns> FoodLists::Headings() const {
 
 TextList FoodLists::Categories() const {
   TextList categories;
-  for (const Text& file : program_.store.lst_categorien) {
-    categories.Add(std::string_view(file).substr(0, file.size() - kExtension.size()));
+  for (const std::string_view file : program_.store.lst_categorien) {
+    categories.Add(file.substr(0, file.size() - kExtension.size()));
   }
   return categories;
 }
 
-// Fills `temp_zoeken` with the lines that `wanted` takes of their lower-case form.
+// Fills `temp_zoeken` with the lines that `wanted` takes.
 template <class Wanted>
 void FoodLists::Collect(std::string_view code, Wanted wanted) {
   program_.Guard(code, [&] {
     program_.platform.pointer.ShowWait();
     temp_zoeken_.Clear();
     for (const TextList* list : {&program_.store.Default_list, &program_.store.Custom_list}) {
-      for (const Text& line : *list) {
-        if (wanted(line)) temp_zoeken_.Add(line);
-      }
+      temp_zoeken_.AddSharedLines(*list, wanted);
     }
     program_.platform.pointer.Restore();
   });
@@ -117,17 +116,14 @@ Text FoodLists::ChooseCategory(std::string_view shown_name) {
 }
 
 void FoodLists::SearchPrefix(std::string_view text) {
-  const Text wanted = LowerCase(text);
-  Collect("#F11-0", [&wanted](const Text& line) {
-    return LowerCase(std::string_view(line).substr(0, wanted.size())) == wanted;
-  });
+  const CaselessFinder finder(text);
+  Collect("#F11-0", [&finder](std::string_view line) { return finder.IsAtFrontOf(line); });
 }
 
 bool FoodLists::Zoek_In_Lijsten(std::string_view text) {
   if (text.empty()) return false;
-  const Text wanted = LowerCase(text);
-  Collect("#F11-1",
-          [&wanted](const Text& line) { return LowerCase(line).find(wanted) != Text::npos; });
+  const CaselessFinder finder(text);
+  Collect("#F11-1", [&finder](std::string_view line) { return finder.IsIn(line); });
   return true;
 }
 

@@ -231,7 +231,7 @@ void FoodListsWindow::Toon_Standaardlijst() {
   const auto searched = lists_.Toon_Standaardlijst();
   combo_cat_->clear();
   if (searched) {
-    for (const Text& category : categories) combo_cat_->addItem(ToQt(category));
+    for (const std::string_view category : categories) combo_cat_->addItem(ToQt(category));
     combo_cat_->setCurrentIndex(0);
     txt_zoeken_->setText(ToQt(*searched));
     txt_zoeken_->selectAll();

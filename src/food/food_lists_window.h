@@ -27,6 +27,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void Toon_Standaardlijst() override;
   void Populate_Food_List_Custom() override;
   void Populate_Food_List_Favo() override;
 
@@ -42,7 +43,6 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void ShowView(FoodView view);
   void Populate(FoodView view);
   void SetColumnWidths(FoodView view);
-  void Toon_Standaardlijst();
   void ShowResults();
   [[nodiscard]] FoodTable& TableOf(FoodView view) {
     return *tables_[static_cast<std::size_t>(view)];

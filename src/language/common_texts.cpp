@@ -57,6 +57,18 @@ constexpr std::array kRows = {
     TextRow{kUnitFatS, "Fat(s)"_w, "Vet(v)"_w},
     TextRow{kUnitCarbohydrates, "Carbohydrates"_w, "Koolhydraten"_w},
     TextRow{kUnitProteins, "Proteins"_w, "Eiwitten"_w},
+    TextRow{kFavouriteExists, "This food item already exists in the favourites list."_w,
+            "Dit voedingsmiddel staat al in de favorietenlijst."_w},
+    TextRow{kFavouriteOnlyOnce, "A food item can be only used once in the favourites list."_w,
+            "Een voedingsmiddel kan maar één keer in de favorietenlijst staan."_w},
+    TextRow{kFavouriteAdded, "The food item has been added to the favourites list."_w,
+            "Het voedingsmiddel is aan de favorietenlijst toegevoegd."_w},
+    TextRow{kFirstRunNotFound, "The file 'kvfset.dat' has not been found or has been damaged."_w,
+            "Het bestand 'kvfset.dat' is niet gevonden of is beschadigd."_w},
+    TextRow{kFirstRunProbably, "Probably this is the first time that you start Kelvora FOOD."_w,
+            "Waarschijnlijk is dit de eerste keer dat je Kelvora FOOD start."_w},
+    TextRow{kFirstRunPressOk, "Press OK to open the settings screen."_w,
+            "Klik op OK om het instellingenscherm te openen."_w},
 };
 static_assert(RowsAreInOrder(kRows));
 

@@ -35,5 +35,11 @@ inline constexpr TextId kUnitFatU{TextTable::taal_common, 25};
 inline constexpr TextId kUnitFatS{TextTable::taal_common, 26};
 inline constexpr TextId kUnitCarbohydrates{TextTable::taal_common, 27};
 inline constexpr TextId kUnitProteins{TextTable::taal_common, 28};
+inline constexpr TextId kFavouriteExists{TextTable::taal_common, 29};
+inline constexpr TextId kFavouriteOnlyOnce{TextTable::taal_common, 30};
+inline constexpr TextId kFavouriteAdded{TextTable::taal_common, 31};
+inline constexpr TextId kFirstRunNotFound{TextTable::taal_common, 32};
+inline constexpr TextId kFirstRunProbably{TextTable::taal_common, 33};
+inline constexpr TextId kFirstRunPressOk{TextTable::taal_common, 34};
 
 }  // namespace kelvora::common_text

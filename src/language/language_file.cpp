@@ -54,7 +54,7 @@ void SplitTables(const Rec_Language& record, TextTables& texts) {
     TextList entries;
     SplitBlock(record[table], entries);
     std::size_t index = first;
-    for (const Text& entry : entries) {
+    for (const std::string_view entry : entries) {
       if (index > last) break;  // more entries than a table has are passed over
       texts[{table, index++}] = entry;
     }
@@ -75,7 +75,7 @@ void Save_Language_File(Program& program, const std::string& path) {
   try {
     WriteRecord(path, JoinTables(program.texts));
   } catch (const std::exception&) {
-    ShowError(program, kAppTitle,
+    ShowError(program, AppTitle,
               "An error occured while saving the languagefile" + TextFromUtf8(path));
   }
 }
@@ -87,7 +87,7 @@ Text Get_Language_Version(Program& program, const std::string& path) {
     SplitBlock(ReadLanguage(path)[TextTable::taal_file_info], entries);
     return Text(entries[file_info_text::kLanguageVersion.index]);
   } catch (const std::exception&) {
-    ShowError(program, kAppTitle,
+    ShowError(program, AppTitle,
               "An error occured during language version retrieval in file " + TextFromUtf8(path));
     return {};
   }
@@ -97,7 +97,7 @@ void Check_Language_Files(Program& program) {
   program.Guard("#FF8-13", [&] {
     for (const auto& [name, make] : kStandardFiles) {
       const std::string path = program.paths.LanguagePath + name;
-      if (FileExists(path) && Get_Language_Version(program, path) == kVersionText) continue;
+      if (FileExists(path) && Get_Language_Version(program, path) == VersionText) continue;
       make(program.texts);
       Save_Language_File(program, path);
     }

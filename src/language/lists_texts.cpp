@@ -38,6 +38,11 @@ constexpr std::array kRows = {
             "Je kunt niet meer dan 10 voedingsmiddelen tegelijk slepen."_w},
     TextRow{kSelectAgain, "Please select the food item(s) again."_w,
             "Selecteer de voedingsmiddelen opnieuw."_w},
+    TextRow{kCopyQuestion,
+            "Your own list will be copied to the standard list, for all users of this program."_w,
+            "Je eigen lijst wordt gekopieerd naar de standaardlijst, voor alle gebruikers."_w},
+    TextRow{kCopySure, "Do you want to copy 'my own list' to the standard list?"_w,
+            "Wil je 'mijn eigen lijst' naar de standaardlijst kopiëren?"_w},
 };
 static_assert(RowsAreInOrder(kRows));
 

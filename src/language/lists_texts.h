@@ -32,5 +32,7 @@ inline constexpr TextId kAvailable{TextTable::taal_lists, 22};
 inline constexpr TextId kResultsFound{TextTable::taal_lists, 23};
 inline constexpr TextId kTooManyDragged{TextTable::taal_lists, 24};
 inline constexpr TextId kSelectAgain{TextTable::taal_lists, 25};
+inline constexpr TextId kCopyQuestion{TextTable::taal_lists, 26};
+inline constexpr TextId kCopySure{TextTable::taal_lists, 27};
 
 }  // namespace kelvora::lists_text

@@ -1,20 +1,52 @@
 #include "nutrition/dates.h"
 
 #include <algorithm>
+#include <array>
+#include <chrono>
 #include <stdexcept>
 
 namespace kelvora {
 
-StoredDate ParseStoredDate(std::string_view text) {
-  Text digits(text);
-  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
+namespace {
+
+// Six digits as three numbers of two.
+std::array<int, 3> PairsOf(std::string_view digits) {
   const bool six_digits = digits.size() == 6 &&
                           std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
-  if (!six_digits) throw std::invalid_argument("Not a date: " + Utf8FromText(text));
-  const auto pair = [&digits](std::size_t at) {
+  if (!six_digits) throw std::invalid_argument("Not a date: " + Utf8FromText(digits));
+  const auto pair = [digits](std::size_t at) {
     return (digits[at] - '0') * 10 + (digits[at + 1] - '0');
   };
   return {pair(0), pair(2), pair(4)};
+}
+
+}  // namespace
+
+StoredDate ParseStoredDate(std::string_view text) {
+  Text digits(text);
+  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
+  const auto [day, month, year] = PairsOf(digits);
+  return {day, month, year};
+}
+
+int DaysOfYearMonthDay(std::string_view text) {
+  using namespace std::chrono;
+  const auto [years, months, days] = PairsOf(text);
+  const year_month_day date{year(2000 + years), month(static_cast<unsigned>(months)),
+                            day(static_cast<unsigned>(days))};
+  if (!date.ok()) throw std::invalid_argument("Not a date: " + Utf8FromText(text));
+  return static_cast<int>(sys_days(date).time_since_epoch().count());
+}
+
+LongDateOrder DateOrder(const Locale& locale) {
+  // The first letter of day, month and year; a day of three letters or more is a weekday.
+  Text pattern = locale.LongDatePattern();
+  pattern = ReplaceAll(ReplaceAll(pattern, "dddd", ""), "ddd", "");
+  const std::size_t day = pattern.find('d');
+  const std::size_t month = pattern.find('M');
+  const std::size_t year = pattern.find('y');
+  if (year < month) return LongDateOrder::year_month_day;
+  return month < day ? LongDateOrder::month_day_year : LongDateOrder::day_month_year;
 }
 
 Text TwoDigits(int number) {

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/text.h"
-#include "platform/clock.h"
+#include "platform/locale.h"
 
 namespace kelvora {
 
@@ -22,6 +22,14 @@ struct StoredDate {
 // The date as users of the unit system (`opt_system`) write it: "mm-dd-yy" for "1", "dd-mm-yy"
 // otherwise. An empty text stays empty. Throws std::invalid_argument.
 [[nodiscard]] Text FormatStoredDate(std::string_view text, std::string_view opt_system);
+
+// The days since a fixed one of the date written as yymmdd, of the years 2000 to 2099. Throws
+// std::invalid_argument for anything that is no date.
+[[nodiscard]] int DaysOfYearMonthDay(std::string_view text);
+
+// The order in which the system writes a long date.
+enum class LongDateOrder { month_day_year, day_month_year, year_month_day };
+[[nodiscard]] LongDateOrder DateOrder(const Locale& locale);
 
 // A number as two digits, with a leading zero; the last two digits of a longer one.
 [[nodiscard]] Text TwoDigits(int number);

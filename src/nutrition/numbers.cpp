@@ -25,7 +25,7 @@ struct Decimal {
 template <class Number>
 Decimal DecimalOf(Number value, int significant) {
   if (!std::isfinite(value)) throw std::domain_error("Overflow");
-  std::array<char, 64> buffer;
+  std::array<char, 160> buffer;
   const auto [end, error] =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                     std::chars_format::scientific, significant - 1);
@@ -66,13 +66,20 @@ PlainDigits PlainDigitsOf(const Decimal& decimal) {
   return {decimal.digits.substr(0, whole_length), decimal.digits.substr(whole_length)};
 }
 
-// Keeps `places` digits behind the point, halves away from zero.
-Decimal RoundAwayFromZero(Decimal decimal, int places) {
+enum class Halves { away_from_zero, to_even };
+
+// Keeps `places` digits behind the point.
+Decimal RoundDecimal(Decimal decimal, int places, Halves halves) {
   const int keep = decimal.exponent + places;
   if (keep < 0) return {};
   if (keep >= static_cast<int>(decimal.digits.size())) return decimal;
-  const bool up = decimal.digits[static_cast<std::size_t>(keep)] >= '5';
-  decimal.digits.resize(static_cast<std::size_t>(keep));
+  const auto first_dropped = static_cast<std::size_t>(keep);
+  bool up = decimal.digits[first_dropped] >= '5';
+  // No trailing zeros stand in the digits: a lone 5 is exactly half.
+  if (halves == Halves::to_even && decimal.digits.substr(first_dropped) == "5") {
+    up = first_dropped > 0 && (decimal.digits[first_dropped - 1] - '0') % 2 == 1;
+  }
+  decimal.digits.resize(first_dropped);
   if (up) {
     while (!decimal.digits.empty() && decimal.digits.back() == '9') decimal.digits.pop_back();
     if (decimal.digits.empty()) {
@@ -132,6 +139,26 @@ double ReadStoredNumber(std::string_view text) {
   return text.find(',') == std::string_view::npos ? Val(text) : Val(CommaToPoint(text));
 }
 
+float Single(double value) {
+  const auto single = static_cast<float>(value);
+  if (!std::isfinite(single)) throw std::domain_error("Overflow");
+  return single;
+}
+
+float RoundTo(float value, int decimals) {
+  // A single has at most 112 significant decimal digits: that many are its exact value.
+  constexpr int kExact = 112;
+  const Decimal rounded = RoundDecimal(DecimalOf(value, kExact), decimals, Halves::to_even);
+  const Text written = "0." + rounded.digits + "e" + std::to_string(rounded.exponent);
+  float result = 0;
+  const auto [end, error] =
+      std::from_chars(written.data(), written.data() + written.size(), result);
+  if (error == std::errc::result_out_of_range && rounded.exponent > 0) {
+    throw std::domain_error("Overflow");
+  }
+  return rounded.negative ? -result : result;
+}
+
 Text Str(float value, std::string_view separator) {
   return WriteShortest(value, separator);
 }
@@ -145,8 +172,8 @@ Text FormatNumber(double value, std::string_view pattern, std::string_view separ
   const std::string_view fraction_pattern =
       point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
 
-  const Decimal decimal =
-      RoundAwayFromZero(DecimalOf(value, 15), static_cast<int>(fraction_pattern.size()));
+  const Decimal decimal = RoundDecimal(
+      DecimalOf(value, 15), static_cast<int>(fraction_pattern.size()), Halves::away_from_zero);
   auto [whole, fraction] = PlainDigitsOf(decimal);
 
   const auto required = static_cast<std::size_t>(std::ranges::count(whole_pattern, '0'));

@@ -21,6 +21,13 @@ namespace kelvora {
 // The text with each comma made a point.
 [[nodiscard]] Text CommaToPoint(std::string_view text);
 
+// A value held in single precision. Throws std::domain_error if it has no place there.
+[[nodiscard]] float Single(double value);
+
+// The exact value rounded at the given decimal place, half to even; a negative place stands before
+// the point. Throws std::domain_error for infinity and not-a-number.
+[[nodiscard]] float RoundTo(float value, int decimals);
+
 // The shortest form of the value: at most seven (float) or fifteen (double) significant digits,
 // never an exponent, no trailing zeros behind the point, "0" before a leading point.
 [[nodiscard]] Text Str(float value, std::string_view separator);

@@ -65,13 +65,12 @@ void ShowPeriods(Program& program, const std::array<Amounts, 3>& periods, const 
 
 }  // namespace
 
-Amounts SumOf(const TextList& lines) {
+Amounts SumOf(const TextList& lines, TextList& fields) {
   Amounts sum;
-  for (const Text& line : lines) {
-    const auto fields = FieldsOf(line);
+  for (const std::string_view line : lines) {
+    SplitLine(CommaToPoint(line), fields);
     for (const auto& [field, amount] : kAmounts) {
-      if (field >= fields.size()) break;
-      sum.*amount = static_cast<float>(sum.*amount + ReadStoredNumber(fields[field]));
+      sum.*amount = Single(sum.*amount + Val(fields[field]));
     }
   }
   return sum;
@@ -80,9 +79,13 @@ Amounts SumOf(const TextList& lines) {
 Amounts DayTotalOf(const std::array<Amounts, 3>& periods) {
   Amounts day;
   for (const auto& [field, amount] : kAmounts) {
-    day.*amount = periods[0].*amount + periods[1].*amount + periods[2].*amount;
+    for (const Amounts& period : periods) day.*amount = Single(day.*amount + period.*amount);
   }
   return day;
+}
+
+DayTotals RequirementOrder(const Amounts& day) {
+  return {day.kj, day.kcal, day.fat_u, day.fat_s, day.sodium, day.protein, day.carbs};
 }
 
 Text TrendText(const Amounts& day, std::string_view body_weight, std::string_view separator) {
@@ -125,10 +128,14 @@ void Refresh_Totalen(Program& program) {
     CheckDecimal(program);
     KV_data& store = program.store;
     const Text separator = program.platform.locale.DecimalSeparator();
-    const std::array periods = {SumOf(store.L_ochtend), SumOf(store.L_middag),
-                                SumOf(store.L_avond)};
+    const std::array periods = {SumOf(store.L_ochtend, store.temp_filter),
+                                SumOf(store.L_middag, store.temp_filter),
+                                SumOf(store.L_avond, store.temp_filter)};
     const Amounts day = DayTotalOf(periods);
     ShowPeriods(program, periods, separator);
+    if (DaySummaryView* const summary = program.windows.day_summary) {
+      summary->Maak_Voedingsbehoefte(RequirementOrder(day));
+    }
     store.txt_trenddata = TrendText(day, store.L_gegevens[HeaderRow::kWeight], separator);
     program.platform.pointer.Restore();
   });

@@ -22,11 +22,15 @@ struct Amounts {
   float sodium = 0;
 };
 
-// The sum over all lines of a list. Commas and points are the same.
-[[nodiscard]] Amounts SumOf(const TextList& lines);
+// The sum over all lines of a list. Commas and points are the same. `fields` receives the fields of
+// each line in turn. Throws std::domain_error for a sum that a single can't hold.
+[[nodiscard]] Amounts SumOf(const TextList& lines, TextList& fields);
 
 // The sum of three periods, morning first.
 [[nodiscard]] Amounts DayTotalOf(const std::array<Amounts, 3>& periods);
+
+// The totals of a day in the order in which the requirements take them.
+[[nodiscard]] DayTotals RequirementOrder(const Amounts& day);
 
 // The nine-field trend text: day totals and the body weight as stored.
 [[nodiscard]] Text TrendText(const Amounts& day, std::string_view body_weight,
@@ -37,8 +41,9 @@ struct Amounts {
                                              std::string_view heading, std::string_view unit,
                                              std::string_view separator);
 
-// Sums the day, shows each open consumption window its period's totals and rewrites
-// `txt_trenddata`. A failure shows "#FF11-0".
+// Sums the day, shows each open consumption window its period's totals and the day summary the
+// day's, and rewrites `txt_trenddata`. `temp_filter` is left with the fields of the last line. A
+// failure shows "#FF11-0".
 void Refresh_Totalen(Program& program);
 
 // What a conversion needs of this program.

@@ -28,9 +28,9 @@ Text Convert(const UnitContext& context, std::string_view code, Conversion conve
 
 Text OuncesOfGrams(double grams, std::string_view separator) {
   const auto printed = [separator](float value, std::string_view pattern) {
-    return static_cast<float>(ReadStoredNumber(FormatNumber(value, pattern, separator)));
+    return Single(ReadStoredNumber(FormatNumber(value, pattern, separator)));
   };
-  const auto ounces = static_cast<float>(grams * Factor_Oz);
+  const float ounces = Single(grams * Factor_Oz);
   float shown = printed(ounces, "##0.0");
   const bool ends_in_zero = Str(shown, separator).ends_with('0');
   shown = printed(shown, ends_in_zero ? "##0" : "##0.0");
@@ -43,10 +43,25 @@ Text Gram_To_Oz(Text& grams, const UnitContext& context) {
                  [&](const Text& separator) { return OuncesOfGrams(Normalise(grams), separator); });
 }
 
+Text Oz_To_Gram(Text& ounces, const UnitContext& context) {
+  if (ounces.empty()) return {};
+  return Convert(context, "#FF11-4", [&](const Text& separator) {
+    const float grams = Single(Normalise(ounces) / Factor_Oz);
+    return FormatNumber(grams, "##0", separator);
+  });
+}
+
+Text Lbs_To_Kg(Text& pounds, const UnitContext& context) {
+  if (pounds.empty()) return {};
+  return Convert(context, "#FF11-1", [&](const Text& separator) {
+    return Str(Normalise(pounds) / Factor_Lbs, separator);
+  });
+}
+
 Text Kg_To_Lbs(Text& kilograms, const UnitContext& context) {
   if (kilograms.empty()) return {};
   return Convert(context, "#FF11-1", [&](const Text& separator) {
-    const auto pounds = static_cast<float>(Normalise(kilograms) * Factor_Lbs);
+    const float pounds = Single(Normalise(kilograms) * Factor_Lbs);
     return FormatNumber(pounds, "##0.00", separator);
   });
 }
@@ -54,7 +69,7 @@ Text Kg_To_Lbs(Text& kilograms, const UnitContext& context) {
 Text Kg_To_Stones(Text& kilograms, const UnitContext& context) {
   if (kilograms.empty()) return {};
   return Convert(context, "#FF11-2", [&](const Text& separator) {
-    const auto pounds = static_cast<float>(Normalise(kilograms) * Factor_Lbs);
+    const float pounds = Single(Normalise(kilograms) * Factor_Lbs);
     const float stones = pounds * Factor_Stone;
     return FormatNumber(stones, "##0.0", separator);
   });
@@ -66,20 +81,30 @@ Text Meter_To_Feet_Inch(Text& metres, HeightPart part, const UnitContext& contex
     const Text exact = Str(Normalise(metres) * double{Factor_Feet}, ".");
     const std::size_t point = exact.find('.');
     if (point == Text::npos) throw std::domain_error("A height without feet and inches");
-    const auto feet = static_cast<float>(Val(exact.substr(0, point)));
+    const float feet = Single(Val(exact.substr(0, point)));
     if (part == HeightPart::feet) return Str(feet, separator);
-    const auto inches = static_cast<float>(Val("0" + exact.substr(point)) * double{Factor_Inch});
+    const float inches = Single(Val("0" + exact.substr(point)) * double{Factor_Inch});
     return FormatNumber(inches, "##", separator);
+  });
+}
+
+Text Feet_Inch_To_Meter(std::string_view feet, std::string_view inches,
+                        const UnitContext& context) {
+  if (feet.empty() || inches.empty()) return {};
+  return Convert(context, "#FF11-6", [&](const Text& separator) {
+    const double all_feet = Val(feet) + Val(inches) / Factor_Inch;
+    return FormatNumber(all_feet / Factor_Feet, "0.#0", separator);
   });
 }
 
 Text Bereken_BMI(Text& height, Text& weight, const UnitContext& context) {
   if (height.empty() || weight.empty()) return {};
   return Convert(context, "#FF11-7", [&](const Text& separator) {
-    const auto metres = static_cast<float>(Normalise(height));
-    const auto kilograms = static_cast<float>(Normalise(weight));
-    if (metres == 0) throw std::domain_error("Division by zero");
-    const float index = kilograms / (metres * metres);
+    const float metres = Single(Normalise(height));
+    const float kilograms = Single(Normalise(weight));
+    const float square = metres * metres;
+    if (square == 0) throw std::domain_error("Division by zero");
+    const float index = Single(double{kilograms} / square);
     return FormatNumber(index, "##.00", separator);
   });
 }
@@ -87,6 +112,19 @@ Text Bereken_BMI(Text& height, Text& weight, const UnitContext& context) {
 Text Format_Datum(std::string_view date, std::string_view opt_system, const UnitContext& context) {
   return Convert(context, "#FF11-8",
                  [&](const Text&) { return FormatStoredDate(date, opt_system); });
+}
+
+std::optional<std::int16_t> Dagen_Tussen(std::string_view first, std::string_view second,
+                                         const UnitContext& context) {
+  constexpr std::size_t kDateLength = 6;
+  if (first.size() != kDateLength || second.size() != kDateLength) return std::nullopt;
+  std::optional<std::int16_t> days;
+  WithFailurePath(context.failures, "#FF11-9", [&] {
+    const int between = DaysOfYearMonthDay(second) - DaysOfYearMonthDay(first);
+    if (between != static_cast<std::int16_t>(between)) throw std::overflow_error("Overflow");
+    days = static_cast<std::int16_t>(between);
+  });
+  return days;
 }
 
 }  // namespace kelvora

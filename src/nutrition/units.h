@@ -7,6 +7,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <optional>
 
 #include "core/failure.h"
 #include "platform/locale.h"
@@ -31,6 +32,13 @@ struct UnitContext {
 // The same for a text, under its failure code. Makes each comma of `grams` a point.
 [[nodiscard]] Text Gram_To_Oz(Text& grams, const UnitContext& context);
 
+// Ounces to whole grams, "##0". Makes each comma of `ounces` a point.
+[[nodiscard]] Text Oz_To_Gram(Text& ounces, const UnitContext& context);
+
+// Pounds to kilograms, unrounded: all fifteen significant digits. Makes each comma of `pounds` a
+// point.
+[[nodiscard]] Text Lbs_To_Kg(Text& pounds, const UnitContext& context);
+
 // Kilograms to pounds, "##0.00". Makes each comma of `kilograms` a point.
 [[nodiscard]] Text Kg_To_Lbs(Text& kilograms, const UnitContext& context);
 
@@ -44,6 +52,11 @@ enum class HeightPart { feet, inches };
 // `metres` a point. A height without a decimal part in feet, which is one of 0, is a failure.
 [[nodiscard]] Text Meter_To_Feet_Inch(Text& metres, HeightPart part, const UnitContext& context);
 
+// Feet and inches to metres, "0.#0". A comma is no decimal mark here: the arguments come from boxes
+// that take points only.
+[[nodiscard]] Text Feet_Inch_To_Meter(std::string_view feet, std::string_view inches,
+                                      const UnitContext& context);
+
 // Weight over height squared, "##.00". `height` in metres, `weight` in kilograms; each comma of
 // both is made a point. A height of 0 is a failure.
 [[nodiscard]] Text Bereken_BMI(Text& height, Text& weight, const UnitContext& context);
@@ -51,5 +64,12 @@ enum class HeightPart { feet, inches };
 // The stored date as users of the unit system write it.
 [[nodiscard]] Text Format_Datum(std::string_view date, std::string_view opt_system,
                                 const UnitContext& context);
+
+// The whole days from the first date to the second, negative if the second lies earlier. Dates are
+// six digits, year, month, day, of the years 2000 to 2099; nothing for a text that has not six
+// characters. A date that does not exist is a failure, and so are more than 32,767 days.
+[[nodiscard]] std::optional<std::int16_t> Dagen_Tussen(std::string_view first,
+                                                       std::string_view second,
+                                                       const UnitContext& context);
 
 }  // namespace kelvora

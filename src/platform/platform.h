@@ -7,6 +7,7 @@
 #include "platform/events.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
+#include "platform/opener.h"
 #include "platform/pointer.h"
 #include "platform/screen.h"
 
@@ -20,6 +21,7 @@ struct Platform {
   Clock& clock;
   Screen& screen;
   Events& events;
+  Opener& opener;
 };
 
 }  // namespace kelvora

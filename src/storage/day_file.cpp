@@ -30,6 +30,8 @@ bool MayDropDayForAnother(Program& program) {
       JoinLines(program.texts, {kOpenFileGoing, kOpenFileNotSaved, std::nullopt, kOpenFileSure}));
 }
 
+}  // namespace
+
 void TakeDay(KV_data& store, const Rec_DayFile& record) {
   store.txt_trenddata = record[DayFileField::Trend];
   store.txt_notities = record[DayFileField::Notes];
@@ -43,8 +45,6 @@ Rec_DayFile PackDay(const KV_data& store) {
   return {{store.txt_trenddata, store.txt_notities, PackBlock(store.L_gegevens),
            PackBlock(store.L_ochtend), PackBlock(store.L_middag), PackBlock(store.L_avond)}};
 }
-
-}  // namespace
 
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name) {
   const std::string path = folder + Utf8FromText(file_name);

@@ -17,6 +17,11 @@ namespace kelvora {
 // `folder` is a UTF-8 path with its closing "/".
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name);
 
+// Puts the six strings of a day file into the store, the lists behind what they hold; and makes
+// such six strings of the store.
+void TakeDay(KV_data& store, const Rec_DayFile& record);
+[[nodiscard]] Rec_DayFile PackDay(const KV_data& store);
+
 // Writes the open day to its user's folder; does nothing with no day open. A failure shows
 // "#FF1-9", and the day stays changed.
 void SaveDay(Program& program);

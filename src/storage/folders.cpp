@@ -2,11 +2,16 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 
 namespace kelvora {
 namespace {
 
 namespace fs = std::filesystem;
+
+// Numbers of the special folders.
+constexpr int kApplicationData = 26;
+constexpr int kDocuments = 5;
 
 // The names in a folder that `wanted` takes, sorted without regard to case.
 template <class Wanted>
@@ -31,16 +36,32 @@ TextList NamesIn(const std::string& path, Wanted wanted) {
   return list;
 }
 
+// Lets the owner change every folder below, which is what removing its content takes.
+void GrantAllRightsBelow(const fs::path& folder) {
+  std::error_code ignored;
+  fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, ignored);
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+    if (entry.is_directory(ignored) && !entry.is_symlink(ignored)) GrantAllRightsBelow(entry);
+  }
+}
+
 }  // namespace
 
+std::string GetSpecialFolder(const Folders& folders, int number) {
+  std::string path;
+  if (number == kApplicationData) path = folders.ApplicationData();
+  if (number == kDocuments) path = folders.Documents();
+  return path.substr(0, path.find('\0'));
+}
+
 std::string DefaultUsersPath(const Folders& folders) {
-  return folders.Documents() + "/Kelvora FOOD/My Users/";
+  return GetSpecialFolder(folders, kDocuments) + "/Kelvora FOOD/My Users/";
 }
 
 void DetermineFolders(Program& program) {
   const Folders& folders = program.platform.folders;
-  const std::string application_data = folders.ApplicationData();
-  const std::string documents = folders.Documents();
+  const std::string application_data = GetSpecialFolder(folders, kApplicationData);
+  const std::string documents = GetSpecialFolder(folders, kDocuments);
   Paths& paths = program.paths;
 
   paths.ProgramPath = folders.ProgramFolder() + "/";
@@ -74,6 +95,18 @@ void MakeUserFolders(const Paths& paths, std::string_view name) {
   for (const char* folder : {"Profile", "Files", "Databases"}) {
     MakeFolder(UserFolder(paths, name) + folder);
   }
+}
+
+void DeleteUserFolder(const Paths& paths, const std::string& path) {
+  const bool below = path.starts_with(paths.UsersPath);
+  std::string_view name = std::string_view(path).substr(below ? paths.UsersPath.size() : 0);
+  if (name.ends_with('/')) name.remove_suffix(1);
+  if (!below || name.empty() || !CanNameAFolder(name)) {
+    throw std::invalid_argument("Not the folder of a user: " + path);
+  }
+  const fs::path folder = paths.UsersPath + std::string(name);
+  if (fs::is_directory(fs::symlink_status(folder))) GrantAllRightsBelow(folder);
+  fs::remove_all(folder);
 }
 
 std::string ProfileFile(const Paths& paths, std::string_view name) {

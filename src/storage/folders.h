@@ -9,6 +9,10 @@
 
 namespace kelvora {
 
+// A folder of the platform by its number: 26 for settings of applications, 5 for the user's
+// documents; empty for any other and where the platform can't tell.
+[[nodiscard]] std::string GetSpecialFolder(const Folders& folders, int number);
+
 // Fixes all paths and creates what is missing, before any file is touched. A folder that can't be
 // created leads to no message here: the first file operation on it fails.
 void DetermineFolders(Program& program);
@@ -29,6 +33,11 @@ bool MakeFolder(const std::string& path);
 // Creates the three folders of a user, whose name is used exactly as it was typed. A name that no
 // folder can have gets none, which shows at the first write of the profile.
 void MakeUserFolders(const Paths& paths, std::string_view name);
+
+// Removes the folder of one user with all its content, write-protected or not. `path` must be a
+// direct child of the users folder, or std::invalid_argument is thrown; a link is removed as a
+// link. Throws std::filesystem::filesystem_error.
+void DeleteUserFolder(const Paths& paths, const std::string& path);
 
 [[nodiscard]] std::string ProfileFile(const Paths& paths, std::string_view name);
 [[nodiscard]] std::string CustomFile(const Paths& paths, std::string_view name);

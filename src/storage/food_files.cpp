@@ -1,8 +1,13 @@
 #include "storage/food_files.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
 
 #include "core/common.h"
+#include "language/common_texts.h"
+#include "language/lists_texts.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
 
@@ -11,19 +16,13 @@ namespace {
 
 using Populate = void (FoodListsView::*)();
 
-// The block of lines in a food file; empty if the file counts no record.
-Text BlockOf(const std::string& path) {
-  auto record = ReadFirstRecord<Rec_ListLine>(path);
-  return record ? std::move(record->strings[0]) : Text();
-}
-
 void LoadUserList(Program& program, const std::string& path, std::string_view code, TextList& list,
                   Populate populate) {
   if (!FileExists(path)) return;
   program.Guard(code, [&] {
     program.platform.pointer.ShowWait();
     list.Clear();
-    SplitBlock(BlockOf(path), list);
+    AppendFoodLines(ReadFile(path), {}, list);
     program.platform.pointer.Restore();
     if (program.windows.lists != nullptr) (program.windows.lists->*populate)();
   });
@@ -38,11 +37,34 @@ void SaveUserList(Program& program, const std::string& path, std::string_view co
   });
 }
 
-void AddCategory(TextList& categories, std::string_view name) {
-  if (std::ranges::find(categories, name) == categories.end()) categories.Add(name);
+// The line of that key that becomes a favourite; nothing if there is none.
+std::optional<Text> CandidateOf(const KV_data& store, std::string_view key) {
+  if (const auto own = store.Custom_list.FindFirst(key)) return Text(store.Custom_list[*own]);
+  if (const auto standard = store.Default_list.FindLast(key)) {
+    return Text(store.Default_list[*standard]);
+  }
+  return std::nullopt;
+}
+
+bool UserWantsTheCopy(Program& program) {
+  const Box box{
+      .title = Text(AppTitle),
+      .text = JoinLines(program.texts, {lists_text::kCopyQuestion, lists_text::kCopySure}),
+      .icon = BoxIcon::question,
+      .buttons = BoxButtons::yes_no_cancel};
+  return program.platform.boxes.Show(box) == BoxAnswer::yes;
 }
 
 }  // namespace
+
+void AppendFoodLines(std::string_view file_bytes, std::string_view closing_field, TextList& lines) {
+  std::array<std::string_view, Rec_ListLine::kSize> block;
+  if (!DecodeFirstRecord(file_bytes, std::span(block))) return;
+  if (closing_field.empty()) return SplitBlock(block[0], lines);
+  Text closing(closing_field);
+  closing += kFieldEnd;
+  SplitBlock(block[0], closing, lines);
+}
 
 void Load_Databases(Program& program) {
   program.Guard("#FF1-1", [&] {
@@ -51,11 +73,9 @@ void Load_Databases(Program& program) {
     const std::string folder = program.paths.ProgramPath + "Databases/";
     store.database_lst = FilesIn(folder, ".dat");
     store.Default_list.Clear();
-    for (const Text& file : store.database_lst) {
-      AddCategory(store.lst_categorien, file);
-      TextList lines;
-      SplitBlock(BlockOf(folder + Utf8FromText(file)), lines);
-      for (const Text& line : lines) store.Default_list.Add(line + file + kFieldEnd);
+    for (const std::string_view file : store.database_lst) {
+      if (!CategoryKnown(store, file)) store.lst_categorien.Add(file);
+      AppendFoodLines(ReadFile(folder + Utf8FromText(file)), file, store.Default_list);
     }
     program.platform.pointer.Restore();
   });
@@ -69,6 +89,39 @@ void Load_Custom(Program& program, const std::string& path) {
 void Load_Favorites(Program& program, const std::string& path) {
   LoadUserList(program, path, "#FF1-3", program.store.Favorites_list,
                &FoodListsView::Populate_Food_List_Favo);
+}
+
+void Add_To_Favorites(Program& program, std::string_view key) {
+  using namespace common_text;
+  program.Guard("#FF8-0", [&] {
+    KV_data& store = program.store;
+    const auto line = CandidateOf(store, key);
+    if (!line) return;
+    if (std::ranges::find(store.Favorites_list, *line) != store.Favorites_list.end()) {
+      Tell(program, BoxIcon::warning,
+           JoinLines(program.texts, {kFavouriteExists, kFavouriteOnlyOnce}));
+      return;
+    }
+    store.Favorites_list.Add(*line);
+    Save_Favorites(program, FavoritesFile(program.paths, program.paths.UserName));
+    if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Favo();
+    Tell(program, BoxIcon::information, program.texts[kFavouriteAdded]);
+  });
+}
+
+void CopyOwnListToDatabases(Program& program) {
+  program.Guard("#F11-2", [&] {
+    if (!UserWantsTheCopy(program)) return;
+    const Paths& paths = program.paths;
+    const std::string bytes = ReadFile(CustomFile(paths, paths.UserName));
+    WriteFileAnew(paths.ProgramPath + "Databases/" + Utf8FromText(paths.UserName) + ".dat", bytes);
+    Load_Databases(program);
+    FoodListsView* const lists = program.windows.lists;
+    if (lists == nullptr) return;
+    lists->Toon_Standaardlijst();
+    lists->Populate_Food_List_Custom();
+    lists->Populate_Food_List_Favo();
+  });
 }
 
 void Save_Favorites(Program& program, const std::string& path) {

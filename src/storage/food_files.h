@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/program.h"
 
@@ -21,5 +22,20 @@ void Load_Favorites(Program& program, const std::string& path);
 // Write the list of a user. A failure shows "#FF1-5" or "#FF1-4".
 void Save_Custom(Program& program, const std::string& path);
 void Save_Favorites(Program& program, const std::string& path);
+
+// Adds the lines of a food file's image to `lines`. A `closing_field` that is not empty becomes one
+// more field of every line.
+void AppendFoodLines(std::string_view file_bytes, std::string_view closing_field, TextList& lines);
+
+// Marks a food as favourite, saves the favourites of the current user and tells so. `key` is a name
+// and its closing kFieldEnd; the last line of the standard list that begins with it counts, but the
+// first one of the own list overrides it. A line that is a favourite already leads to a warning and
+// nothing else; a key that no line begins with leads to nothing. A failure shows "#FF8-0".
+void Add_To_Favorites(Program& program, std::string_view key);
+
+// Asks, and on a Yes copies the own list of the current user, byte for byte, to a category database
+// named after the user, then loads all databases again and lets an open food lists window rebuild
+// its views. A failure shows "#F11-2".
+void CopyOwnListToDatabases(Program& program);
 
 }  // namespace kelvora

@@ -23,7 +23,13 @@ void UpdateStatusBar(Program& program) {
 void Load_Profile(Program& program, const std::string& path) {
   if (!FileExists(path)) return;
   program.Guard("#FF1-6", [&] {
-    program.profile = OnlyFieldsInUse(ReadOrKeepRecord(path, program.last_read.profile));
+    // A file that counts no record leaves the working copy of the user before.
+    if (const auto record = ReadFirstRecord<Rec_Profile>(path)) {
+      program.last_read.profile = record;
+      program.profile = OnlyFieldsInUse(*record);
+    } else if (!program.last_read.profile) {
+      ThrowNoRecord();
+    }
     UpdateStatusBar(program);
   });
 }

@@ -14,22 +14,50 @@
 namespace kelvora {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr std::size_t kLongStringMark = 0xFFFF;
+constexpr std::size_t kLongestString = 0xFFFFFFFF;
 
 struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-[[noreturn]] void ThrowSystemError() {
-  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category());
+[[noreturn]] void ThrowSystemError(int error = errno) {
+  throw std::system_error(error != 0 ? error : EIO, std::generic_category());
 }
 
+// Opens a regular file, or makes one. A folder, a pipe or a device in its place is refused: opening
+// one may wait for ever.
 File Open(const std::string& path, const char* mode) {
+  std::error_code unknown;
+  const fs::file_status status = fs::status(path, unknown);
+  if (fs::is_directory(status)) ThrowSystemError(EISDIR);
+  if (fs::exists(status) && !fs::is_regular_file(status)) ThrowSystemError(EINVAL);
   errno = 0;
   File file(std::fopen(path.c_str(), mode));
   if (file == nullptr) ThrowSystemError();
   return file;
+}
+
+// A file that nobody may write is not deleted either, though its folder would allow it.
+void ThrowIfWriteProtected(const std::string& path) {
+  constexpr fs::perms kAnyWrite =
+      fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  std::error_code unknown;
+  if ((fs::status(path, unknown).permissions() & kAnyWrite) == fs::perms::none) {
+    ThrowSystemError(EACCES);
+  }
+  Open(path, "r+b");
+}
+
+void WriteWhole(const std::string& path, std::string_view bytes) {
+  File file = Open(path, "wb");
+  errno = 0;
+  if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) ThrowSystemError();
+  // Buffered bytes may meet a full disk only now.
+  if (std::fclose(file.release()) != 0) ThrowSystemError();
 }
 
 // Reads little-endian numbers and strings from the front of a file image; what lies beyond the end
@@ -67,6 +95,7 @@ void AppendNumber(std::string& out, std::size_t value, int size) {
 }
 
 void AppendString(std::string& out, std::string_view text) {
+  if (text.size() > kLongestString) throw std::length_error("The text is too long for a file");
   if (text.size() < kLongStringMark) {
     AppendNumber(out, text.size(), 2);
   } else {
@@ -76,12 +105,20 @@ void AppendString(std::string& out, std::string_view text) {
   out += text;
 }
 
+template <class AnyString>
+bool DecodeInto(std::string_view bytes, std::span<AnyString> strings) {
+  RecordReader reader(bytes);
+  if (static_cast<std::int32_t>(reader.Number(4)) <= 0) return false;
+  for (AnyString& string : strings) string = reader.String();
+  return true;
+}
+
 }  // namespace
 
 std::string ReadFile(const std::string& path) {
   const File file = Open(path, "rb");
   std::error_code unknown_size;
-  const auto expected = std::filesystem::file_size(path, unknown_size);
+  const auto expected = fs::file_size(path, unknown_size);
   std::string bytes;
   if (!unknown_size) bytes.reserve(expected);
   std::array<char, 1 << 16> chunk;
@@ -94,23 +131,29 @@ std::string ReadFile(const std::string& path) {
 }
 
 void DeleteFileIfThere(const std::string& path) {
-  while (FileExists(path)) std::filesystem::remove(path);
+  while (FileExists(path)) {
+    ThrowIfWriteProtected(path);
+    if (std::remove(path.c_str()) != 0) ThrowSystemError();
+  }
 }
 
 void WriteFileAnew(const std::string& path, std::string_view bytes) {
   DeleteFileIfThere(path);
-  File file = Open(path, "wb");
-  errno = 0;
-  if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) ThrowSystemError();
-  // Buffered bytes may meet a full disk only now.
-  if (std::fclose(file.release()) != 0) ThrowSystemError();
+  try {
+    WriteWhole(path, bytes);
+  } catch (...) {
+    // A part of a file would be taken for the whole.
+    if (FileExists(path)) std::remove(path.c_str());
+    throw;
+  }
 }
 
 bool DecodeFirstRecord(std::string_view bytes, std::span<Text> strings) {
-  RecordReader reader(bytes);
-  if (static_cast<std::int32_t>(reader.Number(4)) <= 0) return false;
-  for (Text& string : strings) string = reader.String();
-  return true;
+  return DecodeInto(bytes, strings);
+}
+
+bool DecodeFirstRecord(std::string_view bytes, std::span<std::string_view> strings) {
+  return DecodeInto(bytes, strings);
 }
 
 std::string EncodeRecord(std::span<const Text> strings) {

@@ -18,29 +18,38 @@
 
 namespace kelvora {
 
-// The whole file. Throws std::system_error.
+// The whole file. Throws std::system_error; anything but a regular file is refused, so that none
+// can keep the program waiting.
 [[nodiscard]] std::string ReadFile(const std::string& path);
 
 // Deletes the file and writes it anew. Throws std::system_error at whichever step fails, the
-// closing included; the old file is gone from the delete on.
+// closing included; no file is left then, neither the old one nor a part of the new one. A file
+// that may not be deleted stays as it was.
 void WriteFileAnew(const std::string& path, std::string_view bytes);
 
-// Deletes the file if there is one. Throws std::system_error.
+// Deletes the file if there is one. Throws std::system_error, for a write-protected file too.
 void DeleteFileIfThere(const std::string& path);
 
 // Fills `strings` from the first record of `bytes`; false, with `strings` untouched, if the count
-// is 0 or less.
+// is 0 or less. Views stay valid as long as `bytes`.
 [[nodiscard]] bool DecodeFirstRecord(std::string_view bytes, std::span<Text> strings);
+[[nodiscard]] bool DecodeFirstRecord(std::string_view bytes, std::span<std::string_view> strings);
 
-// A file image of one record.
+// A file image of one record. Throws std::length_error for a string of 4 GiB or more.
 [[nodiscard]] std::string EncodeRecord(std::span<const Text> strings);
+
+// The first record of a file image, nothing if it counts none.
+template <class AnyRecord>
+[[nodiscard]] std::optional<AnyRecord> DecodeRecord(std::string_view bytes) {
+  AnyRecord record;
+  if (!DecodeFirstRecord(bytes, record.strings)) return std::nullopt;
+  return record;
+}
 
 // The first record of a file, nothing if it counts none. Throws std::system_error.
 template <class AnyRecord>
 [[nodiscard]] std::optional<AnyRecord> ReadFirstRecord(const std::string& path) {
-  AnyRecord record;
-  if (!DecodeFirstRecord(ReadFile(path), record.strings)) return std::nullopt;
-  return record;
+  return DecodeRecord<AnyRecord>(ReadFile(path));
 }
 
 // The first record of a file; one that counts none leaves the record of the previous read of that

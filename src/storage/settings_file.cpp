@@ -38,12 +38,15 @@ constexpr std::array kDefaults = {
 
 }  // namespace
 
-void Load_Settings(Program& program) {
+bool ReadSettingsFile(Program& program) {
+  program.settings = {};
   try {
-    program.settings = ReadOrKeepRecord(program.paths.SettingsFile, program.last_read.settings);
+    const auto record = ReadFirstRecord<Rec_Settings>(program.paths.SettingsFile);
+    if (record) program.settings = *record;
+    return record.has_value();
   } catch (const std::exception&) {
-    // The first run, or a damaged file: both go on with the defaults.
-    program.settings = {};
+    // No failure of the program: the caller makes new settings.
+    return false;
   }
 }
 
@@ -52,7 +55,11 @@ void Apply_Default_Settings(Program& program) {
   for (const auto& [setting, value] : kDefaults) {
     if (settings[setting].empty()) settings[setting] = value;
   }
-  Text& language = settings[Setting::Combo_taal];
+  FallBackOnDefaultLanguage(program);
+}
+
+void FallBackOnDefaultLanguage(Program& program) {
+  Text& language = program.settings[Setting::Combo_taal];
   if (!FileExists(program.paths.LanguagePath + Utf8FromText(language))) language = kDefaultLanguage;
 }
 

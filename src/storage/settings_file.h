@@ -5,11 +5,15 @@
 
 namespace kelvora {
 
-// Fills the settings from the file. An absent or unreadable file leaves the defaults standing.
-void Load_Settings(Program& program);
+// Fills the settings from the file; false, with all settings empty, if there is none that can be
+// read.
+[[nodiscard]] bool ReadSettingsFile(Program& program);
 
 // Gives each empty setting its default; a language file that is gone becomes "default.lsf".
 void Apply_Default_Settings(Program& program);
+
+// Chooses "default.lsf" if the language file of the settings is gone.
+void FallBackOnDefaultLanguage(Program& program);
 
 // Writes the file. A failure shows "#FF1-0"; the settings in memory stay valid.
 void Save_Settings(Program& program);

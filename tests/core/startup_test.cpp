@@ -13,7 +13,9 @@ namespace {
 TEST(StartUp, AFirstStartMakesFoldersLanguagesAndSettings) {
   TestProgram machine(Machine::bare);
   StartUp(machine.program);
-  EXPECT_TRUE(machine.boxes.shown.empty());
+  ASSERT_EQ(machine.boxes.shown.size(), 1u);
+  EXPECT_TRUE(machine.boxes.shown[0].text.starts_with("The file 'kvfset.dat' has not been found"));
+  EXPECT_EQ(machine.core.settings_opened, 1);
   for (const char* name : {"My Users", "My Reports", "My Language"}) {
     EXPECT_TRUE(
         std::filesystem::is_directory(machine.folders.Documents() + "/Kelvora FOOD/" + name))
@@ -53,6 +55,7 @@ TEST(StartUp, ALanguageThatIsGoneFallsBackWithoutAWord) {
   Rec_Settings settings = *ReadFirstRecord<Rec_Settings>(machine.program.paths.SettingsFile);
   settings[Setting::Combo_taal] = "Gone.lsf";
   WriteRecord(machine.program.paths.SettingsFile, settings);
+  machine.boxes.shown.clear();
   StartUp(machine.program);
   EXPECT_EQ(machine.program.settings[Setting::Combo_taal], "default.lsf");
   EXPECT_TRUE(machine.boxes.shown.empty());

@@ -106,9 +106,9 @@ TEST(CountEqualLines, EqualsThePlainDoubleLoopOnManyTies) {
     CountEqualLines(lines, distinct, counts);
 
     std::vector<Text> plain_lines, plain_counts;
-    for (const Text& line : lines) {
+    for (const std::string_view line : lines) {
       if (std::ranges::find(plain_lines, line) != plain_lines.end()) continue;
-      plain_lines.push_back(line);
+      plain_lines.emplace_back(line);
       plain_counts.push_back(std::to_string(std::ranges::count(lines, line)));
     }
     ASSERT_EQ(Lines(distinct), plain_lines);

@@ -55,12 +55,14 @@ class Desktop:
                 process.wait(timeout=10)
         self.home.cleanup()
 
-    def start(self, program, locale="C.UTF-8"):
-        """Starts the program under a locale and waits for its main window."""
+    def start(self, program, locale="C.UTF-8", first_run=False):
+        """Starts the program under a locale, waits for its main window, answers the first run."""
         process = subprocess.Popen([program], env=self.environment | {"LANG": locale})
         self.processes.append(process)
         self.window("^Kelvora FOOD$")
         self.settle()
+        if first_run:
+            self.keys("Return")
         return process
 
     def output(self, *command):

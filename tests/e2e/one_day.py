@@ -120,7 +120,7 @@ def main():
     with Desktop() as desktop:
         user = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users", "Anna")
 
-        process = desktop.start(program, locale)
+        process = desktop.start(program, locale, first_run=True)
         make_user_and_day(desktop)
         assert (user / "Profile" / "Profile.usr").is_file(), "no profile"
         assert not list((user / "Files").iterdir()), "a new day is on disk before it is saved"

@@ -20,7 +20,7 @@ WORDS = {"nederlands": {"title": "Begin een nieuwe dag", "gender": "V"}}
 
 def choose_language(desktop, program, language):
     """Lets the program make its settings, then names the language in them."""
-    process = desktop.start(program)
+    process = desktop.start(program, first_run=True)
     desktop.keys("ctrl+q")
     process.wait(timeout=20)
     settings = Path(desktop.home.name, ".config", "Brelux", "kvfset.dat")

@@ -40,9 +40,9 @@ struct ShownTotals : ConsumptionView {
 };
 
 TEST(Totals, SumsAreTakenOverAllLinesWithCommaAndPointAlike) {
-  TextList lines;
+  TextList lines, fields;
   for (const FoodLine& food : {kBread, kBread, kSoup}) lines.Add(LineOf(food));
-  const Amounts sum = SumOf(lines);
+  const Amounts sum = SumOf(lines, fields);
   EXPECT_FLOAT_EQ(sum.gram, 320);
   EXPECT_FLOAT_EQ(sum.kj, 1104.5);
   EXPECT_FLOAT_EQ(sum.carbs, 42.8f);
@@ -50,17 +50,17 @@ TEST(Totals, SumsAreTakenOverAllLinesWithCommaAndPointAlike) {
 }
 
 TEST(Totals, SumsCarrySinglePrecisionRounding) {
-  TextList lines;
+  TextList lines, fields;
   for (int i = 0; i < 1000; ++i) lines.Add(LineOf({.product = "Salt", .sodium = "0.1"}));
   // A thousand times 0.1 in steps of a 32-bit float, worked out with another tool.
-  EXPECT_EQ(SumOf(lines).sodium, 99.99904632568359375f);
+  EXPECT_EQ(SumOf(lines, fields).sodium, 99.99904632568359375f);
 }
 
 TEST(Totals, AShortOrForeignLineCountsAsFarAsItGoes) {
-  TextList lines;
+  TextList lines, fields;
   lines.Add(Packed("Odd|1 piece|12|abc|7 kcal|"));
   lines.Add("nothing closed");
-  const Amounts sum = SumOf(lines);
+  const Amounts sum = SumOf(lines, fields);
   EXPECT_EQ(sum.gram, 12);
   EXPECT_EQ(sum.kj, 0);
   EXPECT_EQ(sum.kcal, 7);

@@ -133,7 +133,7 @@ TEST(Settings, ReservedAndSpareFieldsAreWrittenAsTheyWereRead) {
   settings.strings[5] = "five";
   settings.strings[50] = "last";
   WriteRecord(test.program.paths.SettingsFile, settings);
-  Load_Settings(test.program);
+  EXPECT_TRUE(ReadSettingsFile(test.program));
   Apply_Default_Settings(test.program);
   Save_Settings(test.program);
   const auto saved = ReadFirstRecord<Rec_Settings>(test.program.paths.SettingsFile);

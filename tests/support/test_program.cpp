@@ -30,6 +30,17 @@ Text FixedLocale::HourMinuteSecond(const LocalTime& time) const {
          std::to_string(time.second) + time_suffix;
 }
 
+bool RecordingOpener::Open(const std::string& address) {
+  opened.push_back(address);
+  return knows_a_program;
+}
+
+bool RecordingOpener::Start(const CommandLine& command, const std::string& folder) {
+  started.push_back(command);
+  start_folders.push_back(folder);
+  return starts;
+}
+
 TemporaryFolder::TemporaryFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "kelvora-XXXXXX").string();
   if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");

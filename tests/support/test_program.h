@@ -29,9 +29,11 @@ struct FixedLocale : Locale {
   Text date_mark = "/";  // what the locale puts in the place of "/"
   Text time_suffix;      // " PM" and the like
   Text weekday = "Friday";
+  Text long_date = "dddd d MMMM yyyy";
   Text DecimalSeparator() const override { return separator; }
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
+  Text LongDatePattern() const override { return long_date; }
   Text WeekdayName(const LocalTime&) const override { return weekday; }
 };
 
@@ -48,6 +50,18 @@ struct FixedScreen : Screen {
 struct CountingEvents : Events {
   int yields = 0;
   void Yield() override { ++yields; }
+};
+
+// Opens and starts nothing but a note.
+struct RecordingOpener : Opener {
+  bool knows_a_program = true;
+  std::vector<std::string> opened, chosen_for;
+  std::vector<CommandLine> started;
+  std::vector<std::string> start_folders;
+  bool starts = true;
+  bool Open(const std::string& address) override;
+  void OpenWithChosenProgram(const std::string& path) override { chosen_for.push_back(path); }
+  bool Start(const CommandLine& command, const std::string& folder) override;
 };
 
 // A folder of its own below the system's temporary folder, gone with its content at the end.
@@ -75,6 +89,7 @@ struct RecordingCore : CoreView {
   MainWindowSize size{15360, 11520, 480};
   std::vector<WindowId> opened;
   int updates = 0;
+  int settings_opened = 0;
   void Set_Taal() override {}
   void Set_toolbar_teksten() override {}
   void ShowMainWindow() override {}
@@ -83,6 +98,7 @@ struct RecordingCore : CoreView {
   void UpdateCommands() override { ++updates; }
   MainWindowSize Size() const override { return size; }
   void OpenWindow(WindowId id) override { opened.push_back(id); }
+  void OpenSettings() override { ++settings_opened; }
 };
 
 // `bare` is the machine before a first start; `prepared` has its folders determined, English texts
@@ -100,7 +116,8 @@ class TestProgram {
   FixedClock clock;
   FixedScreen screen;
   CountingEvents events;
-  Platform platform{boxes, pointer, locale, folders, clock, screen, events};
+  RecordingOpener opener;
+  Platform platform{boxes, pointer, locale, folders, clock, screen, events, opener};
   RecordingCore core;
   Program program{platform};
 

@@ -2,11 +2,16 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDesktopServices>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include "platform/qt/text.h"
 
@@ -113,6 +118,12 @@ Text QtLocale::HourMinuteSecond(const LocalTime& time) const {
   return FromQt(DateTimeOf(time).toString(QStringLiteral("HH/mm/s")));
 }
 
+Text QtLocale::LongDatePattern() const {
+  // Words between quotes, as in "d 'de' MMMM", are not letters of the pattern.
+  static const QRegularExpression quoted(QStringLiteral("'[^']*'"));
+  return FromQt(QLocale::system().dateFormat(QLocale::LongFormat).remove(quoted));
+}
+
 Text QtLocale::WeekdayName(const LocalTime& time) const {
   return FromQt(QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd")));
 }
@@ -139,6 +150,27 @@ ScreenSize QtScreenSize::Size() const {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return {};
   return {screen->size().width(), screen->size().height()};
+}
+
+bool QtOpener::Open(const std::string& address) {
+  const QUrl url = QUrl::fromUserInput(QString::fromStdString(address));
+  return url.isValid() && QDesktopServices::openUrl(url);
+}
+
+void QtOpener::OpenWithChosenProgram(const std::string& path) {
+  const QString program = QFileDialog::getOpenFileName(
+      QApplication::activeWindow(), QFileInfo(QString::fromStdString(path)).fileName(),
+      QStringLiteral("/usr/bin"));
+  if (!program.isEmpty()) QProcess::startDetached(program, {QString::fromStdString(path)});
+}
+
+bool QtOpener::Start(const CommandLine& command, const std::string& folder) {
+  QStringList arguments;
+  for (const std::string& argument : command.arguments) {
+    arguments.append(QString::fromStdString(argument));
+  }
+  return QProcess::startDetached(QString::fromStdString(command.program), arguments,
+                                 QString::fromStdString(folder));
 }
 
 void QtEvents::Yield() {

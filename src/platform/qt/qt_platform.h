@@ -26,6 +26,7 @@ class QtLocale : public Locale {
   Text DecimalSeparator() const override;
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
+  Text LongDatePattern() const override;
   Text WeekdayName(const LocalTime& time) const override;
 };
 
@@ -55,6 +56,13 @@ class QtEvents : public Events {
   QElapsedTimer last_;
 };
 
+class QtOpener : public Opener {
+ public:
+  bool Open(const std::string& address) override;
+  void OpenWithChosenProgram(const std::string& path) override;
+  bool Start(const CommandLine& command, const std::string& folder) override;
+};
+
 // All of them together, made once.
 class QtPlatform {
  public:
@@ -68,7 +76,8 @@ class QtPlatform {
   QtClock clock_;
   QtScreenSize screen_;
   QtEvents events_;
-  Platform platform_{boxes_, pointer_, locale_, folders_, clock_, screen_, events_};
+  QtOpener opener_;
+  Platform platform_{boxes_, pointer_, locale_, folders_, clock_, screen_, events_, opener_};
 };
 
 }  // namespace kelvora

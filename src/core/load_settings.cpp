@@ -1,0 +1,29 @@
+#include "core/load_settings.h"
+
+#include "language/common_texts.h"
+#include "language/language_file.h"
+#include "storage/settings_file.h"
+
+namespace kelvora {
+namespace {
+
+void PrepareFirstRun(Program& program) {
+  using namespace common_text;
+  program.windows.core->ShowMainWindow();
+  Apply_Default_Settings(program);
+  Check_Language_Files(program);
+  FallBackOnDefaultLanguage(program);
+  LoadChosenLanguage(program);
+  Tell(program, BoxIcon::information,
+       JoinLines(program.texts,
+                 {kFirstRunNotFound, kFirstRunProbably, std::nullopt, kFirstRunPressOk}));
+  program.windows.core->OpenSettings();
+}
+
+}  // namespace
+
+void Load_Settings(Program& program) {
+  if (!ReadSettingsFile(program)) PrepareFirstRun(program);
+}
+
+}  // namespace kelvora
