@@ -6,6 +6,12 @@ namespace kelvora {
 
 using namespace common_text;
 
+namespace {
+
+constexpr std::string_view kTerminators = "½¾"_w;
+
+}  // namespace
+
 void CheckScreenResolution(Program& program) {
   constexpr int kLeastWidth = 1024;
   const ScreenSize size = program.platform.screen.Size();
@@ -36,9 +42,12 @@ void CheckSeparatorIsValid(Program& program) {
 }
 
 void CheckHalfCharacter(Program& program) {
-  constexpr std::string_view kTerminators = "½¾"_w;
   program.store.txt_testdata = kTerminators;
-  if (program.store.txt_testdata == kTerminators) return;
+  WarnUnlessTerminators(program, program.store.txt_testdata);
+}
+
+void WarnUnlessTerminators(Program& program, std::string_view read_back) {
+  if (read_back == kTerminators) return;
   const TextTables& texts = program.texts;
   program.platform.boxes.Show({.title = texts[kHalfClose],
                                .text = JoinLines(texts, {kHalfNotDisplayed, kHalfNeeded,

@@ -14,7 +14,10 @@ void CheckDecimal(Program& program);
 // Warns if the decimal separator is neither "," nor ".".
 void CheckSeparatorIsValid(Program& program);
 
-// Warns if the two terminators do not survive a text cell of the store.
+// Writes the two terminators to a text cell of the store and warns if they don't come back.
 void CheckHalfCharacter(Program& program);
+
+// The second half of that check: warns unless `read_back` is the two terminators.
+void WarnUnlessTerminators(Program& program, std::string_view read_back);
 
 }  // namespace kelvora

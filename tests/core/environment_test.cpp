@@ -66,5 +66,26 @@ TEST(Environment, TheTwoTerminatorsSurviveTheStore) {
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
+TEST(Environment, TerminatorsThatComeBackAsSomethingElseAreTold) {
+  TestProgram test;
+  WarnUnlessTerminators(test.program, "??");
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::error);
+  EXPECT_EQ(test.boxes.shown[0].title, "Close Kelvora FOOD and change the county settings.");
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "The 'half' (1/2) character can't be displayed on your computer correctly.\n"
+            "Kelvora FOOD can only work if the character 'half' (1/2) is displayed correctly.\n"
+            "If you continue to work with Kelvora FOOD error will occur!\n"
+            "\n"
+            "Close Kelvora FOOD and change the county settings.");
+}
+
+TEST(Environment, TheConstantsOfTheProgram) {
+  EXPECT_EQ(AppTitle, "Kelvora FOOD");
+  EXPECT_EQ(VersionText, "2.24");
+  EXPECT_EQ(MaxDayPartLines, 50u);
+  EXPECT_EQ(MaxDiaryLength, 5000u);
+}
+
 }  // namespace
 }  // namespace kelvora

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
+#include <set>
 
 #include "core/common.h"
 #include "support/test_program.h"
@@ -72,15 +73,73 @@ TEST(PackedText, AFieldBeyondTheLineReadsAsEmpty) {
   EXPECT_EQ(FieldsOf(line).size(), 12u);
 }
 
-TEST(TextList, AnIndexBeyondTheEndReadsAsEmptyAndChangesNothing) {
-  TextList list = ListOf({"a"});
-  EXPECT_EQ(list[1], "");
-  list.Remove(5);
-  list.Replace(5, "x");
-  EXPECT_EQ(Lines(list), std::vector<Text>{"a"});
+TEST(PackedText, AnyBytesSplitIntoLinesAndFieldsPackToWhatTheirTerminatorsClose) {
+  std::mt19937 random(99);
+  for (int round = 0; round < 2000; ++round) {
+    Text bytes(random() % 60, ' ');
+    for (char& byte : bytes) {
+      const auto choice = random() % 8;
+      byte = choice == 0 ? kFieldEnd : choice == 1 ? kLineEnd : static_cast<char>(random() % 256);
+    }
+    TextList lines;
+    SplitBlock(bytes, lines);
+    ASSERT_EQ(PackBlock(lines), bytes.substr(0, bytes.rfind(kLineEnd) + 1));
+    TextList fields;
+    Text packed;
+    SplitLine(bytes, fields);
+    for (const std::string_view field : fields) packed.append(field) += kFieldEnd;
+    ASSERT_EQ(packed, bytes.substr(0, bytes.rfind(kFieldEnd) + 1));
+  }
 }
 
-TEST(TextList, KeysAreWholeNamesAndTellCaseApart) {
+TEST(MergeDay, EachLineGetsTheCodeOfItsPartMorningFirst) {
+  TextList merged = ListOf({"left from before"});
+  MergeDay({Packed("Bread|~Milk|~"), "", Packed("Soup|~lost")}, merged);
+  EXPECT_EQ(Lines(merged),
+            (std::vector<Text>{Packed("Bread|0|"), Packed("Milk|0|"), Packed("Soup|2|")}));
+  MergeDay({"", Packed("Apple|~"), ""}, merged);
+  EXPECT_EQ(Lines(merged), std::vector<Text>{Packed("Apple|1|")});
+}
+
+TEST(MergeDay, TheCodeStandsAtIndex13OfALineWithACategoryAndAt12OfAnOwnFood) {
+  TextList merged;
+  const Text standard = LineOf({.product = "Apple", .db = "Fruit.dat"}) + kLineEnd;
+  const Text own = LineOf({.product = "Own soup"}) + kLineEnd;
+  MergeDay({"", "", standard + own}, merged);
+  EXPECT_EQ(FieldOf(merged[0], FoodField::kDb), "Fruit.dat");
+  EXPECT_EQ(FieldOf(merged[0], FoodField::kPod), "2");
+  EXPECT_EQ(FieldOf(merged[1], FoodField::kDb), "2");
+  EXPECT_EQ(FieldOf(merged[1], FoodField::kPod), "");
+}
+
+TEST(Keys, AnEmptyNameMatchesNoValidLine) {
+  const TextList list = ListOf({LineOf({.product = "Apple"}), LineOf({.product = " "})});
+  EXPECT_EQ(KeyOf(""), "\xBD");
+  EXPECT_EQ(list.FindFirst(KeyOf("")), std::nullopt);
+}
+
+TEST(Keys, ANameThatBeginsAnotherDoesNotCollide) {
+  const TextList list = ListOf({LineOf({.product = "Apple pie"}), LineOf({.product = "Apple"})});
+  EXPECT_EQ(list.FindFirst(KeyOf("Apple")), 1u);
+  EXPECT_EQ(list.FindLast(KeyOf("Apple pie")), 0u);
+}
+
+TEST(PackedText, ALineWithoutItsLastTerminatorLosesItsLastField) {
+  TextList fields;
+  Text line = LineOf({.product = "Apple", .remark = "fresh"});
+  line.pop_back();
+  SplitLine(line, fields);
+  EXPECT_EQ(fields.Count(), 11u);
+  EXPECT_EQ(fields[FoodField::kRemark], "");
+}
+
+TEST(Store, HoldsTwentyFourIconsThatDiffer) {
+  const KV_data store;
+  EXPECT_EQ(store.picIcon.size(), 24u);
+  EXPECT_EQ(std::set(store.picIcon.begin(), store.picIcon.end()).size(), 24u);
+}
+
+TEST(Keys, AreWholeNamesAndTellCaseApart) {
   const TextList list =
       ListOf({Packed("Milk, semi|"), Packed("Milk|1"), Packed("milk|"), Packed("Milk|2")});
   EXPECT_EQ(list.FindFirst(KeyOf("Milk")), 1u);

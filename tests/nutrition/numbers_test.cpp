@@ -77,6 +77,42 @@ struct FormatCase {
   const char* text;
 };
 
+TEST(RoundTo, RoundsHalfToEvenAndOnlyThatWay) {
+  EXPECT_EQ(RoundTo(2.5f, 0), 2.0f);
+  EXPECT_EQ(RoundTo(3.5f, 0), 4.0f);
+  EXPECT_EQ(RoundTo(0.125f, 2), 0.12f);
+  EXPECT_EQ(RoundTo(0.375f, 2), 0.38f);
+  EXPECT_EQ(RoundTo(-2.5f, 0), -2.0f);
+  EXPECT_EQ(RoundTo(0.5f, 0), 0.0f);
+  EXPECT_EQ(RoundTo(1.5f, 0), 2.0f);
+  EXPECT_EQ(RoundTo(9.5f, 0), 10.0f);
+  EXPECT_EQ(RoundTo(25.0f, -1), 20.0f);
+  EXPECT_EQ(RoundTo(35.0f, -1), 40.0f);
+}
+
+TEST(RoundTo, TakesTheExactValueOfTheSingle) {
+  // 2.675 as a single is 2.67499995...: no tie, and down.
+  EXPECT_EQ(RoundTo(2.675f, 2), 2.67f);
+  // 0.145 as a single is 0.144999995...; 0.155 is 0.155000001...
+  EXPECT_EQ(RoundTo(0.145f, 2), 0.14f);
+  EXPECT_EQ(RoundTo(0.155f, 2), 0.16f);
+  EXPECT_EQ(RoundTo(1.0e-45f, 2), 0.0f);
+  EXPECT_EQ(RoundTo(3.4e38f, 2), 3.4e38f);
+}
+
+TEST(RoundTo, WhatHasNoPlaceInASingleIsAFailure) {
+  EXPECT_THROW((void)RoundTo(std::numeric_limits<float>::infinity(), 0), std::domain_error);
+  // 3402.8e35 goes up to 3.403e38, which no single holds.
+  EXPECT_THROW((void)RoundTo(std::numeric_limits<float>::max(), -35), std::domain_error);
+}
+
+TEST(Single, HoldsWhatHasAPlaceThere) {
+  EXPECT_EQ(Single(0.1), 0.1f);
+  EXPECT_EQ(Single(-3.4e38), -3.4e38f);
+  EXPECT_THROW((void)Single(3.5e38), std::domain_error);
+  EXPECT_THROW((void)Single(std::numeric_limits<double>::quiet_NaN()), std::domain_error);
+}
+
 TEST(FormatNumber, PrintsByItsPattern) {
   for (const auto& [value, pattern, text] : {
            FormatCase{1.5, "##0.00", "1.50"},

@@ -115,6 +115,68 @@ TEST(RefreshTotalen, ShowsEachOpenWindowTheTotalsOfItsPeriod) {
   EXPECT_EQ(evening.totals.lbl_nfo[5], ": 0.000 g");
 }
 
+struct ShownSummary : DaySummaryView {
+  std::vector<DayTotals> shown;
+  void CloseWindow() override {}
+  void Set_Taal() override {}
+  void Maak_Voedingsbehoefte(const DayTotals& totals) override { shown.push_back(totals); }
+};
+
+TEST(RefreshTotalen, AnOpenDaySummaryGetsTheWholeDayInTheOrderOfTheRequirements) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  ShownSummary summary;
+  test.program.windows.day_summary = &summary;
+  test.program.store.L_ochtend.Add(LineOf({.product = "A",
+                                           .kj = "1",
+                                           .kcal = "2",
+                                           .protein = "3",
+                                           .fat_u = "4",
+                                           .fat_s = "5",
+                                           .carbs = "6",
+                                           .sodium = "7"}));
+  test.program.store.L_middag.Add(LineOf({.product = "B", .kj = "10", .sodium = "70"}));
+  test.program.store.L_avond.Add(LineOf({.product = "C", .kj = "100", .protein = "300"}));
+  Refresh_Totalen(test.program);
+  // Kilojoules, kilocalories, unsaturated, saturated, sodium, protein, carbohydrates.
+  EXPECT_EQ(summary.shown, std::vector<DayTotals>({{111, 2, 4, 5, 77, 303, 6}}));
+}
+
+TEST(RefreshTotalen, LeavesTheFieldsOfTheLastLineWithPointsInTheScratchList) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  test.program.store.L_ochtend.Add(Packed("first|1|2|"));
+  test.program.store.L_avond.Add(Packed("Soup, hot|1 plate|12,5|"));
+  Refresh_Totalen(test.program);
+  const TextList& fields = test.program.store.temp_filter;
+  EXPECT_EQ(std::vector<Text>(fields.begin(), fields.end()),
+            (std::vector<Text>{"Soup. hot", "1 plate", "12.5"}));
+  EXPECT_EQ(test.program.store.L_avond[0], Packed("Soup, hot|1 plate|12,5|"));
+}
+
+TEST(RefreshTotalen, ChecksTheSeparatorFirstAndGoesOn) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  test.program.store.L_ochtend.Add(LineOf({.product = "A", .gram = "1.5"}));
+  test.locale.separator = ",";
+  Refresh_Totalen(test.program);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_TRUE(test.boxes.shown[0].text.starts_with("The separation character of you computer"));
+  EXPECT_TRUE(test.program.store.txt_trenddata.starts_with("1,5\xBD"));
+}
+
+TEST(RefreshTotalen, AChangeOfTheMorningReTotalsAllThreeWindows) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  std::array<ShownTotals, 3> windows;
+  for (const DayPart part : kDayParts) {
+    test.program.windows.Consumption(part) = &windows[static_cast<std::size_t>(part)];
+  }
+  test.program.store.L_ochtend.Add(LineOf(kBread));
+  Refresh_Totalen(test.program);
+  for (const ShownTotals& window : windows) EXPECT_EQ(window.times, 1);
+}
+
 TEST(RefreshTotalen, EachPriorityHasItsOwnWordAndValue) {
   TestProgram test;
   test.OpenDay("Anna");

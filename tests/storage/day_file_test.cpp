@@ -175,6 +175,85 @@ TEST(DayFile, ClosingEmptiesTheDayAndLeavesTheFoodLists) {
   EXPECT_FALSE(test.program.day.FileChanged);
 }
 
+// Windows that write down what is asked of them.
+template <class View>
+struct Noting : View {
+  Noting(std::string window_name, std::vector<std::string>& log) : name(window_name), notes(log) {}
+  void CloseWindow() override { notes.push_back(name); }
+  void Set_Taal() override {}
+  std::string name;
+  std::vector<std::string>& notes;
+};
+struct NotingLists : Noting<FoodListsView> {
+  using Noting::Noting;
+  void Toon_Standaardlijst() override {}
+  void Populate_Food_List_Custom() override { notes.push_back("own"); }
+  void Populate_Food_List_Favo() override { notes.push_back("favourites"); }
+};
+struct NotingConsumption : Noting<ConsumptionView> {
+  using Noting::Noting;
+  void Refresh_Consumpties() override {}
+  void ShowTotals(const ConsumptionTotals&) override {}
+};
+struct NotingSummary : Noting<DaySummaryView> {
+  using Noting::Noting;
+  void Maak_Voedingsbehoefte(const DayTotals&) override {}
+};
+
+TEST(DayFile, ClosingReloadsTheFoodListsAndClosesTheWindowsInTheirOrder) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  std::vector<std::string> notes;
+  NotingLists lists("lists", notes);
+  NotingSummary summary("summary", notes);
+  std::array windows = {NotingConsumption("morning", notes), NotingConsumption("afternoon", notes),
+                        NotingConsumption("evening", notes)};
+  test.program.windows.lists = &lists;
+  test.program.windows.day_summary = &summary;
+  for (std::size_t i = 0; i < 3; ++i) test.program.windows.consumption[i] = &windows[i];
+  CloseDay(test.program);
+  EXPECT_EQ(notes, (std::vector<std::string>{"own", "favourites", "lists", "summary", "morning",
+                                             "afternoon", "evening"}));
+}
+
+TEST(DayFile, ClosingEmptiesEveryScratchListOfTheDay) {
+  TestProgram test;
+  KV_data& store = test.program.store;
+  for (TextList* list :
+       {&store.temp_filter, &store.Dupe_list, &store.Dupe_list_teller, &store.var_filter}) {
+    list->Add("left over");
+  }
+  CloseDay(test.program);
+  for (const TextList* list :
+       {&store.temp_filter, &store.Dupe_list, &store.Dupe_list_teller, &store.var_filter}) {
+    EXPECT_TRUE(list->Empty());
+  }
+}
+
+TEST(DayFile, ADayWithoutConsumptionsHasThreeEmptyBlocksAndAFullHeader) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  SaveDay(test.program);
+  // The bytes from outside: count, two empty texts, the header of 15 rows, three empty blocks.
+  const Text header = Packed("Anna~~~~~1.80~80.5~Male~42~05-03-04~75~Friday~~~~");
+  EXPECT_EQ(ReadFile(DayPath(test)), std::string("\1\0\0\0\0\0\0\0", 8) +
+                                         static_cast<char>(header.size()) + '\0' + header +
+                                         std::string(6, '\0'));
+}
+
+TEST(AfterOpening, BringsTheChosenArrangementAndClearsTheMark) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  test.program.settings[Setting::chk_all_screens] = "1";
+  SetFileChanged(test.program, true);
+  AfterOpenDay(test.program);
+  EXPECT_EQ(test.core.opened,
+            (std::vector<WindowId>{WindowId::morning, WindowId::afternoon, WindowId::evening,
+                                   WindowId::lists, WindowId::day_summary}));
+  EXPECT_EQ(test.program.store.txt_trenddata, Packed("0|0|0|0|0|0|0|0|80.5|"));
+  EXPECT_FALSE(test.program.day.FileChanged);
+}
+
 TEST(DayFile, ANewNameIsTheMomentOfItsCreation) {
   FixedLocale locale;
   const LocalTime moment{.year = 2004, .month = 3, .day = 5, .hour = 14, .minute = 7, .second = 9};

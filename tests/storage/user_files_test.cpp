@@ -55,6 +55,23 @@ TEST_F(CategoryFiles, AFileWithoutARecordAddsNothingAndAnUnclosedLineIsNotLoaded
   EXPECT_EQ(Lines(test.program.store.Default_list), std::vector<Text>{Packed("Apple|a.dat|")});
 }
 
+TEST_F(CategoryFiles, EqualLinesOfTwoFilesStayTwoThatDifferInTheirCategory) {
+  Write("a.dat", "Apple|1 piece|~");
+  Write("b.dat", "Apple|1 piece|~");
+  Load_Databases(test.program);
+  EXPECT_EQ(Lines(test.program.store.Default_list),
+            (std::vector<Text>{Packed("Apple|1 piece|a.dat|"), Packed("Apple|1 piece|b.dat|")}));
+}
+
+TEST_F(CategoryFiles, AListLongerThanAPlainLengthHoldsIsReadWhole) {
+  std::string block;
+  for (int i = 0; i < 10000; ++i) block += "Apple " + std::to_string(i) + "|1 piece|~";
+  Write("Fruit.dat", block);
+  Load_Databases(test.program);
+  EXPECT_EQ(test.program.store.Default_list.Count(), 10000u);
+  EXPECT_EQ(test.program.store.Default_list[9999], Packed("Apple 9999|1 piece|Fruit.dat|"));
+}
+
 TEST_F(CategoryFiles, AMissingFolderYieldsNoFoodsAndNoMessage) {
   std::filesystem::remove_all(folder);
   Load_Databases(test.program);
@@ -120,6 +137,18 @@ TEST(Profile, OneWithoutARecordLeavesThePreviousUsersCopy) {
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
+TEST(Profile, OneWithoutARecordKeepsEvenWhatWasNeverInAFile) {
+  TestProgram test;
+  MakeUserFolders(test.program.paths, "Anna");
+  const std::string path = ProfileFile(test.program.paths, "Anna");
+  Save_Profile(test.program, path);
+  Load_Profile(test.program, path);
+  test.program.profile[ProfileField::txt_kj] = "changed since";
+  WriteFileAnew(path, std::string(4, '\0'));
+  Load_Profile(test.program, path);
+  EXPECT_EQ(test.program.profile[ProfileField::txt_kj], "changed since");
+}
+
 TEST(Profile, AFailingWriteShowsItsCode) {
   TestProgram test;
   Save_Profile(test.program, "/no/such/folder/Profile.usr");
@@ -173,6 +202,72 @@ TEST(Folders, ANameThatNoFolderCanHaveGetsNoneInsideOrOutside) {
   EXPECT_TRUE(CanNameAFolder("..."));
   EXPECT_TRUE(std::filesystem::is_empty(test.program.paths.UsersPath));
   EXPECT_FALSE(std::filesystem::exists(outside + "Profile"));
+}
+
+TEST(Folders, TheTwoSpecialFoldersHaveTheirNumbers) {
+  TestProgram test;
+  EXPECT_EQ(GetSpecialFolder(test.folders, 26), test.folders.ApplicationData());
+  EXPECT_EQ(GetSpecialFolder(test.folders, 5), test.folders.Documents());
+  EXPECT_EQ(GetSpecialFolder(test.folders, 7), "");
+}
+
+struct NoFolders : Folders {
+  std::string ApplicationData() const override { return {}; }
+  std::string Documents() const override { return std::string("/docs\0rest", 10); }
+  std::string ProgramFolder() const override { return {}; }
+};
+
+TEST(Folders, ASpecialFolderEndsAtTheFirstNulAndIsEmptyWhenThereIsNone) {
+  const NoFolders folders;
+  EXPECT_EQ(GetSpecialFolder(folders, 26), "");
+  EXPECT_EQ(GetSpecialFolder(folders, 5), "/docs");
+}
+
+TEST(Folders, DeletingAUserRemovesAllItsFilesEvenProtectedOnes) {
+  TestProgram test;
+  const std::string users = test.program.paths.UsersPath;
+  MakeUserFolders(test.program.paths, "Anna");
+  MakeUserFolders(test.program.paths, "Annabel");
+  WriteFileAnew(users + "Anna/Files/day.kvf", "x");
+  for (const char* name : {"Anna/Files/day.kvf", "Anna/Files"}) {
+    std::filesystem::permissions(users + name, std::filesystem::perms::owner_read);
+  }
+  DeleteUserFolder(test.program.paths, users + "Anna/");
+  EXPECT_FALSE(std::filesystem::exists(users + "Anna"));
+  EXPECT_TRUE(std::filesystem::exists(users + "Annabel/Files"));
+}
+
+TEST(Folders, DeletingReachesNothingOutsideTheUsersFolder) {
+  TestProgram test;
+  const std::string users = test.program.paths.UsersPath;
+  MakeUserFolders(test.program.paths, "Anna");
+  for (const std::string& path :
+       {users, users + ".", users + "..", users + "../My Reports", users + "Anna/Files",
+        test.program.paths.ReportsPath, std::string("Anna"), std::string()}) {
+    EXPECT_THROW(DeleteUserFolder(test.program.paths, path), std::invalid_argument) << path;
+  }
+  EXPECT_TRUE(std::filesystem::exists(users + "Anna/Files"));
+  EXPECT_TRUE(std::filesystem::exists(test.program.paths.ReportsPath));
+}
+
+TEST(Folders, ALinkedUserIsRemovedAsALink) {
+  TestProgram test;
+  TemporaryFolder elsewhere;
+  WriteFileAnew(elsewhere.Path("keep"), "x");
+  const std::string users = test.program.paths.UsersPath;
+  std::filesystem::create_symlink(elsewhere.Path(), users + "Linked");
+  DeleteUserFolder(test.program.paths, users + "Linked");
+  EXPECT_FALSE(std::filesystem::exists(std::filesystem::symlink_status(users + "Linked")));
+  EXPECT_TRUE(FileExists(elsewhere.Path("keep")));
+}
+
+// What can't be read is listed too: the reader says so instead of a file missing without a word.
+TEST(Folders, EverythingButFoldersIsListed) {
+  TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path("folder.dat"));
+  WriteFileAnew(folder.Path("file.dat"), "");
+  std::filesystem::create_symlink("nothing", folder.Path("broken.dat"));
+  EXPECT_EQ(Lines(FilesIn(folder.Path(), ".dat")), (std::vector<Text>{"broken.dat", "file.dat"}));
 }
 
 TEST(Folders, ListingsAreSortedWithoutRegardToCase) {

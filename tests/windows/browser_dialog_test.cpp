@@ -187,7 +187,7 @@ TEST_F(BrowserWindow, ARefusedSwitchSelectsTheCurrentUserAgain) {
 TEST_F(BrowserWindow, AUserChosenWhileDaysAreReadHasTheLastWord) {
   ActingEvents acting;
   Platform platform{test.boxes, test.pointer, test.locale, test.folders,
-                    test.clock, test.screen,  acting,       test.opener};
+                    test.clock, test.screen,  acting,      test.opener};
   Program busy(platform);
   Make_Taal_English(busy.texts);
   DetermineFolders(busy);

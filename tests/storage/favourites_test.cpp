@@ -1,0 +1,171 @@
+// Marking favourites, and making the own list a category of the installation.
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "storage/folders.h"
+#include "storage/food_files.h"
+#include "storage/record_file.h"
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+std::vector<Text> Lines(const TextList& list) {
+  return {list.begin(), list.end()};
+}
+
+struct CountingLists : FoodListsView {
+  int standard = 0, own = 0, favourites = 0;
+  void CloseWindow() override {}
+  void Set_Taal() override {}
+  void Toon_Standaardlijst() override { ++standard; }
+  void Populate_Food_List_Custom() override { ++own; }
+  void Populate_Food_List_Favo() override { ++favourites; }
+};
+
+class OwnLists : public testing::Test {
+ protected:
+  OwnLists() {
+    MakeUserFolders(test.program.paths, "Anna");
+    SetCurrentUser(test.program, "Anna");
+    std::filesystem::create_directories(Databases());
+    test.program.windows.lists = &view;
+  }
+  [[nodiscard]] std::string Databases() const {
+    return test.program.paths.ProgramPath + "Databases/";
+  }
+  [[nodiscard]] std::vector<Text> SavedFavourites() const {
+    const auto saved = ReadFirstRecord<Rec_ListLine>(FavoritesFile(test.program.paths, "Anna"));
+    TextList lines;
+    if (saved) SplitBlock(saved->strings[0], lines);
+    return Lines(lines);
+  }
+
+  TestProgram test;
+  CountingLists view;
+  KV_data& store = test.program.store;
+};
+
+TEST_F(OwnLists, AFavouriteIsAddedSavedShownAndTold) {
+  store.Default_list.Add(Packed("Apple|1 piece|Fruit.dat|"));
+  Add_To_Favorites(test.program, KeyOf("Apple"));
+  EXPECT_EQ(Lines(store.Favorites_list), std::vector<Text>{Packed("Apple|1 piece|Fruit.dat|")});
+  EXPECT_EQ(SavedFavourites(), Lines(store.Favorites_list));
+  EXPECT_EQ(view.favourites, 1);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::information);
+  EXPECT_EQ(test.boxes.shown[0].text, "The food item has been added to the favourites list.");
+}
+
+TEST_F(OwnLists, OfEqualNamesTheLastOfTheStandardListCounts) {
+  store.Default_list.Add(Packed("Apple|1|a.dat|"));
+  store.Default_list.Add(Packed("Apple|2|b.dat|"));
+  store.Default_list.Add(Packed("Apple pie|3|c.dat|"));
+  store.Default_list.Add(Packed("apple|4|d.dat|"));
+  Add_To_Favorites(test.program, KeyOf("Apple"));
+  EXPECT_EQ(Lines(store.Favorites_list), std::vector<Text>{Packed("Apple|2|b.dat|")});
+}
+
+TEST_F(OwnLists, TheFirstOfTheOwnListOverridesTheStandardList) {
+  store.Default_list.Add(Packed("Apple|1|a.dat|"));
+  store.Custom_list.Add(Packed("Pear|1|"));
+  store.Custom_list.Add(Packed("Apple|2|"));
+  store.Custom_list.Add(Packed("Apple|3|"));
+  Add_To_Favorites(test.program, KeyOf("Apple"));
+  EXPECT_EQ(Lines(store.Favorites_list), std::vector<Text>{Packed("Apple|2|")});
+}
+
+TEST_F(OwnLists, AnEqualLineLeadsToAWarningAndNothingElse) {
+  store.Custom_list.Add(Packed("Apple|2|"));
+  store.Favorites_list.Add(Packed("Apple|2|"));
+  Add_To_Favorites(test.program, KeyOf("Apple"));
+  EXPECT_EQ(store.Favorites_list.Count(), 1u);
+  EXPECT_FALSE(FileExists(FavoritesFile(test.program.paths, "Anna")));
+  EXPECT_EQ(view.favourites, 0);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::warning);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "This food item already exists in the favourites list.\n"
+            "A food item can be only used once in the favourites list.");
+}
+
+TEST_F(OwnLists, AFoodThatChangedSinceCanStandTwice) {
+  store.Custom_list.Add(Packed("Apple|2|"));
+  store.Favorites_list.Add(Packed("Apple|1|"));
+  Add_To_Favorites(test.program, KeyOf("Apple"));
+  EXPECT_EQ(Lines(store.Favorites_list),
+            (std::vector<Text>{Packed("Apple|1|"), Packed("Apple|2|")}));
+}
+
+TEST_F(OwnLists, AKeyThatNothingBeginsWithDoesNothing) {
+  store.Default_list.Add(Packed("Apple|1|a.dat|"));
+  Add_To_Favorites(test.program, KeyOf("App"));
+  Add_To_Favorites(test.program, KeyOf(""));
+  EXPECT_TRUE(store.Favorites_list.Empty());
+  EXPECT_TRUE(test.boxes.shown.empty());
+}
+
+TEST_F(OwnLists, AFavouriteThatCanNotBeSavedStaysInMemory) {
+  store.Custom_list.Add(Packed("Apple|2|"));
+  std::filesystem::remove_all(test.program.paths.UsersPath);
+  Add_To_Favorites(test.program, KeyOf("Apple"));
+  EXPECT_EQ(store.Favorites_list.Count(), 1u);
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_TRUE(test.boxes.shown[0].text.ends_with("#FF1-4"));
+  // Callers are not told of a failure: what comes after a save comes all the same.
+  EXPECT_TRUE(test.boxes.shown[1].text.starts_with("The food item has been added"));
+}
+
+TEST_F(OwnLists, OnlyAYesCopiesTheOwnListIntoTheDatabases) {
+  store.Custom_list.Add(Packed("Own soup|1 plate|"));
+  Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::cancel}) {
+    test.boxes.answers = {answer};
+    CopyOwnListToDatabases(test.program);
+    EXPECT_TRUE(std::filesystem::is_empty(Databases()));
+  }
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(test.boxes.shown[0].buttons, BoxButtons::yes_no_cancel);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::question);
+  test.boxes.answers = {BoxAnswer::yes};
+  CopyOwnListToDatabases(test.program);
+  EXPECT_EQ(ReadFile(Databases() + "Anna.dat"), ReadFile(CustomFile(test.program.paths, "Anna")));
+  EXPECT_EQ(Lines(store.Default_list), std::vector<Text>{Packed("Own soup|1 plate|Anna.dat|")});
+  EXPECT_EQ(Lines(store.lst_categorien), std::vector<Text>{"Anna.dat"});
+  EXPECT_EQ(view.standard, 1);
+  EXPECT_EQ(view.own, 1);
+  EXPECT_EQ(view.favourites, 1);
+}
+
+TEST_F(OwnLists, ACopyTakesThePlaceOfTheOneBefore) {
+  WriteFileAnew(Databases() + "Anna.dat", std::string(5000, 'x'));
+  store.Custom_list.Add(Packed("Own soup|"));
+  Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  test.boxes.answers = {BoxAnswer::yes};
+  CopyOwnListToDatabases(test.program);
+  EXPECT_EQ(ReadFile(Databases() + "Anna.dat"), ReadFile(CustomFile(test.program.paths, "Anna")));
+}
+
+TEST_F(OwnLists, WithoutAFileToCopyTheCategoryStaysAndItsCodeShows) {
+  WriteRecord(Databases() + "Anna.dat", Rec_ListLine{{Packed("Old|~")}});
+  test.boxes.answers = {BoxAnswer::yes};
+  CopyOwnListToDatabases(test.program);
+  EXPECT_TRUE(FileExists(Databases() + "Anna.dat"));
+  EXPECT_TRUE(test.boxes.shown.back().text.ends_with("#F11-2"));
+  EXPECT_EQ(view.standard, 0);
+}
+
+TEST_F(OwnLists, LoadingLetsAnOpenWindowRebuildItsOwnViewOnly) {
+  Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  Save_Favorites(test.program, FavoritesFile(test.program.paths, "Anna"));
+  Load_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  EXPECT_EQ(view.own, 1);
+  EXPECT_EQ(view.favourites, 0);
+  Load_Favorites(test.program, FavoritesFile(test.program.paths, "Anna"));
+  EXPECT_EQ(view.own, 1);
+  EXPECT_EQ(view.favourites, 1);
+  EXPECT_FALSE(test.pointer.waiting);
+}
+
+}  // namespace
+}  // namespace kelvora
