@@ -13,7 +13,7 @@ std::span<const std::span<const TextRow>> BuiltInTexts() {
 
 void Make_Taal_English(TextTables& texts) {
   for (const auto& table : BuiltInTexts()) {
-    for (const TextRow& row : table) texts[row.id] = row.english;
+    for (const TextRow& row : table) texts[row.english_id] = row.english;
   }
 }
 

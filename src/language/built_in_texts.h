@@ -16,7 +16,15 @@ struct TextRow {
   TextId id;
   std::string_view english;
   std::string_view dutch;
+  // Where the English text goes; one text of the set goes astray, as it is meant to.
+  TextId english_id = id;
 };
+
+// An entry that nothing shows, kept so that the indexes behind it do not move.
+[[nodiscard]] constexpr TextRow Filler(TextTable table, std::size_t index,
+                                       std::string_view english = "-EMPTY-") {
+  return {{table, index}, english, "-LEEG-"};
+}
 
 // True if all rows belong to one table, stand in the order of their indexes and none lies outside.
 template <std::size_t N>
@@ -28,6 +36,17 @@ template <std::size_t N>
     if (i > 0 && rows[i].id.index <= rows[i - 1].id.index) return false;
   }
   return true;
+}
+
+// True if the rows are those of the indexes 0 to `count` - 1 of one table, none left out, and
+// `fillers` of them are fillers.
+template <std::size_t N>
+[[nodiscard]] consteval bool RowsFill(const std::array<TextRow, N>& rows, std::size_t count,
+                                      std::size_t fillers) {
+  std::size_t found = 0;
+  for (const TextRow& row : rows) found += row.dutch == "-LEEG-" ? 1 : 0;
+  return N == count && RowsAreInOrder(rows) && rows.back().id.index == count - 1 &&
+         found == fillers;
 }
 
 // Overwrite the entries that the built-in set names and leave all others as they are.
