@@ -55,7 +55,9 @@ void ThrowIfWriteProtected(const std::string& path) {
 void WriteWhole(const std::string& path, std::string_view bytes) {
   File file = Open(path, "wb");
   errno = 0;
-  if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) ThrowSystemError();
+  if (!bytes.empty() && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
+    ThrowSystemError();
+  }
   // Buffered bytes may meet a full disk only now.
   if (std::fclose(file.release()) != 0) ThrowSystemError();
 }
