@@ -5,6 +5,7 @@
 #include "core/arrangement.h"
 #include "core/common.h"
 #include "days/open_day.h"
+#include "language/choose_language.h"
 #include "language/main_texts.h"
 #include "storage/day_file.h"
 #include "storage/settings_file.h"
@@ -33,6 +34,7 @@ constexpr std::array kServed = {
     CommandRow{Command::consumptions_drop_down, Needs::day},
     CommandRow{Command::quick_default, Needs::day},
     CommandRow{Command::quick_reset, Needs::nothing},
+    CommandRow{Command::mnu_reset_taal, Needs::nothing},
 };
 
 struct WindowCommand {
@@ -110,6 +112,8 @@ void RunCommand(Program& program, Command command) {
       return Save_Settings(program);
     case Command::quick_reset:
       return ResetScreens(program);
+    case Command::mnu_reset_taal:
+      return RepairLanguageFiles(program);
     default:
       return;
   }

@@ -95,6 +95,7 @@ void CountEqualLines(const TextList& lines, TextList& distinct, TextList& counts
   distinct.Clear();
   counts.Clear();
   std::unordered_map<std::string_view, std::size_t> place;
+  place.reserve(lines.Count());
   std::vector<std::size_t> tally;
   for (const std::string_view line : lines) {
     const auto [entry, is_new] = place.try_emplace(line, tally.size());

@@ -18,12 +18,16 @@ WindowView* OpenWindows::Find(WindowId id) const {
       return consumption[2];
     case WindowId::day_summary:
       return day_summary;
-    case WindowId::wizard:
-    case WindowId::food_details:
     case WindowId::multi_day:
+      return multi_day;
     case WindowId::diary:
+      return diary;
     case WindowId::comparison:
-      break;
+      return comparison;
+    case WindowId::food_details:
+      return food_details;
+    case WindowId::wizard:
+      return wizard;
   }
   return nullptr;
 }

@@ -96,6 +96,12 @@ struct OpenWindows {
   WindowView* day_settings = nullptr;
   BrowserView* browser = nullptr;
   DaySummaryView* day_summary = nullptr;
+  WindowView* multi_day = nullptr;
+  WindowView* diary = nullptr;
+  WindowView* comparison = nullptr;
+  WindowView* food_details = nullptr;
+  WindowView* wizard = nullptr;
+  WindowView* properties = nullptr;  // the settings dialog
   WindowView* export_html = nullptr;
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.

@@ -47,7 +47,7 @@ struct StoredDay {
 
 StoredDay ReadDay(Program& program, const std::string& folder, std::string_view file_name) {
   const Rec_DayFile& record =
-      ReadOrKeepRecord(folder + Utf8FromText(file_name), program.last_read.day);
+      DecodeOrKeepRecord(ReadFile(folder + Utf8FromText(file_name)), program.last_read.day);
   TextList header;
   SplitBlock(record[DayFileField::Header], header);
   return {Text(file_name),

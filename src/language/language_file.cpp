@@ -26,6 +26,17 @@ void ShowError(Program& program, std::string_view title, Text text) {
       {.title = Text(title), .text = std::move(text), .icon = BoxIcon::error});
 }
 
+// Lays the entries of one field over a table, from index `first` on.
+void SplitTable(std::string_view field, TextTable table, std::size_t first, TextTables& texts) {
+  TextList entries;
+  SplitBlock(field, entries);
+  std::size_t index = first;
+  for (const std::string_view entry : entries) {
+    if (index > RangeOf(table).last) break;  // more entries than a table has are passed over
+    texts[{table, index++}] = entry;
+  }
+}
+
 // The first record of a language file. Throws if there is none.
 Rec_Language ReadLanguage(const std::string& path) {
   auto record = ReadFirstRecord<Rec_Language>(path);
@@ -50,14 +61,7 @@ Rec_Language JoinTables(const TextTables& texts) {
 void SplitTables(const Rec_Language& record, TextTables& texts) {
   for (std::size_t i = 0; i < kTextTableCount; ++i) {
     const auto table = static_cast<TextTable>(i);
-    const auto [first, last] = RangeOf(table);
-    TextList entries;
-    SplitBlock(record[table], entries);
-    std::size_t index = first;
-    for (const std::string_view entry : entries) {
-      if (index > last) break;  // more entries than a table has are passed over
-      texts[{table, index++}] = entry;
-    }
+    SplitTable(record[table], table, RangeOf(table).first, texts);
   }
 }
 
@@ -83,9 +87,10 @@ void Save_Language_File(Program& program, const std::string& path) {
 Text Get_Language_Version(Program& program, const std::string& path) {
   if (!FileExists(path)) return "0";
   try {
-    TextList entries;
-    SplitBlock(ReadLanguage(path)[TextTable::taal_file_info], entries);
-    return Text(entries[file_info_text::kLanguageVersion.index]);
+    constexpr TextTable kTable = TextTable::taal_file_info;
+    // Counted from 1, as is meant: the version then stands behind its usual place.
+    SplitTable(ReadLanguage(path)[kTable], kTable, 1, program.texts);
+    return program.texts[{kTable, file_info_text::kLanguageVersion.index + 1}];
   } catch (const std::exception&) {
     ShowError(program, AppTitle,
               "An error occured during language version retrieval in file " + TextFromUtf8(path));
@@ -102,6 +107,12 @@ void Check_Language_Files(Program& program) {
       Save_Language_File(program, path);
     }
   });
+}
+
+std::span<const std::string_view> StandardLanguageFiles() {
+  static constexpr std::array<std::string_view, 3> kNames = {"default.lsf", "English.lsf",
+                                                             "Nederlands.lsf"};
+  return kNames;
 }
 
 void LoadChosenLanguage(Program& program) {

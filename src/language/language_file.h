@@ -5,7 +5,9 @@
 // deliver their texts.
 #pragma once
 
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "core/program.h"
 
@@ -21,13 +23,18 @@ void Load_Language_File(Program& program, const std::string& path);
 void Save_Language_File(Program& program, const std::string& path);
 
 // The version that a language file says it has: "0" if the file is absent, "" after the box of a
-// file that can't be read.
+// file that can't be read. Leaves the file's own information in its table, each entry one place too
+// high: the caller loads a file next.
 [[nodiscard]] Text Get_Language_Version(Program& program, const std::string& path);
 
 // Makes sure that the three standard files exist and carry the program's version, and rewrites
 // those that don't. That leaves built-in texts in the tables: the caller loads a file next. A
 // failure shows "#FF8-13".
 void Check_Language_Files(Program& program);
+
+// The names of the files that the program makes by itself, in the order in which a repair deletes
+// them.
+[[nodiscard]] std::span<const std::string_view> StandardLanguageFiles();
 
 // Loads the file that the settings name.
 void LoadChosenLanguage(Program& program);

@@ -21,11 +21,11 @@ struct Decimal {
   int exponent = 0;
 };
 
-// The value rounded to `significant` digits, without trailing zeros.
+// The value rounded to `significant` digits, halves to even, without trailing zeros.
 template <class Number>
-Decimal DecimalOf(Number value, int significant) {
+Decimal NearestDecimal(Number value, int significant) {
   if (!std::isfinite(value)) throw std::domain_error("Overflow");
-  std::array<char, 160> buffer;
+  std::array<char, 352> buffer;
   const auto [end, error] =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                     std::chars_format::scientific, significant - 1);
@@ -94,6 +94,31 @@ Decimal RoundDecimal(Decimal decimal, int places, Halves halves) {
   return decimal;
 }
 
+// True if the exact value ends with the digit behind the first `significant` ones, and that digit
+// is a 5: it lies half-way between two numbers of that many digits.
+template <class Number>
+bool LiesHalfWay(Number value, int significant, int exponent) {
+  const int last_place = significant + 1 - exponent;
+  if (last_place > 0) {
+    // A binary fraction has as many decimals as bits behind the point, and the last is a 5.
+    const Number bits = std::ldexp(value, last_place);
+    return std::trunc(bits) == bits && std::fmod(bits, Number{2}) != 0;
+  }
+  constexpr int kAllDigits = 320;
+  const Decimal exact = NearestDecimal(value, kAllDigits);
+  return exact.digits.size() == static_cast<std::size_t>(significant) + 1 &&
+         exact.digits.back() == '5';
+}
+
+// The value rounded to `significant` digits, halves away from zero, without trailing zeros.
+template <class Number>
+Decimal DecimalOf(Number value, int significant) {
+  const Decimal nearest = NearestDecimal(value, significant);
+  if (nearest.digits.empty() || !LiesHalfWay(value, significant, nearest.exponent)) return nearest;
+  return RoundDecimal(NearestDecimal(value, significant + 1), significant - nearest.exponent,
+                      Halves::away_from_zero);
+}
+
 template <class Number>
 Text WriteShortest(Number value, std::string_view separator) {
   const Decimal decimal = DecimalOf(value, std::numeric_limits<Number>::digits10 == 6 ? 7 : 15);
@@ -148,7 +173,7 @@ float Single(double value) {
 float RoundTo(float value, int decimals) {
   // A single has at most 112 significant decimal digits: that many are its exact value.
   constexpr int kExact = 112;
-  const Decimal rounded = RoundDecimal(DecimalOf(value, kExact), decimals, Halves::to_even);
+  const Decimal rounded = RoundDecimal(NearestDecimal(value, kExact), decimals, Halves::to_even);
   const Text written = "0." + rounded.digits + "e" + std::to_string(rounded.exponent);
   float result = 0;
   const auto [end, error] =

@@ -29,7 +29,8 @@ namespace kelvora {
 [[nodiscard]] float RoundTo(float value, int decimals);
 
 // The shortest form of the value: at most seven (float) or fifteen (double) significant digits,
-// never an exponent, no trailing zeros behind the point, "0" before a leading point.
+// halves away from zero, never an exponent, no trailing zeros behind the point, "0" before a
+// leading point.
 [[nodiscard]] Text Str(float value, std::string_view separator);
 [[nodiscard]] Text Str(double value, std::string_view separator);
 

@@ -102,7 +102,7 @@ Text Bereken_BMI(Text& height, Text& weight, const UnitContext& context) {
   return Convert(context, "#FF11-7", [&](const Text& separator) {
     const float metres = Single(Normalise(height));
     const float kilograms = Single(Normalise(weight));
-    const float square = metres * metres;
+    const float square = Single(double{metres} * metres);
     if (square == 0) throw std::domain_error("Division by zero");
     const float index = Single(double{kilograms} / square);
     return FormatNumber(index, "##.00", separator);

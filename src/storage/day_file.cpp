@@ -47,8 +47,8 @@ Rec_DayFile PackDay(const KV_data& store) {
 }
 
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name) {
-  const std::string path = folder + Utf8FromText(file_name);
-  if (!FileExists(path)) return;
+  auto file = InputFile::TryOpen(folder + Utf8FromText(file_name));
+  if (!file) return;
   program.Guard("#FF1-8", [&] {
     Pointer& pointer = program.platform.pointer;
     pointer.ShowWait();
@@ -59,7 +59,7 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
     // The name may belong to the row of a window that closes with the day.
     const Text name(file_name);
     CloseDay(program);
-    TakeDay(program.store, ReadOrKeepRecord(path, program.last_read.day));
+    TakeDay(program.store, DecodeOrKeepRecord(file->ReadAll(), program.last_read.day));
     program.store.KV_bestand = name;
     pointer.Restore();
   });

@@ -18,11 +18,12 @@ using Populate = void (FoodListsView::*)();
 
 void LoadUserList(Program& program, const std::string& path, std::string_view code, TextList& list,
                   Populate populate) {
-  if (!FileExists(path)) return;
+  auto file = InputFile::TryOpen(path);
+  if (!file) return;
   program.Guard(code, [&] {
     program.platform.pointer.ShowWait();
     list.Clear();
-    AppendFoodLines(ReadFile(path), {}, list);
+    AppendFoodLines(file->ReadAll(), {}, list);
     program.platform.pointer.Restore();
     if (program.windows.lists != nullptr) (program.windows.lists->*populate)();
   });

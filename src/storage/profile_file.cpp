@@ -21,10 +21,11 @@ void UpdateStatusBar(Program& program) {
 }  // namespace
 
 void Load_Profile(Program& program, const std::string& path) {
-  if (!FileExists(path)) return;
+  auto file = InputFile::TryOpen(path);
+  if (!file) return;
   program.Guard("#FF1-6", [&] {
     // A file that counts no record leaves the working copy of the user before.
-    if (const auto record = ReadFirstRecord<Rec_Profile>(path)) {
+    if (const auto record = DecodeRecord<Rec_Profile>(file->ReadAll())) {
       program.last_read.profile = record;
       program.profile = OnlyFieldsInUse(*record);
     } else if (!program.last_read.profile) {

@@ -1,6 +1,6 @@
 #include "storage/record_file.h"
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -117,19 +117,38 @@ bool DecodeInto(std::string_view bytes, std::span<AnyString> strings) {
 
 }  // namespace
 
-std::string ReadFile(const std::string& path) {
-  const File file = Open(path, "rb");
-  std::error_code unknown_size;
-  const auto expected = fs::file_size(path, unknown_size);
-  std::string bytes;
-  if (!unknown_size) bytes.reserve(expected);
-  std::array<char, 1 << 16> chunk;
-  std::size_t count = 0;
-  while ((count = std::fread(chunk.data(), 1, chunk.size(), file.get())) > 0) {
-    bytes.append(chunk.data(), count);
+InputFile::InputFile(const std::string& path) : file_(Open(path, "rb").release()) {}
+
+std::optional<InputFile> InputFile::TryOpen(const std::string& path) {
+  try {
+    return InputFile(path);
+  } catch (const std::system_error&) {
+    return std::nullopt;
   }
-  if (std::ferror(file.get()) != 0) ThrowSystemError();
+}
+
+std::string InputFile::ReadAll() {
+  std::FILE* const file = file_.get();
+  // The bytes go straight to where they stay.
+  std::setvbuf(file, nullptr, _IONBF, 0);
+  const long size = std::fseek(file, 0, SEEK_END) == 0 ? std::ftell(file) : 0;
+  std::rewind(file);
+  std::string bytes;
+  std::size_t count = 0;
+  errno = 0;
+  // One byte more than the file has tells its end at once; it may also have grown meanwhile.
+  for (std::size_t room = static_cast<std::size_t>(std::max(size, 0L)) + 1; count == bytes.size();
+       room *= 2) {
+    bytes.resize(count + room);
+    count += std::fread(bytes.data() + count, 1, room, file);
+  }
+  if (std::ferror(file) != 0) ThrowSystemError();
+  bytes.resize(count);
   return bytes;
+}
+
+std::string ReadFile(const std::string& path) {
+  return InputFile(path).ReadAll();
 }
 
 void DeleteFileIfThere(const std::string& path) {

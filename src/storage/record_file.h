@@ -10,6 +10,8 @@
 // of what the strings mean.
 #pragma once
 
+#include <cstdio>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -18,8 +20,26 @@
 
 namespace kelvora {
 
-// The whole file. Throws std::system_error; anything but a regular file is refused, so that none
-// can keep the program waiting.
+// A regular file, open for reading. Anything else is refused, so that none can keep the program
+// waiting.
+class InputFile {
+ public:
+  // Throws std::system_error.
+  explicit InputFile(const std::string& path);
+  // Nothing if the file can't be opened.
+  [[nodiscard]] static std::optional<InputFile> TryOpen(const std::string& path);
+
+  // The whole file; asked once. Throws std::system_error.
+  [[nodiscard]] std::string ReadAll();
+
+ private:
+  struct Close {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+  };
+  std::unique_ptr<std::FILE, Close> file_;
+};
+
+// The whole file. Throws std::system_error.
 [[nodiscard]] std::string ReadFile(const std::string& path);
 
 // Deletes the file and writes it anew. Throws std::system_error at whichever step fails, the
@@ -52,11 +72,11 @@ template <class AnyRecord>
   return DecodeRecord<AnyRecord>(ReadFile(path));
 }
 
-// The first record of a file; one that counts none leaves the record of the previous read of that
-// kind standing, and fails before any read. Throws std::system_error or std::runtime_error.
+// The first record of a file image; one that counts none leaves the record of the previous read of
+// that kind standing, and fails before any read. Throws std::runtime_error.
 template <class AnyRecord>
-[[nodiscard]] const AnyRecord& ReadOrKeepRecord(const std::string& path,
-                                                std::optional<AnyRecord>& last_read);
+[[nodiscard]] const AnyRecord& DecodeOrKeepRecord(std::string_view bytes,
+                                                  std::optional<AnyRecord>& last_read);
 
 // Writes a file of one record, deleting the old one first. Throws std::system_error.
 template <class AnyRecord>
@@ -68,8 +88,8 @@ void WriteRecord(const std::string& path, const AnyRecord& record) {
 [[noreturn]] void ThrowNoRecord();
 
 template <class AnyRecord>
-const AnyRecord& ReadOrKeepRecord(const std::string& path, std::optional<AnyRecord>& last_read) {
-  if (auto record = ReadFirstRecord<AnyRecord>(path)) last_read = std::move(record);
+const AnyRecord& DecodeOrKeepRecord(std::string_view bytes, std::optional<AnyRecord>& last_read) {
+  if (auto record = DecodeRecord<AnyRecord>(bytes)) last_read = std::move(record);
   if (!last_read) ThrowNoRecord();
   return *last_read;
 }
