@@ -133,17 +133,10 @@ std::string InputFile::ReadAll() {
   std::setvbuf(file, nullptr, _IONBF, 0);
   const long size = std::fseek(file, 0, SEEK_END) == 0 ? std::ftell(file) : 0;
   std::rewind(file);
-  std::string bytes;
-  std::size_t count = 0;
+  std::string bytes(static_cast<std::size_t>(std::max(size, 0L)), '\0');
   errno = 0;
-  // One byte more than the file has tells its end at once; it may also have grown meanwhile.
-  for (std::size_t room = static_cast<std::size_t>(std::max(size, 0L)) + 1; count == bytes.size();
-       room *= 2) {
-    bytes.resize(count + room);
-    count += std::fread(bytes.data() + count, 1, room, file);
-  }
+  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
   if (std::ferror(file) != 0) ThrowSystemError();
-  bytes.resize(count);
   return bytes;
 }
 

@@ -1,0 +1,44 @@
+#include "plain_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace kelvora::bench {
+namespace {
+
+void Require(bool success) {
+  if (!success) throw std::system_error(errno, std::generic_category());
+}
+
+}  // namespace
+
+std::size_t ReadPlain(const std::string& path, std::span<char> buffer) {
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  Require(file >= 0);
+  const ssize_t count = read(file, buffer.data(), buffer.size());
+  Require(count >= 0);
+  Require(close(file) == 0);
+  return static_cast<std::size_t>(count);
+}
+
+void WritePlain(const std::string& path, std::string_view bytes) {
+  Require(unlink(path.c_str()) == 0 || errno == ENOENT);
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  Require(file >= 0);
+  Require(write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
+  Require(close(file) == 0);
+}
+
+std::size_t ReadThroughLibrary(const std::string& path, std::span<char> buffer) {
+  std::FILE* const file = std::fopen(path.c_str(), "rb");
+  Require(file != nullptr);
+  const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), file);
+  Require(std::ferror(file) == 0);
+  Require(std::fclose(file) == 0);
+  return count;
+}
+
+}  // namespace kelvora::bench

@@ -1,0 +1,21 @@
+// What the operating system alone needs for a file: the limits of reading and writing. No more is
+// done than the calls themselves; throws std::system_error where one fails.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace kelvora::bench {
+
+// Opens the file, reads it into the buffer and closes it; returns the number of bytes. The file is
+// no longer than the buffer.
+std::size_t ReadPlain(const std::string& path, std::span<char> buffer);
+
+// Deletes the file, creates it, writes the bytes and closes it.
+void WritePlain(const std::string& path, std::string_view bytes);
+
+// As ReadPlain, through the buffered calls of the C library.
+std::size_t ReadThroughLibrary(const std::string& path, std::span<char> buffer);
+
+}  // namespace kelvora::bench
