@@ -38,7 +38,9 @@ bool CaselessFinder::IsNear(const char* at) const {
   // Without a branch inside, so that the compiler makes one comparison of all sixteen.
   std::array<unsigned char, kPlaces> fits;
   for (std::size_t i = 0; i < kPlaces; ++i) {
-    fits[i] = static_cast<unsigned char>(first_.Holds(at[i]) & last_.Holds(end_at[i]));
+    const bool first = first_.Holds(at[i]);
+    const bool last = last_.Holds(end_at[i]);
+    fits[i] = static_cast<unsigned char>(first & last);
   }
   std::array<std::uint64_t, kPlaces / sizeof(std::uint64_t)> any;
   std::memcpy(any.data(), fits.data(), kPlaces);

@@ -85,7 +85,6 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
 
   ApplyTotalsPanel();
   Set_Taal();
-  Refresh_Consumpties();
   Refresh_Totalen(program_);
 }
 
@@ -191,6 +190,8 @@ void ConsumptionWindow::Set_Taal() {
   panels_[0]->setText(ToQt(text(ct::kStatus)));
   LV_consumpties_->setAccessibleName(ToQt(text(ct::kTitle)));
   Info_bar_->setAccessibleName(ToQt(text(ct::kTipTotals)));
+  // Title and headings are texts of the tables too.
+  Refresh_Consumpties();
 }
 
 void ConsumptionWindow::Refresh_Consumpties() {

@@ -194,15 +194,23 @@ void FoodListsWindow::Set_Taal() {
   txt_zoekuitleg_->setText(ToQt(texts[kSearchHint]));
   combo_cat_->setAccessibleName(ToQt(texts[kSelectCategory]));
   txt_zoeken_->setAccessibleName(ToQt(texts[kSearchHint]));
+  for (const ViewRow& row : kViews) Populate(row.view);
+  ShowStatus();
 }
 
 void FoodListsWindow::ShowView(FoodView view) {
   view_actions_[static_cast<std::size_t>(view)]->setChecked(true);
   stack_->setCurrentWidget(&TableOf(view));
   Pic_zoek_->setVisible(view == FoodView::standard);
-  panels_[0]->setText(ToQt(program_.texts[RowOf(view).status]));
-  panels_[1]->setText(ToQt(lists_.AvailableText(view)));
+  results_shown_ = false;
+  ShowStatus();
   SetColumnWidths(view);
+}
+
+void FoodListsWindow::ShowStatus() {
+  const auto view = static_cast<FoodView>(stack_->currentIndex());
+  panels_[0]->setText(ToQt(program_.texts[RowOf(view).status]));
+  panels_[1]->setText(ToQt(results_shown_ ? lists_.ResultsText() : lists_.AvailableText(view)));
 }
 
 void FoodListsWindow::Populate(FoodView view) {
@@ -237,13 +245,14 @@ void FoodListsWindow::Toon_Standaardlijst() {
     txt_zoeken_->selectAll();
   }
   Populate(FoodView::standard);
-  panels_[0]->setText(ToQt(program_.texts[kStatusStandard]));
-  panels_[1]->setText(ToQt(lists_.AvailableText(FoodView::standard)));
+  results_shown_ = false;
+  ShowStatus();
 }
 
 void FoodListsWindow::ShowResults() {
   Populate(FoodView::standard);
-  panels_[1]->setText(ToQt(lists_.ResultsText()));
+  results_shown_ = true;
+  ShowStatus();
 }
 
 void FoodListsWindow::resizeEvent(QResizeEvent* event) {

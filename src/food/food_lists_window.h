@@ -44,6 +44,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void Populate(FoodView view);
   void SetColumnWidths(FoodView view);
   void ShowResults();
+  void ShowStatus();
   [[nodiscard]] FoodTable& TableOf(FoodView view) {
     return *tables_[static_cast<std::size_t>(view)];
   }
@@ -51,6 +52,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   Program& program_;
   OpenFlag<FoodListsView> open_flag_;
   FoodLists lists_;
+  bool results_shown_ = false;  // the status tells how many were found, not how many there are
   QToolBar* Toolbar_;
   std::array<QAction*, 4> view_actions_;
   QWidget* Pic_zoek_;

@@ -4,9 +4,12 @@ namespace kelvora {
 
 std::span<const std::span<const TextRow>> BuiltInTexts() {
   static const std::array kTables = {
-      SectionTextRows(), MainTextRows(),    DaySettingsTextRows(), BrowseTextRows(),
-      ListsTextRows(),   EveningTextRows(), AfternoonTextRows(),   MorningTextRows(),
-      CommonTextRows(),  MessageTextRows(), FileInfoTextRows(),
+      SectionTextRows(),    PropertiesTextRows(),  MainTextRows(),        NewFoodTextRows(),
+      ExportFormTextRows(), PopupTextRows(),       DaySettingsTextRows(), BrowseTextRows(),
+      DaySummaryTextRows(), FoodDetailsTextRows(), UpdateTextRows(),      ListsTextRows(),
+      DiaryTextRows(),      TrendTextRows(),       CompareTextRows(),     WizardTextRows(),
+      EveningTextRows(),    AfternoonTextRows(),   MorningTextRows(),     CommonTextRows(),
+      PrintTextRows(),      ExportTextRows(),      MessageTextRows(),     FileInfoTextRows(),
   };
   return kTables;
 }

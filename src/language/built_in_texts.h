@@ -58,14 +58,27 @@ void Make_Taal_Dutch(TextTables& texts);
 
 // The rows of each table, in that table's own file.
 [[nodiscard]] std::span<const TextRow> SectionTextRows();
+[[nodiscard]] std::span<const TextRow> PropertiesTextRows();
 [[nodiscard]] std::span<const TextRow> MainTextRows();
+[[nodiscard]] std::span<const TextRow> NewFoodTextRows();
+[[nodiscard]] std::span<const TextRow> ExportFormTextRows();
+[[nodiscard]] std::span<const TextRow> PopupTextRows();
 [[nodiscard]] std::span<const TextRow> DaySettingsTextRows();
 [[nodiscard]] std::span<const TextRow> BrowseTextRows();
+[[nodiscard]] std::span<const TextRow> DaySummaryTextRows();
+[[nodiscard]] std::span<const TextRow> FoodDetailsTextRows();
+[[nodiscard]] std::span<const TextRow> UpdateTextRows();
 [[nodiscard]] std::span<const TextRow> ListsTextRows();
+[[nodiscard]] std::span<const TextRow> DiaryTextRows();
+[[nodiscard]] std::span<const TextRow> TrendTextRows();
+[[nodiscard]] std::span<const TextRow> CompareTextRows();
+[[nodiscard]] std::span<const TextRow> WizardTextRows();
 [[nodiscard]] std::span<const TextRow> EveningTextRows();
 [[nodiscard]] std::span<const TextRow> AfternoonTextRows();
 [[nodiscard]] std::span<const TextRow> MorningTextRows();
 [[nodiscard]] std::span<const TextRow> CommonTextRows();
+[[nodiscard]] std::span<const TextRow> PrintTextRows();
+[[nodiscard]] std::span<const TextRow> ExportTextRows();
 [[nodiscard]] std::span<const TextRow> MessageTextRows();
 [[nodiscard]] std::span<const TextRow> FileInfoTextRows();
 

@@ -4,6 +4,7 @@
 
 #include "language/language_file.h"
 #include "language/main_texts.h"
+#include "nutrition/totals.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
 
@@ -44,6 +45,8 @@ void ChooseLanguage(Program& program, std::string_view file_name) {
   if (program.windows.core != nullptr) program.windows.core->Set_Taal();
   TakeCaptions(program.windows.properties);
   for (const WindowId id : kListening) TakeCaptions(program.windows.Find(id));
+  // The totals that windows show carry words as well.
+  if (program.store.DayIsOpen()) Refresh_Totalen(program);
 }
 
 void RepairLanguageFiles(Program& program) {

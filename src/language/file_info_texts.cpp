@@ -14,7 +14,7 @@ constexpr std::array kRows = {
     TextRow{kDate, "05-10-2005"_w, "05-10-2005"_w},
     TextRow{kMark, "1"_w, "1"_w},
 };
-static_assert(RowsAreInOrder(kRows));
+static_assert(RowsFill(kRows, 5, 0));
 
 }  // namespace
 

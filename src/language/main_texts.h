@@ -1,5 +1,5 @@
-// Names of the texts in taal_main: the main window.
-// The texts themselves, English and Dutch, stand in main_texts.cpp.
+// Names of the texts in taal_main: the main window, the questions before a day is dropped, and the
+// repair of the language files. The texts themselves, English and Dutch, stand in main_texts.cpp.
 #pragma once
 
 #include "language/tables.h"
@@ -79,18 +79,21 @@ inline constexpr TextId kTipUpdate{TextTable::taal_main, 69};
 inline constexpr TextId kTipHelp{TextTable::taal_main, 70};
 inline constexpr TextId kPrintDayDropDown{TextTable::taal_main, 71};
 inline constexpr TextId kPrintTravelDropDown{TextTable::taal_main, 72};
-inline constexpr TextId kSelectPrintOption{TextTable::taal_main, 73};
-inline constexpr TextId kSeveralOptions{TextTable::taal_main, 74};
-inline constexpr TextId kQuickDefault{TextTable::taal_main, 75};
-inline constexpr TextId kQuickAll{TextTable::taal_main, 76};
-inline constexpr TextId kQuickReset{TextTable::taal_main, 77};
-inline constexpr TextId kTipQuickDefault{TextTable::taal_main, 78};
-inline constexpr TextId kTipQuickAll{TextTable::taal_main, 79};
-inline constexpr TextId kTipBrowseDays{TextTable::taal_main, 80};
-inline constexpr TextId kTipResetScreens{TextTable::taal_main, 81};
-inline constexpr TextId kCurrentUser{TextTable::taal_main, 82};
-inline constexpr TextId kNoFileOpen{TextTable::taal_main, 83};
-inline constexpr TextId kMakeOrOpenFile{TextTable::taal_main, 84};
+inline constexpr TextId kMorningDropDown{TextTable::taal_main, 73};
+inline constexpr TextId kAfternoonDropDown{TextTable::taal_main, 74};
+inline constexpr TextId kEveningDropDown{TextTable::taal_main, 75};
+inline constexpr TextId kSelectPrintOption{TextTable::taal_main, 76};
+inline constexpr TextId kSeveralOptions{TextTable::taal_main, 77};
+inline constexpr TextId kQuickDefault{TextTable::taal_main, 78};
+inline constexpr TextId kQuickAll{TextTable::taal_main, 79};
+inline constexpr TextId kQuickReset{TextTable::taal_main, 80};
+inline constexpr TextId kTipQuickDefault{TextTable::taal_main, 81};
+inline constexpr TextId kTipQuickAll{TextTable::taal_main, 82};
+inline constexpr TextId kTipBrowseDays{TextTable::taal_main, 83};
+inline constexpr TextId kTipResetScreens{TextTable::taal_main, 84};
+inline constexpr TextId kCurrentUser{TextTable::taal_main, 85};
+inline constexpr TextId kNoFileOpen{TextTable::taal_main, 86};
+inline constexpr TextId kMakeOrOpenFile{TextTable::taal_main, 87};
 inline constexpr TextId kRepairQuestion1{TextTable::taal_main, 89};
 inline constexpr TextId kRepairQuestion2{TextTable::taal_main, 90};
 inline constexpr TextId kRepairQuestion3{TextTable::taal_main, 91};
@@ -99,8 +102,32 @@ inline constexpr TextId kRepairLanguageFiles{TextTable::taal_main, 93};
 inline constexpr TextId kExitTitle{TextTable::taal_main, 94};
 inline constexpr TextId kExitNotSaved{TextTable::taal_main, 95};
 inline constexpr TextId kExitSure{TextTable::taal_main, 96};
-inline constexpr TextId kNewFileGoing{TextTable::taal_main, 97};
-inline constexpr TextId kNewFileLost{TextTable::taal_main, 98};
-inline constexpr TextId kNewFileSure{TextTable::taal_main, 99};
+inline constexpr TextId kWebsiteAddress{TextTable::taal_main, 98};
+inline constexpr TextId kNewFileGoing{TextTable::taal_main, 99};
+inline constexpr TextId kNewFileLost{TextTable::taal_main, 100};
+inline constexpr TextId kNewFileSure{TextTable::taal_main, 101};
+inline constexpr TextId kServiceNameEnglish{TextTable::taal_main, 103};
+inline constexpr TextId kAddressUnknown{TextTable::taal_main, 104};
+inline constexpr TextId kAddressAdvice{TextTable::taal_main, 105};
+inline constexpr TextId kHelpMissing{TextTable::taal_main, 107};
+inline constexpr TextId kHelpFolder{TextTable::taal_main, 108};
+inline constexpr TextId kDiagnoseMissing{TextTable::taal_main, 110};
+inline constexpr TextId kDiagnoseFolder{TextTable::taal_main, 111};
+inline constexpr TextId kDiagnoseAdvice{TextTable::taal_main, 112};
+inline constexpr TextId kDiagnoseCaption{TextTable::taal_main, 113};
+inline constexpr TextId kScreenWarningTitle{TextTable::taal_main, 115};
+inline constexpr TextId kToolbarName{TextTable::taal_main, 116};
+inline constexpr TextId kQuickToolbarName{TextTable::taal_main, 117};
+inline constexpr TextId kChildAreaName{TextTable::taal_main, 118};
+inline constexpr TextId kStatusBarName{TextTable::taal_main, 119};
+inline constexpr TextId kTipProgramPanel{TextTable::taal_main, 120};
+inline constexpr TextId kTipUserPanel{TextTable::taal_main, 121};
+inline constexpr TextId kTipWizard{TextTable::taal_main, 123};
+inline constexpr TextId kTipExportXml{TextTable::taal_main, 124};
+inline constexpr TextId kTipExportDta{TextTable::taal_main, 125};
+inline constexpr TextId kTipService{TextTable::taal_main, 126};
+inline constexpr TextId kTipWebsite{TextTable::taal_main, 127};
+inline constexpr TextId kTipRepairLanguageFiles{TextTable::taal_main, 128};
+inline constexpr TextId kTipDiagnose{TextTable::taal_main, 129};
 
 }  // namespace kelvora::main_text

@@ -9,8 +9,9 @@ using namespace message_text;
 
 constexpr std::array kRows = {
     TextRow{kErrorOccurred, "An error occured."_w, "Er heeft zich een fout voorgedaan."_w},
+    Filler(TextTable::taal_messages, 1),
 };
-static_assert(RowsAreInOrder(kRows));
+static_assert(RowsFill(kRows, 2, 1));
 
 }  // namespace
 

@@ -1,0 +1,166 @@
+#include "language/choose_language.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "language/built_in_texts.h"
+#include "language/language_file.h"
+#include "language/main_texts.h"
+#include "storage/record_file.h"
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+// A window that writes down when it takes its captions, and what "File" was then.
+template <class View>
+struct Listening : View {
+  Listening(std::string window_name, std::vector<std::string>& log)
+      : name(std::move(window_name)), notes(log) {}
+  void CloseWindow() override {}
+  void Set_Taal() override { notes.push_back(name); }
+  std::string name;
+  std::vector<std::string>& notes;
+};
+struct ListeningBrowser : Listening<BrowserView> {
+  using Listening::Listening;
+  void Refresh_GebruikersLijst() override {}
+  void Refresh_Files() override {}
+};
+struct ListeningSummary : Listening<DaySummaryView> {
+  using Listening::Listening;
+  void Maak_Voedingsbehoefte(const DayTotals&) override {}
+};
+struct ListeningLists : Listening<FoodListsView> {
+  using Listening::Listening;
+  void Toon_Standaardlijst() override {}
+  void Populate_Food_List_Custom() override {}
+  void Populate_Food_List_Favo() override {}
+};
+struct ListeningConsumption : Listening<ConsumptionView> {
+  using Listening::Listening;
+  void Refresh_Consumpties() override {}
+  void ShowTotals(const ConsumptionTotals&) override {}
+};
+struct ListeningCore : RecordingCore {
+  explicit ListeningCore(std::vector<std::string>& log) : notes(log) {}
+  void Set_Taal() override { notes.push_back("core"); }
+  std::vector<std::string>& notes;
+};
+
+class Language : public testing::Test {
+ protected:
+  Language() {
+    Check_Language_Files(test.program);
+    Load_Language_File(test.program, Folder() + "English.lsf");
+  }
+  [[nodiscard]] const std::string& Folder() const { return test.program.paths.LanguagePath; }
+  [[nodiscard]] const Text& FileText() const { return test.program.texts[main_text::kFile]; }
+
+  TestProgram test;
+  std::vector<std::string> notes;
+};
+
+TEST_F(Language, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder) {
+  ListeningCore core(notes);
+  Listening<WindowView> properties("properties", notes), details("details", notes),
+      multi_day("multi-day", notes), diary("diary", notes), comparison("comparison", notes),
+      wizard("wizard", notes), day_settings("day settings", notes), export_html("export", notes);
+  ListeningBrowser browser("browser", notes);
+  ListeningSummary summary("summary", notes);
+  ListeningLists lists("lists", notes);
+  std::array consumption = {ListeningConsumption("morning", notes),
+                            ListeningConsumption("afternoon", notes),
+                            ListeningConsumption("evening", notes)};
+  OpenWindows& windows = test.program.windows;
+  windows.core = &core;
+  windows.properties = &properties;
+  windows.food_details = &details;
+  windows.multi_day = &multi_day;
+  windows.diary = &diary;
+  windows.comparison = &comparison;
+  windows.wizard = &wizard;
+  windows.day_settings = &day_settings;
+  windows.export_html = &export_html;
+  windows.browser = &browser;
+  windows.day_summary = &summary;
+  windows.lists = &lists;
+  for (std::size_t i = 0; i < 3; ++i) windows.consumption[i] = &consumption[i];
+
+  ChooseLanguage(test.program, "Nederlands.lsf");
+  EXPECT_EQ(FileText(), "Bestand");
+  EXPECT_EQ(notes, (std::vector<std::string>{"core", "properties", "browser", "summary", "details",
+                                             "lists", "multi-day", "diary", "morning", "afternoon",
+                                             "evening", "comparison", "wizard"}));
+  EXPECT_EQ(test.program.settings[Setting::Combo_taal], "default.lsf");
+}
+
+TEST_F(Language, AClosedWindowIsNotReached) {
+  ListeningLists lists("lists", notes);
+  test.program.windows.lists = &lists;
+  ChooseLanguage(test.program, "Nederlands.lsf");
+  EXPECT_EQ(notes, std::vector<std::string>{"lists"});
+}
+
+TEST_F(Language, TheFilesAreListedWithTheirExtensionWithoutRegardToCase) {
+  WriteFileAnew(Folder() + "my own.lsf", "");
+  WriteFileAnew(Folder() + "notes.txt", "");
+  const TextList names = LanguageFileNames(test.program.paths);
+  EXPECT_EQ(std::vector<Text>(names.begin(), names.end()),
+            (std::vector<Text>{"default.lsf", "English.lsf", "my own.lsf", "Nederlands.lsf"}));
+}
+
+TEST_F(Language, ARepairMakesTheStandardFilesAnewAfterAYes) {
+  for (const char* name : {"default.lsf", "English.lsf", "Nederlands.lsf"}) {
+    test.program.texts[main_text::kFile] = "spoilt";
+    Save_Language_File(test.program, Folder() + name);
+  }
+  test.program.settings[Setting::Combo_taal] = "Nederlands.lsf";
+  test.boxes.answers = {BoxAnswer::yes};
+  RepairLanguageFiles(test.program);
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::question);
+  EXPECT_EQ(test.boxes.shown[0].buttons, BoxButtons::yes_no);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "You are going to repair the language files.\n\n"
+            "All language files will be overwritten.\nAre you sure?");
+  EXPECT_EQ(test.boxes.shown[1].icon, BoxIcon::information);
+  EXPECT_EQ(test.boxes.shown[1].text, "Alle taalbestanden zijn hersteld.");
+  EXPECT_EQ(FileText(), "Bestand");
+  for (const char* name : {"default.lsf", "English.lsf"}) {
+    Load_Language_File(test.program, Folder() + name);
+    EXPECT_EQ(FileText(), "File") << name;
+  }
+}
+
+TEST_F(Language, ANoRepairsNothing) {
+  WriteFileAnew(Folder() + "English.lsf", "spoilt");
+  test.boxes.answers = {BoxAnswer::no};
+  RepairLanguageFiles(test.program);
+  EXPECT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(ReadFile(Folder() + "English.lsf"), "spoilt");
+}
+
+TEST_F(Language, ARepairLeavesAUsersOwnFileAndLoadsItAsItStands) {
+  test.program.texts[main_text::kFile] = "Fichier";
+  Save_Language_File(test.program, Folder() + "mine.lsf");
+  const std::string before = ReadFile(Folder() + "mine.lsf");
+  test.program.settings[Setting::Combo_taal] = "mine.lsf";
+  std::filesystem::remove(Folder() + "default.lsf");
+  test.boxes.answers = {BoxAnswer::yes};
+  RepairLanguageFiles(test.program);
+  EXPECT_EQ(ReadFile(Folder() + "mine.lsf"), before);
+  EXPECT_EQ(FileText(), "Fichier");
+  EXPECT_TRUE(FileExists(Folder() + "default.lsf"));
+}
+
+TEST_F(Language, AFailingRepairShowsItsCode) {
+  std::filesystem::permissions(Folder() + "English.lsf", std::filesystem::perms::owner_read);
+  test.boxes.answers = {BoxAnswer::yes};
+  RepairLanguageFiles(test.program);
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_TRUE(test.boxes.shown[1].text.ends_with("Brelux CODE:#F4-16"));
+}
+
+}  // namespace
+}  // namespace kelvora

@@ -1,0 +1,206 @@
+// Whether every text that a window shows comes from the text tables: a language file in which each
+// entry is its own place in the tables is chosen, and then nothing else may be seen.
+#include <gtest/gtest.h>
+#include <set>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTableView>
+#include <QTest>
+
+#include "core/arrangement.h"
+#include "core/main_window.h"
+#include "days/browser_dialog.h"
+#include "days/day_settings_dialog.h"
+#include "language/choose_language.h"
+#include "language/language_file.h"
+#include "platform/qt/text.h"
+#include "storage/day_file.h"
+#include "storage/folders.h"
+#include "storage/profile_file.h"
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+constexpr std::array kTableNames = {
+    "sections", "properties",  "main",     "new_food",  "export_form", "popup",  "day_settings",
+    "browse",   "day_summary", "food",     "update",    "lists",       "diary",  "trend",
+    "compare",  "wizard",      "evening",  "afternoon", "morning",     "common", "print",
+    "export",   "reserved",    "messages", "empty",     "info"};
+
+// Fills every entry with its own place: "main[3]" with "[]" as brackets.
+TextTables NumberedTexts(std::string_view brackets) {
+  TextTables texts;
+  for (std::size_t table = 0; table < kTextTableCount; ++table) {
+    for (std::size_t index = 0; index < 201; ++index) {
+      texts.entries[table][index] =
+          kTableNames[table] + Text(1, brackets[0]) + std::to_string(index) + Text(1, brackets[1]);
+    }
+  }
+  return texts;
+}
+
+// What of a text does not come from the tables; the data of these tests is numbers only.
+QString Foreign(QString text, const char* token) {
+  text.remove(QRegularExpression(QLatin1String(token)));
+  text.remove(QRegularExpression(QStringLiteral("[0-9\\s&:;.,/()'+-]")));
+  return text;
+}
+constexpr const char* kSquare = "[a-z_]+\\[\\d+\\]";
+constexpr const char* kCurly = "[a-z_]+\\{\\d+\\}";
+
+struct Shown {
+  QString where;
+  QString text;
+};
+
+// The words that a window writes around a number by itself, as it is meant to.
+bool IsUnitOfATotal(const Shown& shown) {
+  static const std::set<QString> kUnits = {QStringLiteral("KjKcal"), QStringLiteral("g")};
+  return shown.where.startsWith(QStringLiteral("lbl_nfo_")) &&
+         kUnits.contains(Foreign(shown.text, kSquare));
+}
+bool IsNameOfTheProgram(const Shown& shown) {
+  return shown.text.startsWith(QStringLiteral("Kelvora FOOD"));
+}
+
+// Everything that can be read on a widget, its tips and the names that are read aloud included.
+void CollectTexts(const QWidget& widget, std::vector<Shown>& shown) {
+  const auto add = [&](const QString& text) {
+    if (!text.isEmpty()) shown.push_back({widget.objectName(), text});
+  };
+  // The menu of a child window's frame and the arrows of a tab strip that is too long are Qt's own,
+  // in the language of the system.
+  if (qobject_cast<const QTabBar*>(widget.parentWidget()) != nullptr) return;
+  if (qobject_cast<const QMenu*>(&widget) != nullptr &&
+      qobject_cast<const QMdiSubWindow*>(widget.parentWidget()) != nullptr) {
+    return;
+  }
+  add(widget.windowTitle());
+  add(widget.toolTip());
+  add(widget.statusTip());
+  add(widget.accessibleName());
+  add(widget.accessibleDescription());
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) add(label->text());
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) add(button->text());
+  if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) add(group->title());
+  if (const auto* menu = qobject_cast<const QMenu*>(&widget)) add(menu->title());
+  if (const auto* bar = qobject_cast<const QStatusBar*>(&widget)) add(bar->currentMessage());
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) add(edit->placeholderText());
+  if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
+    for (int i = 0; i < tabs->count(); ++i) add(tabs->tabText(i));
+  }
+  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+    for (int i = 0; i < combo->count(); ++i) add(combo->itemText(i));
+  }
+  if (const auto* table = qobject_cast<const QTableView*>(&widget); table && table->model()) {
+    for (int i = 0; i < table->model()->columnCount(); ++i) {
+      add(table->model()->headerData(i, Qt::Horizontal).toString());
+    }
+  }
+  if (qobject_cast<const QMdiSubWindow*>(&widget) != nullptr) return;
+  for (const QAction* action : widget.actions()) {
+    add(action->text());
+    add(action->toolTip());
+  }
+}
+
+std::vector<Shown> AllTexts(const QWidget& root) {
+  std::vector<Shown> shown;
+  CollectTexts(root, shown);
+  for (const QWidget* widget : root.findChildren<QWidget*>()) CollectTexts(*widget, shown);
+  return shown;
+}
+
+// Each text is made of table entries and numbers; returns how many were looked at.
+std::size_t ExpectFromTables(const QWidget& root, const char* token) {
+  const auto shown = AllTexts(root);
+  for (const Shown& one : shown) {
+    if (IsUnitOfATotal(one) || IsNameOfTheProgram(one)) continue;
+    EXPECT_EQ(Foreign(one.text, token).toStdString(), "")
+        << one.where.toStdString() << ": " << one.text.toStdString();
+  }
+  return shown.size();
+}
+
+class WindowTexts : public testing::Test {
+ protected:
+  WindowTexts() {
+    Choose("square.lsf", "[]");
+    program.store.lst_categorien.Add("5.dat");
+    program.store.Default_list.Add(Packed("1|2|3|4|5|6|7|8|9|10|11|12|5.dat|"));
+    program.profile[ProfileField::name] = "7";
+    program.profile[ProfileField::type_prioriteit] = "1";
+    program.profile[ProfileField::gender] = program.texts[{TextTable::taal_day_settings, 0}];
+    window.resize(1024, 748);
+    window.show();
+  }
+
+  void Choose(const char* file, std::string_view brackets) {
+    program.texts = NumberedTexts(brackets);
+    Save_Language_File(program, program.paths.LanguagePath + file);
+    program.texts = {};
+    ChooseLanguage(program, file);
+  }
+
+  void OpenDay() {
+    test.OpenDay("7");
+    program.store.L_gegevens.Replace(HeaderRow::kGender, "0");
+    program.store.L_gegevens.Replace(HeaderRow::kWeekday, "1");
+    program.store.L_ochtend.Add(program.store.Default_list[0]);
+    SaveDay(program);
+    Save_Profile(program, ProfileFile(program.paths, "7"));
+    ApplyChosenArrangement(program);
+    window.UpdateCommands();
+    window.UpdateStatusBar();
+    QApplication::processEvents();
+  }
+
+  TestProgram test;
+  Program& program = test.program;
+  MainWindow window{test.program};
+};
+
+TEST_F(WindowTexts, TheMainWindowAndItsChildWindowsShowNothingOfTheirOwn) {
+  EXPECT_GT(ExpectFromTables(window, kSquare), 100u);
+  OpenDay();
+  EXPECT_GT(ExpectFromTables(window, kSquare), 200u);
+}
+
+TEST_F(WindowTexts, AnotherLanguageReachesEveryTextOfTheOpenWindows) {
+  OpenDay();
+  Choose("curly.lsf", "{}");
+  QApplication::processEvents();
+  EXPECT_GT(ExpectFromTables(window, kCurly), 200u);
+}
+
+TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
+  OpenDay();
+  const DaySettingsDialog day_settings(program, nullptr);
+  EXPECT_GT(ExpectFromTables(day_settings, kSquare), 30u);
+  const BrowserDialog browser(program, nullptr);
+  EXPECT_GT(ExpectFromTables(browser, kSquare), 20u);
+}
+
+// A window with a word of its own is what these tests are there to find.
+TEST_F(WindowTexts, AWordOfAWindowsOwnIsFound) {
+  QLabel label(QStringLiteral("Total: main[3] 12"));
+  label.setObjectName(QStringLiteral("lbl_total"));
+  const auto shown = AllTexts(label);
+  ASSERT_EQ(shown.size(), 1u);
+  EXPECT_EQ(Foreign(shown[0].text, kSquare), QStringLiteral("Total"));
+}
+
+}  // namespace
+}  // namespace kelvora
