@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <stdexcept>
+#include <system_error>
 #include <string>
 
 #include "fuzz/check.h"
@@ -180,7 +180,7 @@ bool Throws(Routine routine) {
   try {
     routine();
     return false;
-  } catch (const std::domain_error&) {
+  } catch (const std::system_error&) {
     return true;
   }
 }

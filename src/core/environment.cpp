@@ -1,6 +1,7 @@
 #include "core/environment.h"
 
 #include "language/common_texts.h"
+#include "language/main_texts.h"
 
 namespace kelvora {
 
@@ -21,7 +22,8 @@ void CheckScreenResolution(Program& program) {
       texts[kResolutionIs] + " " + std::to_string(size.width) + "x" + std::to_string(size.height) +
       "\n" +
       JoinLines(texts, {kResolutionAdvice, std::nullopt, kResolutionChange, kResolutionWhere});
-  program.platform.boxes.Show({.title = "Warning #F4-7", .text = text, .icon = BoxIcon::error});
+  program.platform.boxes.Show(
+      {.title = texts[main_text::kScreenWarningTitle], .text = text, .icon = BoxIcon::error});
 }
 
 void CheckDecimal(Program& program) {

@@ -1,6 +1,6 @@
 #include "core/failure.h"
 
-#include <system_error>
+#include <new>
 
 #include "core/common.h"
 
@@ -12,7 +12,14 @@ void ReportFailure(const FailureBox& box, std::string_view code, std::string_vie
   box.boxes.Show({.title = Text(AppTitle), .text = text});
 }
 
+void ThrowSystemError(std::errc error) {
+  throw std::system_error(std::make_error_code(error));
+}
+
 Text DescribeFailure(const std::exception& failure) {
+  if (dynamic_cast<const std::bad_alloc*>(&failure) != nullptr) {
+    return TextFromUtf8(std::make_error_code(std::errc::not_enough_memory).message());
+  }
   if (const auto* system = dynamic_cast<const std::system_error*>(&failure)) {
     return TextFromUtf8(system->code().message());
   }

@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include "platform/boxes.h"
@@ -24,6 +25,10 @@ void ReportFailure(const FailureBox& box, std::string_view code, std::string_vie
 
 // The system's own words for an escaped exception.
 [[nodiscard]] Text DescribeFailure(const std::exception& failure);
+
+// Ends a routine as the system would: with an error that the system has words for, in the user's
+// own language. A failure never carries words of this program.
+[[noreturn]] void ThrowSystemError(std::errc error);
 
 // Runs `body`; true if it came to its end.
 template <class Body>

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <optional>
-#include <system_error>
 
 namespace kelvora {
 namespace {
@@ -37,7 +36,7 @@ void RunProgram(Program& program, std::string_view command_line) {
     const CommandLine command = SplitCommandLine(command_line);
     const std::string folder = std::filesystem::path(command.program).parent_path().string();
     if (!program.platform.opener.Start(command, folder)) {
-      throw std::system_error(std::make_error_code(std::errc::no_such_file_or_directory));
+      ThrowSystemError(std::errc::no_such_file_or_directory);
     }
   });
 }

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <stdexcept>
+
+#include "core/failure.h"
 
 namespace kelvora {
 
@@ -13,7 +14,7 @@ namespace {
 std::array<int, 3> PairsOf(std::string_view digits) {
   const bool six_digits = digits.size() == 6 &&
                           std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
-  if (!six_digits) throw std::invalid_argument("Not a date: " + Utf8FromText(digits));
+  if (!six_digits) ThrowSystemError(std::errc::invalid_argument);
   const auto pair = [digits](std::size_t at) {
     return (digits[at] - '0') * 10 + (digits[at + 1] - '0');
   };
@@ -34,7 +35,7 @@ int DaysOfYearMonthDay(std::string_view text) {
   const auto [years, months, days] = PairsOf(text);
   const year_month_day date{year(2000 + years), month(static_cast<unsigned>(months)),
                             day(static_cast<unsigned>(days))};
-  if (!date.ok()) throw std::invalid_argument("Not a date: " + Utf8FromText(text));
+  if (!date.ok()) ThrowSystemError(std::errc::invalid_argument);
   return static_cast<int>(sys_days(date).time_since_epoch().count());
 }
 

@@ -16,15 +16,15 @@ struct StoredDate {
 };
 
 // Takes a stored date apart; marks and blanks between the digits don't matter. Throws
-// std::invalid_argument if six digits are not what is left.
+// std::system_error if six digits are not what is left.
 [[nodiscard]] StoredDate ParseStoredDate(std::string_view text);
 
 // The date as users of the unit system (`opt_system`) write it: "mm-dd-yy" for "1", "dd-mm-yy"
-// otherwise. An empty text stays empty. Throws std::invalid_argument.
+// otherwise. An empty text stays empty. Throws std::system_error.
 [[nodiscard]] Text FormatStoredDate(std::string_view text, std::string_view opt_system);
 
 // The days since a fixed one of the date written as yymmdd, of the years 2000 to 2099. Throws
-// std::invalid_argument for anything that is no date.
+// std::system_error for anything that is no date.
 [[nodiscard]] int DaysOfYearMonthDay(std::string_view text);
 
 // The order in which the system writes a long date.

@@ -5,7 +5,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <stdexcept>
+
+#include "core/failure.h"
 
 namespace kelvora {
 namespace {
@@ -24,12 +25,12 @@ struct Decimal {
 // The value rounded to `significant` digits, halves to even, without trailing zeros.
 template <class Number>
 Decimal NearestDecimal(Number value, int significant) {
-  if (!std::isfinite(value)) throw std::domain_error("Overflow");
+  if (!std::isfinite(value)) ThrowSystemError(std::errc::result_out_of_range);
   std::array<char, 352> buffer;
   const auto [end, error] =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                     std::chars_format::scientific, significant - 1);
-  if (error != std::errc()) throw std::domain_error("Overflow");
+  if (error != std::errc()) ThrowSystemError(std::errc::result_out_of_range);
   const std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
   const std::size_t mark = written.find('e');
 
@@ -166,7 +167,7 @@ double ReadStoredNumber(std::string_view text) {
 
 float Single(double value) {
   const auto single = static_cast<float>(value);
-  if (!std::isfinite(single)) throw std::domain_error("Overflow");
+  if (!std::isfinite(single)) ThrowSystemError(std::errc::result_out_of_range);
   return single;
 }
 
@@ -179,7 +180,7 @@ float RoundTo(float value, int decimals) {
   const auto [end, error] =
       std::from_chars(written.data(), written.data() + written.size(), result);
   if (error == std::errc::result_out_of_range && rounded.exponent > 0) {
-    throw std::domain_error("Overflow");
+    ThrowSystemError(std::errc::result_out_of_range);
   }
   return rounded.negative ? -result : result;
 }

@@ -2,7 +2,7 @@
 // whoever wrote them.
 //
 // Reading never fails and never asks the locale. Writing takes the locale's decimal separator from
-// the caller and throws std::domain_error for infinity and not-a-number. Nothing here knows units.
+// the caller and throws std::system_error for infinity and not-a-number. Nothing here knows units.
 #pragma once
 
 #include <string_view>
@@ -21,11 +21,11 @@ namespace kelvora {
 // The text with each comma made a point.
 [[nodiscard]] Text CommaToPoint(std::string_view text);
 
-// A value held in single precision. Throws std::domain_error if it has no place there.
+// A value held in single precision. Throws std::system_error if it has no place there.
 [[nodiscard]] float Single(double value);
 
 // The exact value rounded at the given decimal place, half to even; a negative place stands before
-// the point. Throws std::domain_error for infinity and not-a-number.
+// the point. Throws std::system_error for infinity and not-a-number.
 [[nodiscard]] float RoundTo(float value, int decimals);
 
 // The shortest form of the value: at most seven (float) or fifteen (double) significant digits,

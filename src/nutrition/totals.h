@@ -23,7 +23,7 @@ struct Amounts {
 };
 
 // The sum over all lines of a list. Commas and points are the same. `fields` receives the fields of
-// each line in turn. Throws std::domain_error for a sum that a single can't hold.
+// each line in turn. Throws std::system_error for a sum that a single can't hold.
 [[nodiscard]] Amounts SumOf(const TextList& lines, TextList& fields);
 
 // The sum of three periods, morning first.

@@ -1,7 +1,6 @@
 #include "nutrition/units.h"
 
 #include <cmath>
-#include <stdexcept>
 
 #include "nutrition/dates.h"
 #include "nutrition/numbers.h"
@@ -80,7 +79,7 @@ Text Meter_To_Feet_Inch(Text& metres, HeightPart part, const UnitContext& contex
   return Convert(context, "#FF11-5", [&](const Text& separator) {
     const Text exact = Str(Normalise(metres) * double{Factor_Feet}, ".");
     const std::size_t point = exact.find('.');
-    if (point == Text::npos) throw std::domain_error("A height without feet and inches");
+    if (point == Text::npos) ThrowSystemError(std::errc::argument_out_of_domain);
     const float feet = Single(Val(exact.substr(0, point)));
     if (part == HeightPart::feet) return Str(feet, separator);
     const float inches = Single(Val("0" + exact.substr(point)) * double{Factor_Inch});
@@ -103,7 +102,7 @@ Text Bereken_BMI(Text& height, Text& weight, const UnitContext& context) {
     const float metres = Single(Normalise(height));
     const float kilograms = Single(Normalise(weight));
     const float square = Single(double{metres} * metres);
-    if (square == 0) throw std::domain_error("Division by zero");
+    if (square == 0) ThrowSystemError(std::errc::argument_out_of_domain);
     const float index = Single(double{kilograms} / square);
     return FormatNumber(index, "##.00", separator);
   });
@@ -121,7 +120,8 @@ std::optional<std::int16_t> Dagen_Tussen(std::string_view first, std::string_vie
   std::optional<std::int16_t> days;
   WithFailurePath(context.failures, "#FF11-9", [&] {
     const int between = DaysOfYearMonthDay(second) - DaysOfYearMonthDay(first);
-    if (between != static_cast<std::int16_t>(between)) throw std::overflow_error("Overflow");
+    if (between != static_cast<std::int16_t>(between))
+      ThrowSystemError(std::errc::result_out_of_range);
     days = static_cast<std::int16_t>(between);
   });
   return days;

@@ -26,7 +26,7 @@ struct UnitContext {
   FailureBox failures;
 };
 
-// Grams to ounces with one decimal at most, "3.5" or "10". Throws std::domain_error.
+// Grams to ounces with one decimal at most, "3.5" or "10". Throws std::system_error.
 [[nodiscard]] Text OuncesOfGrams(double grams, std::string_view separator);
 
 // The same for a text, under its failure code. Makes each comma of `grams` a point.

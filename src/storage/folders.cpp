@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <stdexcept>
 
 namespace kelvora {
 namespace {
@@ -102,7 +101,7 @@ void DeleteUserFolder(const Paths& paths, const std::string& path) {
   std::string_view name = std::string_view(path).substr(below ? paths.UsersPath.size() : 0);
   if (name.ends_with('/')) name.remove_suffix(1);
   if (!below || name.empty() || !CanNameAFolder(name)) {
-    throw std::invalid_argument("Not the folder of a user: " + path);
+    ThrowSystemError(std::errc::invalid_argument);
   }
   const fs::path folder = paths.UsersPath + std::string(name);
   if (fs::is_directory(fs::symlink_status(folder))) GrantAllRightsBelow(folder);

@@ -35,7 +35,7 @@ bool MakeFolder(const std::string& path);
 void MakeUserFolders(const Paths& paths, std::string_view name);
 
 // Removes the folder of one user with all its content, write-protected or not. `path` must be a
-// direct child of the users folder, or std::invalid_argument is thrown; a link is removed as a
+// direct child of the users folder, or std::system_error is thrown; a link is removed as a
 // link. Throws std::filesystem::filesystem_error.
 void DeleteUserFolder(const Paths& paths, const std::string& path);
 

@@ -6,10 +6,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
-#include <stdexcept>
 #include <system_error>
 
 #include "core/common.h"
+#include "core/failure.h"
 
 namespace kelvora {
 namespace {
@@ -24,7 +24,7 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-[[noreturn]] void ThrowSystemError(int error = errno) {
+[[noreturn]] void ThrowFileError(int error = errno) {
   throw std::system_error(error != 0 ? error : EIO, std::generic_category());
 }
 
@@ -33,11 +33,11 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 File Open(const std::string& path, const char* mode) {
   std::error_code unknown;
   const fs::file_status status = fs::status(path, unknown);
-  if (fs::is_directory(status)) ThrowSystemError(EISDIR);
-  if (fs::exists(status) && !fs::is_regular_file(status)) ThrowSystemError(EINVAL);
+  if (fs::is_directory(status)) ThrowFileError(EISDIR);
+  if (fs::exists(status) && !fs::is_regular_file(status)) ThrowFileError(EINVAL);
   errno = 0;
   File file(std::fopen(path.c_str(), mode));
-  if (file == nullptr) ThrowSystemError();
+  if (file == nullptr) ThrowFileError();
   return file;
 }
 
@@ -47,7 +47,7 @@ void ThrowIfWriteProtected(const std::string& path) {
       fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   std::error_code unknown;
   if ((fs::status(path, unknown).permissions() & kAnyWrite) == fs::perms::none) {
-    ThrowSystemError(EACCES);
+    ThrowFileError(EACCES);
   }
   Open(path, "r+b");
 }
@@ -56,10 +56,10 @@ void WriteWhole(const std::string& path, std::string_view bytes) {
   File file = Open(path, "wb");
   errno = 0;
   if (!bytes.empty() && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
-    ThrowSystemError();
+    ThrowFileError();
   }
   // Buffered bytes may meet a full disk only now.
-  if (std::fclose(file.release()) != 0) ThrowSystemError();
+  if (std::fclose(file.release()) != 0) ThrowFileError();
 }
 
 // Reads little-endian numbers and strings from the front of a file image; what lies beyond the end
@@ -97,7 +97,7 @@ void AppendNumber(std::string& out, std::size_t value, int size) {
 }
 
 void AppendString(std::string& out, std::string_view text) {
-  if (text.size() > kLongestString) throw std::length_error("The text is too long for a file");
+  if (text.size() > kLongestString) ThrowSystemError(std::errc::file_too_large);
   if (text.size() < kLongStringMark) {
     AppendNumber(out, text.size(), 2);
   } else {
@@ -136,7 +136,7 @@ std::string InputFile::ReadAll() {
   std::string bytes(static_cast<std::size_t>(std::max(size, 0L)), '\0');
   errno = 0;
   bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
-  if (std::ferror(file) != 0) ThrowSystemError();
+  if (std::ferror(file) != 0) ThrowFileError();
   return bytes;
 }
 
@@ -147,7 +147,7 @@ std::string ReadFile(const std::string& path) {
 void DeleteFileIfThere(const std::string& path) {
   while (FileExists(path)) {
     ThrowIfWriteProtected(path);
-    if (std::remove(path.c_str()) != 0) ThrowSystemError();
+    if (std::remove(path.c_str()) != 0) ThrowFileError();
   }
 }
 
@@ -181,7 +181,7 @@ std::string EncodeRecord(std::span<const Text> strings) {
 }
 
 void ThrowNoRecord() {
-  throw std::runtime_error("The file holds no record");
+  ThrowSystemError(std::errc::no_message_available);
 }
 
 }  // namespace kelvora

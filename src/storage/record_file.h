@@ -55,7 +55,7 @@ void DeleteFileIfThere(const std::string& path);
 [[nodiscard]] bool DecodeFirstRecord(std::string_view bytes, std::span<Text> strings);
 [[nodiscard]] bool DecodeFirstRecord(std::string_view bytes, std::span<std::string_view> strings);
 
-// A file image of one record. Throws std::length_error for a string of 4 GiB or more.
+// A file image of one record. Throws std::system_error for a string of 4 GiB or more.
 [[nodiscard]] std::string EncodeRecord(std::span<const Text> strings);
 
 // The first record of a file image, nothing if it counts none.
@@ -73,7 +73,7 @@ template <class AnyRecord>
 }
 
 // The first record of a file image; one that counts none leaves the record of the previous read of
-// that kind standing, and fails before any read. Throws std::runtime_error.
+// that kind standing, and fails before any read. Throws std::system_error.
 template <class AnyRecord>
 [[nodiscard]] const AnyRecord& DecodeOrKeepRecord(std::string_view bytes,
                                                   std::optional<AnyRecord>& last_read);

@@ -21,6 +21,17 @@ TEST(FailurePath, ShowsTheSystemsWordsAndTheCode) {
   EXPECT_EQ(box.buttons, BoxButtons::ok);
 }
 
+TEST(FailurePath, EveryFailureOfTheProgramItselfHasTheSystemsWordsToo) {
+  TestProgram test;
+  test.program.Guard("#FF1-9", [] { ThrowSystemError(std::errc::result_out_of_range); });
+  test.program.Guard("#FF1-9", [] { throw std::bad_alloc(); });
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "An error occured.\n\nNumerical result out of range\nBrelux CODE:#FF1-9");
+  EXPECT_EQ(test.boxes.shown[1].text,
+            "An error occured.\n\nCannot allocate memory\nBrelux CODE:#FF1-9");
+}
+
 TEST(FailurePath, SaysNothingWhenNothingFails) {
   TestProgram test;
   EXPECT_TRUE(test.program.Guard("#FF1-9", [] {}));

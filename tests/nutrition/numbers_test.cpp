@@ -67,8 +67,8 @@ TEST(Str, ASingleHasUpToSevenDigits) {
 }
 
 TEST(Str, InfinityAndNotANumberAreFailures) {
-  EXPECT_THROW((void)Str(std::numeric_limits<float>::infinity(), "."), std::domain_error);
-  EXPECT_THROW((void)Str(std::nan(""), "."), std::domain_error);
+  EXPECT_THROW((void)Str(std::numeric_limits<float>::infinity(), "."), std::system_error);
+  EXPECT_THROW((void)Str(std::nan(""), "."), std::system_error);
 }
 
 struct FormatCase {
@@ -101,16 +101,16 @@ TEST(RoundTo, TakesTheExactValueOfTheSingle) {
 }
 
 TEST(RoundTo, WhatHasNoPlaceInASingleIsAFailure) {
-  EXPECT_THROW((void)RoundTo(std::numeric_limits<float>::infinity(), 0), std::domain_error);
+  EXPECT_THROW((void)RoundTo(std::numeric_limits<float>::infinity(), 0), std::system_error);
   // 3402.8e35 goes up to 3.403e38, which no single holds.
-  EXPECT_THROW((void)RoundTo(std::numeric_limits<float>::max(), -35), std::domain_error);
+  EXPECT_THROW((void)RoundTo(std::numeric_limits<float>::max(), -35), std::system_error);
 }
 
 TEST(Single, HoldsWhatHasAPlaceThere) {
   EXPECT_EQ(Single(0.1), 0.1f);
   EXPECT_EQ(Single(-3.4e38), -3.4e38f);
-  EXPECT_THROW((void)Single(3.5e38), std::domain_error);
-  EXPECT_THROW((void)Single(std::numeric_limits<double>::quiet_NaN()), std::domain_error);
+  EXPECT_THROW((void)Single(3.5e38), std::system_error);
+  EXPECT_THROW((void)Single(std::numeric_limits<double>::quiet_NaN()), std::system_error);
 }
 
 TEST(FormatNumber, PrintsByItsPattern) {
