@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <system_error>
 #include <string>
+#include <system_error>
 
 #include "fuzz/check.h"
 #include "nutrition/numbers.h"
