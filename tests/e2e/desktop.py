@@ -21,15 +21,29 @@ class Desktop:
         self.environment = None
 
     def __enter__(self):
+        # On a busy machine a display may not come up; another one does.
+        for attempt in range(3):
+            try:
+                self.start_display()
+                return self
+            except AssertionError:
+                self.end_processes()
+                if attempt == 2:
+                    self.home.cleanup()
+                    raise
+
+    def start_display(self):
         reading, writing = os.pipe()
         self.processes.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{WIDTH}x{HEIGHT}x24"],
             pass_fds=[writing], stderr=subprocess.DEVNULL))
         os.close(writing)
         with os.fdopen(reading) as answer:
-            display = ":" + answer.readline().strip()
+            number = answer.readline().strip()
+        assert number, "the virtual display ended at once"
+        display = ":" + number
         runtime = Path(self.home.name, "run")
-        runtime.mkdir(mode=0o700)
+        runtime.mkdir(mode=0o700, exist_ok=True)
         self.environment = {
             "PATH": os.environ["PATH"], "HOME": self.home.name, "DISPLAY": display,
             "XDG_RUNTIME_DIR": str(runtime), "LANG": "C.UTF-8", "QT_SCALE_FACTOR": "1",
@@ -41,19 +55,26 @@ class Desktop:
         self.processes.append(subprocess.Popen(
             ["openbox"], env=self.environment, stderr=subprocess.DEVNULL))
         self.wait_for("a window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in
-                      self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
-        return self
+                      self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), seconds=15)
 
     def __exit__(self, failure, *_):
         if failure:
             picture = Path(tempfile.gettempdir(), f"kelvora-e2e-failure-{os.getpid()}.png")
             self.output("import", "-window", "root", str(picture))
             print("the screen at the failure:", picture)
+        self.end_processes()
+        self.home.cleanup()
+
+    def end_processes(self):
         for process in reversed(self.processes):
             if process.poll() is None:
                 process.terminate()
-                process.wait(timeout=10)
-        self.home.cleanup()
+                try:
+                    process.wait(timeout=10)
+                except subprocess.TimeoutExpired:
+                    process.kill()
+                    process.wait()
+        self.processes.clear()
 
     def start(self, program, locale="C.UTF-8", first_run=False):
         """Starts the program under a locale, waits for its main window, answers the first run."""
@@ -66,8 +87,11 @@ class Desktop:
         return process
 
     def output(self, *command):
-        return subprocess.run(command, env=self.environment, check=False, text=True,
-                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+        try:
+            return subprocess.run(command, env=self.environment, check=False, text=True, timeout=30,
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+        except subprocess.TimeoutExpired:
+            return ""
 
     def wait_for(self, what, condition, seconds=30):
         end = time.monotonic() + seconds
