@@ -26,6 +26,7 @@ constexpr std::array kServed = {
     CommandRow{Command::mnu_new, Needs::nothing},
     CommandRow{Command::mnu_browse, Needs::nothing},
     CommandRow{Command::mnu_bestand_opslaan, Needs::changed_day},
+    CommandRow{Command::mnu_properties, Needs::nothing},
     CommandRow{Command::mnu_bestand_sluiten, Needs::nothing},
     CommandRow{Command::mnu_in_ochtend, Needs::day},
     CommandRow{Command::mnu_in_middag, Needs::day},
@@ -106,6 +107,8 @@ void RunCommand(Program& program, Command command) {
       return program.windows.core->OpenWindow(WindowId::browser);
     case Command::mnu_bestand_opslaan:
       return SaveDay(program);
+    case Command::mnu_properties:
+      return program.windows.core->OpenSettings();
     case Command::quick_default:
       ShowDefaultScreens(program);
       program.settings[Setting::chk_all_screens] = "0";

@@ -222,8 +222,9 @@ void MainWindow::OpenWindow(WindowId id) {
   }
 }
 
-// The settings have no dialog yet.
-void MainWindow::OpenSettings() {}
+void MainWindow::OpenSettings() {
+  if (program_.windows.properties == nullptr) ShowSettingsDialog(program_, this);
+}
 
 void MainWindow::OpenConsumption(DayPart part, const char* icon) {
   OpenChild(WindowOf(part), new ConsumptionWindow(program_, part, area_), icon,

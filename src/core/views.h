@@ -71,6 +71,15 @@ struct BrowserView : WindowView {
   virtual void Refresh_Files() = 0;
 };
 
+struct MultiDayView : WindowView {
+  virtual void Refresh_Meerdaagsuittreksel() = 0;
+};
+
+struct WizardView : WindowView {
+  // Ticks or unticks its checkbox for coming up at start.
+  virtual void SetShowAtStart(bool) = 0;
+};
+
 // The main window.
 struct CoreView {
   virtual ~CoreView() = default;
@@ -96,11 +105,11 @@ struct OpenWindows {
   WindowView* day_settings = nullptr;
   BrowserView* browser = nullptr;
   DaySummaryView* day_summary = nullptr;
-  WindowView* multi_day = nullptr;
+  MultiDayView* multi_day = nullptr;
   WindowView* diary = nullptr;
   WindowView* comparison = nullptr;
   WindowView* food_details = nullptr;
-  WindowView* wizard = nullptr;
+  WizardView* wizard = nullptr;
   WindowView* properties = nullptr;  // the settings dialog
   WindowView* export_html = nullptr;
   GeometryRecords geometry;

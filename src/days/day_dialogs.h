@@ -13,4 +13,7 @@ void ShowDaySettingsDialog(Program& program, QWidget* parent);
 // Shows KV_browsefiles over `parent` and returns when it is closed.
 void ShowBrowserDialog(Program& program, QWidget* parent);
 
+// Shows KV_properties over `parent` and returns when it is closed.
+void ShowSettingsDialog(Program& program, QWidget* parent);
+
 }  // namespace kelvora

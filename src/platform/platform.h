@@ -5,10 +5,12 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/events.h"
+#include "platform/folder_chooser.h"
 #include "platform/folders.h"
 #include "platform/locale.h"
 #include "platform/opener.h"
 #include "platform/pointer.h"
+#include "platform/printers.h"
 #include "platform/screen.h"
 
 namespace kelvora {
@@ -22,6 +24,8 @@ struct Platform {
   Screen& screen;
   Events& events;
   Opener& opener;
+  Printers& printers;
+  FolderChooser& folder_chooser;
 };
 
 }  // namespace kelvora

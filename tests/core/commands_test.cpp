@@ -34,8 +34,8 @@ TEST(Commands, WithoutUserAndDayOnlyWhatNeedsNeitherWorks) {
   for (const MenuRow& row : MainMenu()) {
     if (CommandEnabled(test.program, row.command)) enabled.push_back(row.name);
   }
-  EXPECT_EQ(enabled, (std::vector<std::string_view>{"mnu_new", "mnu_browse", "mnu_bestand_sluiten",
-                                                    "mnu_reset_taal"}));
+  EXPECT_EQ(enabled, (std::vector<std::string_view>{"mnu_new", "mnu_browse", "mnu_properties",
+                                                    "mnu_bestand_sluiten", "mnu_reset_taal"}));
   EXPECT_TRUE(MenuEnabled(test.program, "mnu_bestand"));
   for (const char* menu :
        {"mnu_consumpties", "mnu_opties", "mnu_resultaten", "mnu_tabellen", "mnu_exporteer"}) {

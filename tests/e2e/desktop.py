@@ -10,6 +10,7 @@ import time
 from pathlib import Path
 
 WIDTH, HEIGHT = 1024, 768
+SETTINGS_TITLE = "^Kelvora FOOD settings$"
 
 
 class Desktop:
@@ -77,13 +78,18 @@ class Desktop:
         self.processes.clear()
 
     def start(self, program, locale="C.UTF-8", first_run=False):
-        """Starts the program under a locale, waits for its main window, answers the first run."""
+        """Starts the program under a locale, waits for its main window, answers the first run:
+        the box, then the settings, which Return saves as they stand."""
         process = subprocess.Popen([program], env=self.environment | {"LANG": locale})
         self.processes.append(process)
         self.window("^Kelvora FOOD$")
         self.settle()
         if first_run:
             self.keys("Return")
+            self.window(SETTINGS_TITLE)
+            self.keys("Return")
+            self.no_window(SETTINGS_TITLE)
+            self.settle()
         return process
 
     def output(self, *command):

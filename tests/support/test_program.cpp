@@ -41,6 +41,13 @@ bool RecordingOpener::Start(const CommandLine& command, const std::string& folde
   return starts;
 }
 
+std::optional<std::string> RecordingFolderChooser::Choose(const Text& prompt,
+                                                          const std::string& start) {
+  prompts.push_back(prompt);
+  starts.push_back(start);
+  return answer;
+}
+
 TemporaryFolder::TemporaryFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "kelvora-XXXXXX").string();
   if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");

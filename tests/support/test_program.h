@@ -64,6 +64,19 @@ struct RecordingOpener : Opener {
   bool Start(const CommandLine& command, const std::string& folder) override;
 };
 
+struct ListedPrinters : Printers {
+  std::vector<Text> names;
+  std::vector<Text> Names() const override { return names; }
+};
+
+// Chooses `answer`; remembers what it was asked with.
+struct RecordingFolderChooser : FolderChooser {
+  std::optional<std::string> answer;
+  std::vector<Text> prompts;
+  std::vector<std::string> starts;
+  std::optional<std::string> Choose(const Text& prompt, const std::string& start) override;
+};
+
 // A folder of its own below the system's temporary folder, gone with its content at the end.
 class TemporaryFolder {
  public:
@@ -90,8 +103,9 @@ struct RecordingCore : CoreView {
   std::vector<WindowId> opened;
   int updates = 0;
   int settings_opened = 0;
+  int toolbar_texts_set = 0;
   void Set_Taal() override {}
-  void Set_toolbar_teksten() override {}
+  void Set_toolbar_teksten() override { ++toolbar_texts_set; }
   void ShowMainWindow() override {}
   void BringToFront() override {}
   void UpdateStatusBar() override {}
@@ -117,7 +131,10 @@ class TestProgram {
   FixedScreen screen;
   CountingEvents events;
   RecordingOpener opener;
-  Platform platform{boxes, pointer, locale, folders, clock, screen, events, opener};
+  ListedPrinters printers;
+  RecordingFolderChooser folder_chooser;
+  Platform platform{boxes,  pointer, locale, folders,  clock,
+                    screen, events,  opener, printers, folder_chooser};
   RecordingCore core;
   Program program{platform};
 

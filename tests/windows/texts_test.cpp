@@ -22,6 +22,7 @@
 #include "core/main_window.h"
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
+#include "days/settings_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "platform/qt/text.h"
@@ -99,9 +100,15 @@ void CollectTexts(const QWidget& widget, std::vector<Shown>& shown) {
   if (const auto* bar = qobject_cast<const QStatusBar*>(&widget)) add(bar->currentMessage());
   if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) add(edit->placeholderText());
   if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
-    for (int i = 0; i < tabs->count(); ++i) add(tabs->tabText(i));
+    for (int i = 0; i < tabs->count(); ++i) {
+      add(tabs->tabText(i));
+      add(tabs->tabToolTip(i));
+    }
   }
   if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+    add(combo->placeholderText());
+    // The names of files and printers are data.
+    if (combo->objectName() == QStringLiteral("Combo_taal")) return;
     for (int i = 0; i < combo->count(); ++i) add(combo->itemText(i));
   }
   if (const auto* table = qobject_cast<const QTableView*>(&widget); table && table->model()) {
@@ -191,6 +198,14 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(day_settings, kSquare), 30u);
   const BrowserDialog browser(program, nullptr);
   EXPECT_GT(ExpectFromTables(browser, kSquare), 20u);
+  const SettingsDialog settings(program, nullptr);
+  EXPECT_GT(ExpectFromTables(settings, kSquare), 60u);
+}
+
+TEST_F(WindowTexts, AnotherLanguageReachesEveryTextOfTheOpenSettings) {
+  const SettingsDialog settings(program, nullptr);
+  Choose("curly.lsf", "{}");
+  EXPECT_GT(ExpectFromTables(settings, kCurly), 60u);
 }
 
 // A window with a word of its own is what these tests are there to find.

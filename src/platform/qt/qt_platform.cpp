@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
@@ -171,6 +172,19 @@ bool QtOpener::Start(const CommandLine& command, const std::string& folder) {
   }
   return QProcess::startDetached(QString::fromStdString(command.program), arguments,
                                  QString::fromStdString(folder));
+}
+
+std::vector<Text> QtPrinters::Names() const {
+  std::vector<Text> names;
+  for (const QString& name : QPrinterInfo::availablePrinterNames()) names.push_back(FromQt(name));
+  return names;
+}
+
+std::optional<std::string> QtFolderChooser::Choose(const Text& prompt, const std::string& start) {
+  const QString folder = QFileDialog::getExistingDirectory(
+      QApplication::activeWindow(), ToQt(prompt), QString::fromStdString(start));
+  if (folder.isEmpty()) return std::nullopt;
+  return folder.toStdString();
 }
 
 void QtEvents::Yield() {

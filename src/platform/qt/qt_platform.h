@@ -1,4 +1,5 @@
-// The real outside: Qt's boxes, pointer, locale, folders, clock, screen and event loop.
+// The real outside: Qt's boxes, pointer, locale, folders, clock, screen, event loop, printers and
+// folder chooser.
 #pragma once
 
 #include <QElapsedTimer>
@@ -63,6 +64,16 @@ class QtOpener : public Opener {
   bool Start(const CommandLine& command, const std::string& folder) override;
 };
 
+class QtPrinters : public Printers {
+ public:
+  std::vector<Text> Names() const override;
+};
+
+class QtFolderChooser : public FolderChooser {
+ public:
+  std::optional<std::string> Choose(const Text& prompt, const std::string& start) override;
+};
+
 // All of them together, made once.
 class QtPlatform {
  public:
@@ -77,7 +88,10 @@ class QtPlatform {
   QtScreenSize screen_;
   QtEvents events_;
   QtOpener opener_;
-  Platform platform_{boxes_, pointer_, locale_, folders_, clock_, screen_, events_, opener_};
+  QtPrinters printers_;
+  QtFolderChooser folder_chooser_;
+  Platform platform_{boxes_,  pointer_, locale_, folders_,  clock_,
+                     screen_, events_,  opener_, printers_, folder_chooser_};
 };
 
 }  // namespace kelvora

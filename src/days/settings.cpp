@@ -1,0 +1,155 @@
+#include "days/settings.h"
+
+#include <algorithm>
+#include <array>
+
+#include "internet/servers.h"
+#include "language/choose_language.h"
+#include "language/properties_texts.h"
+#include "nutrition/totals.h"
+#include "storage/folders.h"
+#include "storage/settings_file.h"
+
+namespace kelvora {
+namespace {
+
+using namespace properties_text;
+
+struct TickRow {
+  Setting setting;
+  bool SettingsForm::*tick;
+};
+constexpr std::array kTicks = {
+    TickRow{Setting::chk_wiz, &SettingsForm::chk_wiz},
+    TickRow{Setting::chk_profiel, &SettingsForm::chk_profiel},
+    TickRow{Setting::chk_map, &SettingsForm::chk_map},
+    TickRow{Setting::chk_apply, &SettingsForm::chk_apply},
+    TickRow{Setting::chk_export, &SettingsForm::chk_export},
+    TickRow{Setting::chk_all_screens, &SettingsForm::chk_all_screens},
+    TickRow{Setting::chk_internet, &SettingsForm::chk_internet},
+    TickRow{Setting::chk_addinternet, &SettingsForm::chk_addinternet},
+    TickRow{Setting::chk_help, &SettingsForm::chk_help},
+};
+
+struct TextSettingRow {
+  Setting setting;
+  Text SettingsForm::*text;
+};
+constexpr std::array kTexts = {
+    TextSettingRow{Setting::Combo_taal, &SettingsForm::Combo_taal},
+    TextSettingRow{Setting::opt_system, &SettingsForm::opt_system},
+    TextSettingRow{Setting::combo_printer, &SettingsForm::combo_printer},
+    TextSettingRow{Setting::opt_gramoz, &SettingsForm::opt_gramoz},
+    TextSettingRow{Setting::txt_map, &SettingsForm::txt_map},
+    TextSettingRow{Setting::opt_server, &SettingsForm::opt_server},
+};
+
+Text FlagOf(bool tick) {
+  return tick ? "1" : "0";
+}
+
+// The folder as a setting: with its closing "/". A character that the settings can't hold would
+// point to another folder.
+Text SettingOfFolder(std::string_view path) {
+  Text folder = TextFromUtf8(path);
+  if (Utf8FromText(folder) != path) ThrowSystemError(std::errc::illegal_byte_sequence);
+  if (!folder.ends_with('/')) folder += '/';
+  return folder;
+}
+
+// Tells what the form lacks; false if it lacks something.
+bool IsComplete(Program& program, const SettingsForm& form) {
+  if (form.Combo_taal.empty()) {
+    Tell(program, BoxIcon::warning, program.texts[kNoLanguage]);
+    return false;
+  }
+  if (form.chk_map && form.txt_map.empty()) {
+    Tell(program, BoxIcon::warning, JoinLines(program.texts, {kNoFolder, kNoFolderAdvice}));
+    return false;
+  }
+  return true;
+}
+
+void CopyToSettings(const SettingsForm& form, Rec_Settings& settings) {
+  for (const auto& [setting, tick] : kTicks) settings[setting] = FlagOf(form.*tick);
+  for (const auto& [setting, text] : kTexts) settings[setting] = form.*text;
+}
+
+// Units may have changed.
+void RefreshAmounts(Program& program) {
+  if (program.store.DayIsOpen()) Refresh_Totalen(program);
+  if (program.windows.multi_day != nullptr) {
+    program.windows.multi_day->Refresh_Meerdaagsuittreksel();
+  }
+  for (ConsumptionView* const window : program.windows.consumption) {
+    if (window != nullptr) window->Refresh_Consumpties();
+  }
+}
+
+}  // namespace
+
+SettingsForm FormOfSettings(const Program& program) {
+  SettingsForm form;
+  for (const auto& [setting, tick] : kTicks) form.*tick = program.settings[setting] == "1";
+  for (const auto& [setting, text] : kTexts) form.*text = program.settings[setting];
+  FollowInternet(form);
+  return form;
+}
+
+void FollowInternet(SettingsForm& form) {
+  if (!form.chk_internet) form.chk_addinternet = false;
+}
+
+EnabledControls EnabledIn(const SettingsForm& form) {
+  return {.cmd_browse = form.chk_map,
+          .chk_addinternet = form.chk_internet,
+          .opt_server = form.chk_internet};
+}
+
+std::vector<Text> WithChosen(std::vector<Text> names, const Text& chosen) {
+  if (!chosen.empty() && std::ranges::find(names, chosen) == names.end()) names.push_back(chosen);
+  return names;
+}
+
+void ShowHelp(Program& program, bool shown) {
+  program.settings[Setting::chk_help] = FlagOf(shown);
+  if (program.windows.core != nullptr) program.windows.core->Set_toolbar_teksten();
+}
+
+void FollowInWizard(const Program& program, const SettingsForm& form) {
+  if (program.windows.wizard != nullptr) program.windows.wizard->SetShowAtStart(form.chk_wiz);
+}
+
+void TakeLanguage(Program& program, SettingsForm& form, std::string_view name) {
+  if (form.Combo_taal == name) return;
+  form.Combo_taal = name;
+  program.Guard("#F8-0", [&] {
+    ChooseLanguage(program, form.Combo_taal);
+    if (program.windows.day_settings != nullptr) program.windows.day_settings->Set_Taal();
+    program.settings[Setting::Combo_taal] = form.Combo_taal;
+  });
+}
+
+void BrowseForFolder(Program& program, SettingsForm& form) {
+  program.Guard("#F8-1", [&] {
+    const std::string start =
+        form.txt_map.empty() ? program.paths.UsersPath : Utf8FromText(form.txt_map);
+    const auto chosen = program.platform.folder_chooser.Choose(program.texts[kBrowsePrompt], start);
+    if (chosen) form.txt_map = SettingOfFolder(*chosen);
+  });
+}
+
+bool Save_From_Form(Program& program, const SettingsForm& form) {
+  if (!IsComplete(program, form)) return false;
+  return program.Guard("#F8-2", [&] {
+    CopyToSettings(form, program.settings);
+    program.paths.UsersPath = DefaultUsersPath(program.platform.folders);
+    ApplyAlternativeUsersFolder(program);
+    Zet_Server_Adressen(program);
+    Save_Settings(program);
+    RefreshAmounts(program);
+    if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
+  });
+}
+
+}  // namespace kelvora

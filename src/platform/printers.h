@@ -1,0 +1,17 @@
+// The printers of the user's system.
+#pragma once
+
+#include <vector>
+
+#include "core/text.h"
+
+namespace kelvora {
+
+class Printers {
+ public:
+  virtual ~Printers() = default;
+  // The device names, in the system's order; asked anew each time.
+  [[nodiscard]] virtual std::vector<Text> Names() const = 0;
+};
+
+}  // namespace kelvora
