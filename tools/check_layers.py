@@ -15,7 +15,9 @@ INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
 WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 
 # A file may include files of its own rank or a lower one. The text tables and their names are
-# data that every layer addresses; the whole of core but these top files lies below the rest.
+# data that every layer addresses; the whole of core but these top files lies below the rest; the
+# wizard, which gives commands, stands at the top as well.
+TOP_OF_DAYS = {"wizard", "wizard_dialog"}
 TOP_OF_CORE = {"startup", "load_settings", "commands", "command_tables", "main_window", "child_area_panel"}
 BOTTOM_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry"}
 RANK_OF_FOLDER = {
@@ -30,6 +32,8 @@ def rank(path: str) -> int:
     if folder == "core" and stem in BOTTOM_OF_CORE:
         return 0
     if folder == "core" and stem in TOP_OF_CORE or path == "main.cpp":
+        return 5
+    if folder == "days" and stem in TOP_OF_DAYS:
         return 5
     if folder == "language" and (stem == "tables" or stem.endswith("_texts")):
         return 0

@@ -23,6 +23,7 @@ struct CommandRow {
 
 // The commands that this program can carry out so far; all others stay disabled.
 constexpr std::array kServed = {
+    CommandRow{Command::mnu_startupwizzard, Needs::nothing},
     CommandRow{Command::mnu_new, Needs::nothing},
     CommandRow{Command::mnu_browse, Needs::nothing},
     CommandRow{Command::mnu_bestand_opslaan, Needs::changed_day},
@@ -36,6 +37,7 @@ constexpr std::array kServed = {
     CommandRow{Command::quick_default, Needs::day},
     CommandRow{Command::quick_reset, Needs::nothing},
     CommandRow{Command::mnu_reset_taal, Needs::nothing},
+    CommandRow{Command::mnu_about, Needs::nothing},
 };
 
 struct WindowCommand {
@@ -101,6 +103,8 @@ void RunCommand(Program& program, Command command) {
   const auto toggle = std::ranges::find(kToggles, command, &WindowCommand::command);
   if (toggle != kToggles.end()) return ToggleWindow(program, toggle->window);
   switch (command) {
+    case Command::mnu_startupwizzard:
+      return program.windows.core->OpenWindow(WindowId::wizard);
     case Command::mnu_new:
       return BeginNewDay(program);
     case Command::mnu_browse:
@@ -117,6 +121,8 @@ void RunCommand(Program& program, Command command) {
       return ResetScreens(program);
     case Command::mnu_reset_taal:
       return RepairLanguageFiles(program);
+    case Command::mnu_about:
+      return program.windows.core->ShowAbout();
     default:
       return;
   }

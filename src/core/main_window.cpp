@@ -9,6 +9,7 @@
 #include "core/child_area_panel.h"
 #include "core/common.h"
 #include "days/day_dialogs.h"
+#include "days/popup.h"
 #include "food/consumption_window.h"
 #include "food/food_lists_window.h"
 #include "platform/qt/look.h"
@@ -200,6 +201,8 @@ MainWindowSize MainWindow::Size() const {
 void MainWindow::OpenWindow(WindowId id) {
   if (program_.windows.Find(id) != nullptr) return;
   switch (id) {
+    case WindowId::wizard:
+      return ShowWizardDialog(program_, this);
     case WindowId::day_settings:
       return ShowDaySettingsDialog(program_, this);
     case WindowId::browser:
@@ -212,7 +215,6 @@ void MainWindow::OpenWindow(WindowId id) {
       return OpenConsumption(DayPart::afternoon, "afternoon");
     case WindowId::evening:
       return OpenConsumption(DayPart::evening, "evening");
-    case WindowId::wizard:
     case WindowId::day_summary:
     case WindowId::food_details:
     case WindowId::multi_day:
@@ -224,6 +226,14 @@ void MainWindow::OpenWindow(WindowId id) {
 
 void MainWindow::OpenSettings() {
   if (program_.windows.properties == nullptr) ShowSettingsDialog(program_, this);
+}
+
+void MainWindow::ShowSplash() {
+  ShowPopup(program_, kSplashMode, this);
+}
+
+void MainWindow::ShowAbout() {
+  ShowPopup(program_, kAboutMode, this);
 }
 
 void MainWindow::OpenConsumption(DayPart part, const char* icon) {

@@ -34,6 +34,8 @@ class MainWindow : public QMainWindow, public CoreView {
   [[nodiscard]] MainWindowSize Size() const override;
   void OpenWindow(WindowId id) override;
   void OpenSettings() override;
+  void ShowSplash() override;
+  void ShowAbout() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -5,6 +5,7 @@
 #include "core/arrangement.h"
 #include "core/environment.h"
 #include "core/load_settings.h"
+#include "days/wizard.h"
 #include "internet/servers.h"
 #include "language/language_file.h"
 #include "nutrition/numbers.h"
@@ -19,8 +20,9 @@ void CaptureSeparator(Program& program) {
   program.StartSeparator = program.platform.locale.DecimalSeparator();
 }
 
-// The splash has no window yet.
-void ShowSplash(Program&) {}
+void ShowSplash(Program& program) {
+  program.windows.core->ShowSplash();
+}
 
 void ShowMainWindow(Program& program) {
   program.windows.core->ShowMainWindow();
@@ -51,8 +53,9 @@ void BringMainWindowForward(Program& program) {
   program.windows.core->BringToFront();
 }
 
-// The wizard has no window yet.
-void ShowWizard(Program&) {}
+void ShowWizard(Program& program) {
+  if (WizardShownAtStart(program)) program.windows.core->OpenWindow(WindowId::wizard);
+}
 
 void CountStart(Program& program) {
   Text& count = program.settings[Setting::StartCount];

@@ -96,6 +96,10 @@ struct CoreView {
   virtual void OpenWindow(WindowId id) = 0;
   // Shows the settings dialog modally; returns when it is gone.
   virtual void OpenSettings() = 0;
+  // Shows the splash, which ends by itself; returns at once.
+  virtual void ShowSplash() = 0;
+  // Shows the About window modally; returns when it is gone.
+  virtual void ShowAbout() = 0;
 };
 
 struct OpenWindows {

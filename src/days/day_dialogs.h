@@ -1,6 +1,8 @@
 // Makes the modal windows of this room for the main window, which knows nothing more of them.
 #pragma once
 
+#include <string_view>
+
 class QWidget;
 
 namespace kelvora {
@@ -15,5 +17,11 @@ void ShowBrowserDialog(Program& program, QWidget* parent);
 
 // Shows KV_properties over `parent` and returns when it is closed.
 void ShowSettingsDialog(Program& program, QWidget* parent);
+
+// Shows KV_wizzard over `parent` and returns when it is closed.
+void ShowWizardDialog(Program& program, QWidget* parent);
+
+// Shows KV_popup over `parent`. About returns when it is closed, the splash at once.
+void ShowPopup(Program& program, std::string_view PopupMode, QWidget* parent);
 
 }  // namespace kelvora

@@ -34,8 +34,9 @@ TEST(Commands, WithoutUserAndDayOnlyWhatNeedsNeitherWorks) {
   for (const MenuRow& row : MainMenu()) {
     if (CommandEnabled(test.program, row.command)) enabled.push_back(row.name);
   }
-  EXPECT_EQ(enabled, (std::vector<std::string_view>{"mnu_new", "mnu_browse", "mnu_properties",
-                                                    "mnu_bestand_sluiten", "mnu_reset_taal"}));
+  EXPECT_EQ(enabled, (std::vector<std::string_view>{"mnu_startupwizzard", "mnu_new", "mnu_browse",
+                                                    "mnu_properties", "mnu_bestand_sluiten",
+                                                    "mnu_reset_taal", "mnu_about"}));
   EXPECT_TRUE(MenuEnabled(test.program, "mnu_bestand"));
   for (const char* menu :
        {"mnu_consumpties", "mnu_opties", "mnu_resultaten", "mnu_tabellen", "mnu_exporteer"}) {
@@ -67,6 +68,16 @@ TEST(Commands, ADisabledCommandDoesNothing) {
   TestProgram test;
   RunCommand(test.program, Command::mnu_in_ochtend);
   EXPECT_TRUE(test.core.opened.empty());
+}
+
+TEST(Commands, TheWizardAndAboutComeUp) {
+  TestProgram test;
+  RunCommand(test.program, Command::mnu_startupwizzard);
+  EXPECT_EQ(test.core.opened, std::vector<WindowId>{WindowId::wizard});
+  EXPECT_EQ(test.core.abouts, 0);
+  RunCommand(test.program, Command::mnu_about);
+  EXPECT_EQ(test.core.abouts, 1);
+  EXPECT_EQ(test.core.opened.size(), 1u);
 }
 
 TEST(Commands, AToggleOpensAClosedWindowAndClosesAnOpenOne) {

@@ -10,6 +10,50 @@
 namespace kelvora {
 namespace {
 
+// Notes what comes up in which order, and how often the program had started by its settings then.
+struct OrderedCore : RecordingCore {
+  explicit OrderedCore(const Program& all) : program(all) {}
+  void ShowSplash() override { Note("splash"); }
+  void ShowMainWindow() override { Note("main window"); }
+  void OpenSettings() override { Note("settings"); }
+  void BringToFront() override { Note("to front"); }
+  void OpenWindow(WindowId id) override { Note(id == WindowId::wizard ? "wizard" : "other"); }
+  void Note(const char* what) {
+    shown.emplace_back(what);
+    starts.push_back(program.settings[Setting::StartCount]);
+  }
+  const Program& program;
+  std::vector<std::string> shown;
+  std::vector<Text> starts;
+};
+
+TEST(StartUp, TheSplashComesFirstAndTheWizardLastButTheCount) {
+  TestProgram machine(Machine::bare);
+  OrderedCore core(machine.program);
+  machine.program.windows.core = &core;
+  StartUp(machine.program);
+  // A first start shows the main window once more for its settings.
+  EXPECT_EQ(core.shown, (std::vector<std::string>{"splash", "main window", "main window",
+                                                  "settings", "to front", "wizard"}));
+  EXPECT_EQ(core.starts.back(), "0");
+  EXPECT_EQ(machine.program.settings[Setting::StartCount], "1");
+}
+
+TEST(StartUp, TheWizardStaysAwayUnlessItsSettingIsOne) {
+  for (const auto& [setting, comes] :
+       {std::pair{"1", true}, std::pair{"0", false}, std::pair{"yes", false}}) {
+    TestProgram machine(Machine::bare);
+    std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
+    Rec_Settings settings;
+    settings[Setting::chk_wiz] = setting;
+    WriteRecord(machine.folders.ApplicationData() + "/Brelux/kvfset.dat", settings);
+    StartUp(machine.program);
+    EXPECT_EQ(machine.core.opened == std::vector<WindowId>{WindowId::wizard}, comes) << setting;
+    EXPECT_EQ(machine.core.opened.empty(), !comes) << setting;
+    EXPECT_EQ(machine.core.splashes, 1);
+  }
+}
+
 TEST(StartUp, AFirstStartMakesFoldersLanguagesAndSettings) {
   TestProgram machine(Machine::bare);
   StartUp(machine.program);

@@ -12,6 +12,9 @@ from pathlib import Path
 WIDTH, HEIGHT = 1024, 768
 SETTINGS_TITLE = "^Kelvora FOOD settings$"
 
+SPLASH = r"^Kelvora FOOD [0-9]+\.[0-9]+$"
+WIZARD = "^(Kelvora FOOD wizard|Wizard van Kelvora FOOD)$"
+
 
 class Desktop:
     """The display with its window manager; use it as a context manager."""
@@ -78,11 +81,14 @@ class Desktop:
         self.processes.clear()
 
     def start(self, program, locale="C.UTF-8", first_run=False):
-        """Starts the program under a locale, waits for its main window, answers the first run:
-        the box, then the settings, which Return saves as they stand."""
+        """Starts the program under a locale, waits for its main window and the end of the splash,
+        answers the first run (the box, then the settings, which Return saves as they stand) and
+        closes the wizard."""
         process = subprocess.Popen([program], env=self.environment | {"LANG": locale})
         self.processes.append(process)
         self.window("^Kelvora FOOD$")
+        # The splash plays until its own end, whatever else is up.
+        self.no_window(SPLASH)
         self.settle()
         if first_run:
             self.keys("Return")
@@ -90,6 +96,10 @@ class Desktop:
             self.keys("Return")
             self.no_window(SETTINGS_TITLE)
             self.settle()
+        self.window(WIZARD)
+        self.settle()
+        self.keys("Escape")
+        self.no_window(WIZARD)
         return process
 
     def output(self, *command):

@@ -37,6 +37,10 @@ struct ListeningLists : Listening<FoodListsView> {
   void Populate_Food_List_Custom() override {}
   void Populate_Food_List_Favo() override {}
 };
+struct ListeningWizard : Listening<WizardView> {
+  using Listening::Listening;
+  void SetShowAtStart(bool) override {}
+};
 struct ListeningConsumption : Listening<ConsumptionView> {
   using Listening::Listening;
   void Refresh_Consumpties() override {}
@@ -51,10 +55,6 @@ struct ListeningCore : RecordingCore {
 struct ListeningMultiDay : Listening<MultiDayView> {
   using Listening::Listening;
   void Refresh_Meerdaagsuittreksel() override {}
-};
-struct ListeningWizard : Listening<WizardView> {
-  using Listening::Listening;
-  void SetShowAtStart(bool) override {}
 };
 
 class Language : public testing::Test {
@@ -76,8 +76,8 @@ TEST_F(Language, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder)
       diary("diary", notes), comparison("comparison", notes), day_settings("day settings", notes),
       export_html("export", notes);
   ListeningMultiDay multi_day("multi-day", notes);
-  ListeningWizard wizard("wizard", notes);
   ListeningBrowser browser("browser", notes);
+  ListeningWizard wizard("wizard", notes);
   ListeningSummary summary("summary", notes);
   ListeningLists lists("lists", notes);
   std::array consumption = {ListeningConsumption("morning", notes),

@@ -104,6 +104,8 @@ struct RecordingCore : CoreView {
   int updates = 0;
   int settings_opened = 0;
   int toolbar_texts_set = 0;
+  int splashes = 0;
+  int abouts = 0;
   void Set_Taal() override {}
   void Set_toolbar_teksten() override { ++toolbar_texts_set; }
   void ShowMainWindow() override {}
@@ -113,6 +115,8 @@ struct RecordingCore : CoreView {
   MainWindowSize Size() const override { return size; }
   void OpenWindow(WindowId id) override { opened.push_back(id); }
   void OpenSettings() override { ++settings_opened; }
+  void ShowSplash() override { ++splashes; }
+  void ShowAbout() override { ++abouts; }
 };
 
 // `bare` is the machine before a first start; `prepared` has its folders determined, English texts

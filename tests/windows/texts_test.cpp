@@ -22,7 +22,9 @@
 #include "core/main_window.h"
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
+#include "days/popup_window.h"
 #include "days/settings_dialog.h"
+#include "days/wizard_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "platform/qt/text.h"
@@ -200,6 +202,24 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(browser, kSquare), 20u);
   const SettingsDialog settings(program, nullptr);
   EXPECT_GT(ExpectFromTables(settings, kSquare), 60u);
+  const WizardDialog wizard(program, nullptr);
+  EXPECT_GT(ExpectFromTables(wizard, kSquare), 20u);
+  const PopupWindow about(program, kAboutMode, nullptr);
+  EXPECT_GT(ExpectFromTables(about, kSquare), 8u);
+}
+
+TEST_F(WindowTexts, TheSplashShowsNothingOfItsOwnWhileItRuns) {
+  PopupWindow splash(program, kSplashMode, nullptr);
+  auto* const ticks = splash.findChild<QTimer*>(QStringLiteral("Timer2"));
+  ASSERT_NE(ticks, nullptr);
+  auto* const loader = splash.findChild<QLabel*>(QStringLiteral("loader"));
+  std::set<QString> told;
+  for (int i = 0; i < 12; ++i) {
+    QMetaObject::invokeMethod(ticks, "timeout");
+    told.insert(loader->text());
+    EXPECT_GT(ExpectFromTables(splash, kSquare), 5u);
+  }
+  EXPECT_EQ(told.size(), 5u);
 }
 
 TEST_F(WindowTexts, AnotherLanguageReachesEveryTextOfTheOpenSettings) {

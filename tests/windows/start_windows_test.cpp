@@ -1,0 +1,420 @@
+// The windows around the start: the wizard, the splash and About, as a user meets them.
+#include <gtest/gtest.h>
+#include <memory>
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include "core/main_window.h"
+#include "days/day_dialogs.h"
+#include "days/popup_window.h"
+#include "days/wizard_dialog.h"
+#include "language/built_in_texts.h"
+#include "platform/qt/qt_platform.h"
+#include "storage/record_file.h"
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+template <class Kind>
+Kind* FindIn(const QWidget& window, const QString& name) {
+  Kind* const found = window.findChild<Kind*>(name);
+  if (found == nullptr) throw std::runtime_error(name.toStdString());
+  return found;
+}
+
+// Every visible label and button of an open window has room for its text.
+void ExpectNothingClipped(const QWidget& window) {
+  int seen = 0;
+  for (const auto* label : window.findChildren<QLabel*>()) {
+    if (!label->isVisible()) continue;
+    ++seen;
+    if (label->wordWrap()) {
+      EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+    } else {
+      EXPECT_GE(label->width(), label->sizeHint().width()) << label->objectName().toStdString();
+      EXPECT_GE(label->height(), label->sizeHint().height()) << label->objectName().toStdString();
+    }
+  }
+  for (const auto* button : window.findChildren<QAbstractButton*>()) {
+    if (!button->isVisible()) continue;
+    ++seen;
+    EXPECT_GE(button->width(), button->sizeHint().width()) << button->objectName().toStdString();
+  }
+  EXPECT_GE(seen, 8);
+}
+
+constexpr std::array kLanguages = {&Make_Taal_English, &Make_Taal_Dutch};
+
+class WizardWindow : public testing::Test {
+ protected:
+  void Open() {
+    dialog = std::make_unique<WizardDialog>(test.program, nullptr);
+    dialog->show();
+    dialog->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+  }
+  template <class Widget>
+  Widget* Find(const char* name) {
+    return FindIn<Widget>(*dialog, QLatin1String(name));
+  }
+  QString TextOf(const char* button) { return Find<QAbstractButton>(button)->text(); }
+  void Click(const char* button) {
+    auto* const found = Find<QAbstractButton>(button);
+    // A radio button or a checkbox is hit at its mark, not in the empty space behind its words.
+    QTest::mouseClick(found, Qt::LeftButton, {}, QPoint(10, found->height() / 2));
+  }
+  Text SavedTick() {
+    if (!FileExists(test.program.paths.SettingsFile)) return "nothing saved";
+    const auto saved = ReadFirstRecord<Rec_Settings>(test.program.paths.SettingsFile);
+    return saved ? (*saved)[Setting::chk_wiz] : "no record";
+  }
+
+  TestProgram test;
+  std::unique_ptr<WizardDialog> dialog;
+};
+
+TEST_F(WizardWindow, ShowsItsTextsInBothLanguages) {
+  Open();
+  EXPECT_EQ(dialog->objectName(), "KV_wizzard");
+  EXPECT_EQ(dialog->windowTitle(), "Kelvora FOOD wizard");
+  EXPECT_EQ(Find<QLabel>("lbl_welcome")->text(),
+            "Welcome to Kelvora FOOD, select an option below or press close to exit the wizard.");
+  EXPECT_EQ(Find<QGroupBox>("frame_choice")->title(), "Make a choice:");
+  EXPECT_EQ(TextOf("Option1"), "Start a new day");
+  EXPECT_EQ(TextOf("Option2"), "Open a day");
+  EXPECT_EQ(TextOf("Option3"), "Settings");
+  EXPECT_EQ(TextOf("Option4"), "Manual (Help)");
+  EXPECT_EQ(Find<QLabel>("lbl_1")->text(), "Start a new day and fill in your consumptions.");
+  EXPECT_EQ(Find<QLabel>("lbl_4")->text(), "Start the manual of Kelvora FOOD");
+  EXPECT_EQ(TextOf("chk_wiz"), "Show the start-up wizard when Kelvora starts.");
+  EXPECT_EQ(TextOf("cmd_opslaan"), " OK ");
+  EXPECT_EQ(Find<QWidget>("cmd_opslaan")->toolTip(), "Save changes and start selected");
+  EXPECT_EQ(TextOf("cmd_annuleer"), "Close");
+  EXPECT_EQ(Find<QWidget>("cmd_annuleer")->toolTip(), "Closes this window");
+  for (const char* name : {"Pic_1", "Pic_2", "Pic_3", "Pic_4"}) {
+    EXPECT_FALSE(Find<QLabel>(name)->pixmap().isNull()) << name;
+  }
+  Make_Taal_Dutch(test.program.texts);
+  dialog->Set_Taal();
+  EXPECT_EQ(dialog->windowTitle(), "Wizard van Kelvora FOOD");
+  EXPECT_EQ(TextOf("Option2"), "Open een dag");
+  EXPECT_EQ(TextOf("cmd_annuleer"), "Sluiten");
+}
+
+TEST_F(WizardWindow, EveryControlHasANameForAssistiveTools) {
+  Open();
+  for (const auto* button : dialog->findChildren<QAbstractButton*>()) {
+    EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+  }
+  EXPECT_EQ(Find<QWidget>("Option2")->accessibleDescription(),
+            "Open an existing day to edit or view.");
+}
+
+TEST_F(WizardWindow, NoOptionIsChosenAndTheTickIsThatOfTheSettings) {
+  for (const char* setting : {"1", "0"}) {
+    test.program.settings[Setting::chk_wiz] = setting;
+    Open();
+    EXPECT_EQ(Find<QCheckBox>("chk_wiz")->isChecked(), Text(setting) == "1");
+    for (const char* option : {"Option1", "Option2", "Option3", "Option4"}) {
+      EXPECT_FALSE(Find<QAbstractButton>(option)->isChecked()) << option;
+    }
+  }
+}
+
+TEST_F(WizardWindow, AnOptionThatCannotBeGivenIsDisabledWithItsLine) {
+  Open();
+  for (const WizardRow& row : WizardRows()) {
+    const QString number = QString::number(static_cast<int>(row.option) + 1);
+    const bool enabled = CommandEnabled(test.program, row.command);
+    EXPECT_EQ(FindIn<QWidget>(*dialog, QStringLiteral("Option") + number)->isEnabled(), enabled);
+    EXPECT_EQ(FindIn<QWidget>(*dialog, QStringLiteral("lbl_") + number)->isEnabled(), enabled);
+  }
+}
+
+TEST_F(WizardWindow, OkWithoutAnOptionSavesTheTickAndCloses) {
+  Open();
+  Click("chk_wiz");
+  Click("cmd_opslaan");
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(test.program.windows.wizard, nullptr);
+  EXPECT_EQ(SavedTick(), "0");
+  EXPECT_TRUE(test.core.opened.empty());
+}
+
+TEST_F(WizardWindow, CloseAndEscapeKeepTheOldSetting) {
+  for (const bool escape : {false, true}) {
+    Open();
+    Click("chk_wiz");
+    EXPECT_FALSE(Find<QCheckBox>("chk_wiz")->isChecked());
+    if (escape) {
+      QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    } else {
+      Click("cmd_annuleer");
+    }
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(test.program.windows.wizard, nullptr);
+    EXPECT_EQ(test.program.settings[Setting::chk_wiz], "1");
+    EXPECT_EQ(SavedTick(), "nothing saved");
+  }
+}
+
+TEST_F(WizardWindow, TheKeyboardChoosesAnOptionAndEnterRunsIt) {
+  Open();
+  Find<QWidget>("Option1")->setFocus();
+  QTest::keyClick(Find<QWidget>("Option1"), Qt::Key_Space);
+  QTest::keyClick(Find<QWidget>("Option1"), Qt::Key_Down);
+  EXPECT_TRUE(Find<QAbstractButton>("Option2")->isChecked());
+  EXPECT_FALSE(Find<QAbstractButton>("Option1")->isChecked());
+  QTest::keyClick(Find<QWidget>("Option2"), Qt::Key_Return);
+  EXPECT_EQ(test.core.opened, std::vector<WindowId>{WindowId::browser});
+}
+
+TEST_F(WizardWindow, TheSettingsDialogMovesTheTick) {
+  Open();
+  test.program.windows.wizard->SetShowAtStart(false);
+  EXPECT_FALSE(Find<QCheckBox>("chk_wiz")->isChecked());
+  test.program.windows.wizard->SetShowAtStart(true);
+  EXPECT_TRUE(Find<QCheckBox>("chk_wiz")->isChecked());
+}
+
+TEST_F(WizardWindow, NothingIsClippedInEitherLanguage) {
+  for (const auto make : kLanguages) {
+    make(test.program.texts);
+    Open();
+    QApplication::processEvents();
+    EXPECT_LE(dialog->width(), 1000);
+    EXPECT_LE(dialog->height(), 720);
+    ExpectNothingClipped(*dialog);
+  }
+}
+
+// Each window that takes over closes the wizard first, and the wizard is gone when it is done.
+TEST_F(WizardWindow, TheDayDialogAndTheBrowserTakeOver) {
+  MainWindow window(test.program);
+  window.Set_Taal();
+  window.show();
+  for (const auto& [option, taking_over] :
+       {std::pair{"Option1", "KV_bestand"}, std::pair{"Option2", "KV_browsefiles"}}) {
+    bool wizard_was_modal = false, wizard_was_gone = false;
+    QString came_up;
+    QTimer::singleShot(0, [&, option = option] {
+      QWidget* const wizard = QApplication::activeModalWidget();
+      ASSERT_NE(wizard, nullptr);
+      wizard_was_modal = wizard->objectName() == "KV_wizzard";
+      FindIn<QAbstractButton>(*wizard, QLatin1String(option))->click();
+      QTimer::singleShot(0, [&] {
+        QWidget* const next = QApplication::activeModalWidget();
+        ASSERT_NE(next, nullptr);
+        came_up = next->objectName();
+        wizard_was_gone = test.program.windows.wizard == nullptr;
+        next->close();
+      });
+      FindIn<QAbstractButton>(*wizard, QStringLiteral("cmd_opslaan"))->click();
+    });
+    RunCommand(test.program, Command::mnu_startupwizzard);
+    EXPECT_TRUE(wizard_was_modal);
+    EXPECT_EQ(came_up, QLatin1String(taking_over));
+    EXPECT_TRUE(wizard_was_gone);
+    EXPECT_EQ(test.program.windows.wizard, nullptr);
+  }
+}
+
+class AboutWindow : public testing::Test {
+ protected:
+  void Open() {
+    dialog = std::make_unique<PopupWindow>(test.program, kAboutMode, nullptr);
+    dialog->show();
+    QApplication::processEvents();
+    ASSERT_TRUE(dialog->isVisible());
+  }
+  QString Label(const char* name) { return FindIn<QLabel>(*dialog, QLatin1String(name))->text(); }
+
+  TestProgram test;
+  std::unique_ptr<PopupWindow> dialog;
+};
+
+TEST_F(AboutWindow, TellsVersionAndUseAndShowsNothingOfTheSplash) {
+  test.program.settings[Setting::StartCount] = "17";
+  Open();
+  EXPECT_EQ(dialog->objectName(), "KV_popup");
+  EXPECT_EQ(dialog->windowTitle(), "About Kelvora FOOD");
+  EXPECT_EQ(dialog->size(), QSize(431, 383));
+  EXPECT_EQ(Label("lbl_txt1"), "Version:");
+  EXPECT_EQ(Label("lbl_nfo_1"), "2.24 (Started 17 times)");
+  EXPECT_EQ(Label("lbl_txt6"), "Internet:");
+  EXPECT_EQ(Label("lbl_nfo_4"), "Searched: 0 Submitted: 0");
+  EXPECT_EQ(Label("lbl_type"), "2.24 FOOD");
+  for (const char* name : {"lbl_txt1", "lbl_nfo_1", "lbl_txt6", "lbl_nfo_4", "lbl_type",
+                           "Pic_dankwoord", "cmd_annuleer"}) {
+    EXPECT_TRUE(FindIn<QWidget>(*dialog, QLatin1String(name))->isVisible()) << name;
+  }
+  EXPECT_FALSE(FindIn<QLabel>(*dialog, "Pic_dankwoord")->pixmap().isNull());
+  EXPECT_FALSE(FindIn<QWidget>(*dialog, "loader")->isVisible());
+  EXPECT_FALSE(FindIn<QWidget>(*dialog, "ProgressBar")->isVisible());
+  for (int i = 1; i <= 5; ++i) {
+    for (int state : {0, 1}) {
+      const QString name = QStringLiteral("Loadpic_%1_%2").arg(i).arg(state);
+      EXPECT_FALSE(FindIn<QWidget>(*dialog, name)->isVisible()) << name.toStdString();
+    }
+  }
+  for (const auto* timer : dialog->findChildren<QTimer*>()) EXPECT_FALSE(timer->isActive());
+}
+
+TEST_F(AboutWindow, AClickADoubleClickTheButtonAndEscapeCloseIt) {
+  Open();
+  QTest::mouseClick(dialog.get(), Qt::LeftButton);
+  EXPECT_FALSE(dialog->isVisible());
+  Open();
+  QTest::mouseDClick(dialog.get(), Qt::LeftButton);
+  EXPECT_FALSE(dialog->isVisible());
+  Open();
+  QTest::mouseClick(FindIn<QLabel>(*dialog, "Pic_dankwoord"), Qt::LeftButton);
+  EXPECT_FALSE(dialog->isVisible());
+  Open();
+  QTest::mouseClick(FindIn<QPushButton>(*dialog, "cmd_annuleer"), Qt::LeftButton);
+  EXPECT_FALSE(dialog->isVisible());
+  Open();
+  QTest::keyClick(dialog.get(), Qt::Key_Escape);
+  EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(AboutWindow, NothingIsClippedInEitherLanguage) {
+  test.program.settings[Setting::StartCount] = "100000";
+  test.program.settings[Setting::SearchCount] = "100000";
+  test.program.settings[Setting::SubmitCount] = "100000";
+  for (const auto make : kLanguages) {
+    make(test.program.texts);
+    Open();
+    ExpectNothingClipped(*dialog);
+  }
+}
+
+TEST_F(AboutWindow, ComesUpModallyByItsCommand) {
+  MainWindow window(test.program);
+  window.Set_Taal();
+  window.show();
+  QString came_up;
+  QTimer::singleShot(0, [&] {
+    QWidget* const shown = QApplication::activeModalWidget();
+    ASSERT_NE(shown, nullptr);
+    came_up = shown->windowTitle();
+    shown->close();
+  });
+  FindIn<QAction>(window, "mnu_about")->trigger();
+  EXPECT_EQ(came_up, "About Kelvora FOOD");
+}
+
+class Splash : public testing::Test {
+ protected:
+  Splash() {
+    window.Set_Taal();
+    window.show();
+    window.ShowSplash();
+    splash = FindIn<PopupWindow>(window, "KV_popup");
+    window.BringToFront();
+    QApplication::processEvents();
+  }
+  bool Lit(int picture) {
+    const QString name = QStringLiteral("Loadpic_%1_%2").arg(picture);
+    const bool dark = FindIn<QWidget>(*splash, name.arg(0))->isVisible();
+    const bool lit = FindIn<QWidget>(*splash, name.arg(1))->isVisible();
+    EXPECT_NE(dark, lit) << picture;
+    return lit;
+  }
+  int LitPictures() {
+    int count = 0;
+    for (int i = 1; i <= kLoadPictures; ++i) count += Lit(i);
+    return count;
+  }
+
+  TestProgram test;
+  MainWindow window{test.program};
+  QPointer<PopupWindow> splash;
+};
+
+TEST_F(Splash, IsFramelessNotModalAndTakesNoFocus) {
+  EXPECT_TRUE(splash->isVisible());
+  EXPECT_FALSE(splash->isModal());
+  EXPECT_EQ(splash->size(), QSize(431, 239));
+  EXPECT_TRUE(splash->windowFlags().testFlag(Qt::FramelessWindowHint));
+  // The offscreen platform asks nobody and makes each new window the active one.
+  EXPECT_TRUE(splash->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_TRUE(splash->testAttribute(Qt::WA_ShowWithoutActivating));
+  for (const char* name :
+       {"lbl_txt1", "lbl_nfo_1", "lbl_txt6", "lbl_nfo_4", "Pic_dankwoord", "cmd_annuleer"}) {
+    EXPECT_FALSE(FindIn<QWidget>(*splash, QLatin1String(name))->isVisible()) << name;
+  }
+  EXPECT_EQ(LitPictures(), 0);
+}
+
+TEST_F(Splash, ClicksAndEscapeDoNothingToIt) {
+  QTest::mouseClick(splash.data(), Qt::LeftButton);
+  QTest::mouseDClick(splash.data(), Qt::LeftButton);
+  QTest::keyClick(splash.data(), Qt::Key_Escape);
+  ASSERT_FALSE(splash.isNull());
+  EXPECT_TRUE(splash->isVisible());
+}
+
+// What is shown goes by what has been told so far, however late a busy machine ticks.
+TEST_F(Splash, ShowsItsTextsAndPicturesInOrderAndEndsByItselfDuringABox) {
+  const QStringList texts = {QString(),
+                             QStringLiteral("Loading: Settings..."),
+                             QStringLiteral("Loading: Databases..."),
+                             QStringLiteral("Loading: Modules..."),
+                             QStringLiteral("Loading: Files..."),
+                             QStringLiteral("Starting interface")};
+  QStringList seen;
+  int highest = 0;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    if (splash.isNull() || !splash->isVisible()) return;
+    const QString text = FindIn<QLabel>(*splash, "loader")->text();
+    if (seen.isEmpty() || seen.back() != text) seen.append(text);
+    EXPECT_EQ(LitPictures(), texts.indexOf(text));
+    highest = qMax(highest, FindIn<QProgressBar>(*splash, "ProgressBar")->value());
+  });
+  watch.start(20);
+
+  qint64 ended = 0;
+  bool box_was_up = false;
+  QElapsedTimer since_start;
+  since_start.start();
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    const bool late = since_start.elapsed() > 15000;
+    if (!late && !splash.isNull() && splash->isVisible()) return;
+    ended = since_start.elapsed();
+    QWidget* const box = QApplication::activeModalWidget();
+    box_was_up = box != nullptr && box->objectName() == "message_box";
+    look.stop();
+    if (box != nullptr) box->close();
+  });
+  look.start(10);
+  QtBoxes boxes;
+  boxes.Show({.title = "Kelvora FOOD", .text = "First run"});
+
+  EXPECT_TRUE(box_was_up);
+  EXPECT_GE(ended, 1600);
+  EXPECT_LT(ended, 6000);
+  EXPECT_EQ(seen, texts);
+  EXPECT_EQ(highest, 90);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(splash.isNull());
+}
+
+TEST_F(Splash, ABoxThatHangsOnItOutlivesItsEnd) {
+  QPointer<QDialog> box = new QDialog(splash);
+  box->show();
+  QMetaObject::invokeMethod(FindIn<QTimer>(*splash, "Timer1"), "timeout");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  ASSERT_FALSE(box.isNull());
+  EXPECT_TRUE(box->isVisible());
+  EXPECT_FALSE(splash->isVisible());
+}
+
+}  // namespace
+}  // namespace kelvora
