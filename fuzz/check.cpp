@@ -7,8 +7,9 @@
 namespace kelvora {
 namespace {
 
-bool metering = false;
-std::size_t metered_bytes = 0;
+// Of one thread each: the fuzzer watches memory in a thread of its own, which allocates as well.
+thread_local bool metering = false;
+thread_local std::size_t metered_bytes = 0;
 
 void CountAllocation(const volatile void*, std::size_t size) {
   if (metering) metered_bytes += size;
