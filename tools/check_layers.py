@@ -18,7 +18,8 @@ WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 # data that every layer addresses; the whole of core but these top files lies below the rest; the
 # wizard, which gives commands, stands at the top as well.
 TOP_OF_DAYS = {"wizard", "wizard_dialog"}
-TOP_OF_CORE = {"startup", "load_settings", "commands", "command_tables", "main_window", "child_area_panel"}
+TOP_OF_CORE = {"startup", "load_settings", "commands", "command_tables", "outside_commands", "main_window",
+               "child_area_panel"}
 BOTTOM_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry"}
 RANK_OF_FOLDER = {
     "platform": 1, "core": 2, "nutrition": 3, "storage": 3,

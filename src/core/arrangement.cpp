@@ -56,4 +56,14 @@ void ToggleWindow(Program& program, WindowId id) {
   }
 }
 
+void ShowOrHideDaySummary(Program& program) {
+  OpenWindows& windows = program.windows;
+  const bool was_small = windows.day_summary != nullptr && windows.geometry.SummarySmall == 1;
+  ToggleWindow(program, WindowId::day_summary);
+  if (!was_small || windows.core == nullptr) return;
+  windows.geometry.day_summary = NormalSummaryRecord(windows.core->Size());
+  windows.geometry.SummarySmall = 0;
+  windows.core->OpenWindow(WindowId::day_summary);
+}
+
 }  // namespace kelvora

@@ -21,6 +21,10 @@ void ResetScreens(Program& program);
 // Opens a closed window and closes an open one.
 void ToggleWindow(Program& program, WindowId id);
 
+// The command of the day summary: opens it, closes it in its normal layout, and takes it from the
+// small layout to the normal one.
+void ShowOrHideDaySummary(Program& program);
+
 // Computes the default geometry from the main window's size of the moment.
 void ComputeDefaultGeometry(Program& program);
 

@@ -11,6 +11,11 @@ namespace {
 constexpr int kMarkSize = 220;
 constexpr double kMarkOpacity = 0.14;
 
+// A length that was not touched keeps the twips that a pixel can't tell.
+void TakePixels(int pixels, int& twips) {
+  if (PixelsOfTwips(twips) != pixels) twips = TwipsOfPixels(pixels);
+}
+
 }  // namespace
 
 ChildArea::ChildArea(QWidget* parent) : QMdiArea(parent) {
@@ -48,8 +53,10 @@ void ChildFrame::MoveToRecord() {
 void ChildFrame::closeEvent(QCloseEvent* event) {
   const QRect place = isMinimized() || isMaximized() ? normalGeometry() : geometry();
   if (place.isValid()) {
-    record_ = {TwipsOfPixels(place.width()), TwipsOfPixels(place.height()),
-               TwipsOfPixels(place.x()), TwipsOfPixels(place.y())};
+    TakePixels(place.width(), record_.width);
+    TakePixels(place.height(), record_.height);
+    TakePixels(place.x(), record_.left);
+    TakePixels(place.y(), record_.top);
   }
   QMdiSubWindow::closeEvent(event);
 }

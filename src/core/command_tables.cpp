@@ -14,20 +14,27 @@ constexpr MenuRow kEnd{end_of_menu, ""};
 
 constexpr std::array kMenu = {
     MenuRow{menu, "mnu_bestand", kFile},
-    MenuRow{item, "mnu_startupwizzard", kWizard, Command::mnu_startupwizzard, "wizard"},
+    MenuRow{item, "mnu_startupwizzard", kWizard, Command::mnu_startupwizzard, "wizard", "",
+            kTipWizard},
     MenuRow{separator, "mnu_bar_10"},
-    MenuRow{item, "mnu_new", kNewFile, Command::mnu_new, "new", "Ctrl+N"},
-    MenuRow{item, "mnu_browse", kOpenFile, Command::mnu_browse, "open", "Ctrl+O"},
-    MenuRow{item, "mnu_bestand_opslaan", kSaveFile, Command::mnu_bestand_opslaan, "save", "Ctrl+S"},
+    MenuRow{item, "mnu_new", kNewFile, Command::mnu_new, "new", "Ctrl+N", kTipNew},
+    MenuRow{item, "mnu_browse", kOpenFile, Command::mnu_browse, "open", "Ctrl+O", kTipOpen},
+    MenuRow{item, "mnu_bestand_opslaan", kSaveFile, Command::mnu_bestand_opslaan, "save", "Ctrl+S",
+            kTipSave},
     MenuRow{separator, "mnu_bar_11"},
     MenuRow{sub_menu, "mnu_exporteer", kExportTo, Command::none, "export"},
-    MenuRow{item, "mnu_exporteer_html", kExportHtml, Command::mnu_exporteer_html, "export-html"},
-    MenuRow{item, "mnu_exporteer_xml", kExportXml, Command::mnu_exporteer_xml, "export-xml"},
-    MenuRow{item, "mnu_exporteer_dta", kExportDta, Command::mnu_exporteer_dta, "export-dta"},
+    MenuRow{item, "mnu_exporteer_html", kExportHtml, Command::mnu_exporteer_html, "export-html", "",
+            kTipReport},
+    MenuRow{item, "mnu_exporteer_xml", kExportXml, Command::mnu_exporteer_xml, "export-xml", "",
+            kTipExportXml},
+    MenuRow{item, "mnu_exporteer_dta", kExportDta, Command::mnu_exporteer_dta, "export-dta", "",
+            kTipExportDta},
     kEnd,
     MenuRow{separator, "mnu_bar_12"},
-    MenuRow{item, "mnu_properties", kKelvoraSettings, Command::mnu_properties, "settings"},
-    MenuRow{item, "mnu_file_properties", kProfileSettings, Command::mnu_file_properties, "profile"},
+    MenuRow{item, "mnu_properties", kKelvoraSettings, Command::mnu_properties, "settings", "",
+            kTipSettings},
+    MenuRow{item, "mnu_file_properties", kProfileSettings, Command::mnu_file_properties, "profile",
+            "", kTipProfile},
     MenuRow{separator, "mnu_bar_13"},
     MenuRow{sub_menu, "mnu_printen", kPrint, Command::none, "print"},
     MenuRow{item, "mnu_print_dag", kPrintDay, Command::mnu_print_dag, "print-day", "Ctrl+P"},
@@ -41,7 +48,8 @@ constexpr std::array kMenu = {
     MenuRow{item, "mnu_in_middag", kAfternoonConsumptions, Command::mnu_in_middag, "afternoon"},
     MenuRow{item, "mnu_in_avond", kEveningConsumptions, Command::mnu_in_avond, "evening"},
     MenuRow{separator, "mnu_bar_20"},
-    MenuRow{item, "mnu_in_notities", kTodaysDiary, Command::mnu_in_notities, "diary"},
+    MenuRow{item, "mnu_in_notities", kTodaysDiary, Command::mnu_in_notities, "diary", "",
+            kTipDiary},
     kEnd,
 
     MenuRow{menu, "mnu_opties", kOptions},
@@ -53,34 +61,36 @@ constexpr std::array kMenu = {
     kEnd,
 
     MenuRow{menu, "mnu_resultaten", kStatistics},
-    MenuRow{item, "mnu_uit_daguittreksel", kSummaryOfDay, Command::mnu_uit_daguittreksel,
-            "summary"},
+    MenuRow{item, "mnu_uit_daguittreksel", kSummaryOfDay, Command::mnu_uit_daguittreksel, "summary",
+            "", kTipSummary},
     MenuRow{item, "mnu_uit_meerdaagsuittreksel", kTrend, Command::mnu_uit_meerdaagsuittreksel,
-            "trend"},
+            "trend", "", kTipTrend},
     kEnd,
 
     MenuRow{menu, "mnu_tabellen", kTables},
     MenuRow{item, "mnu_voedingswaarde_tabel", kFoodItems, Command::mnu_voedingswaarde_tabel,
-            "foods"},
+            "foods", "", kTipFoods},
     kEnd,
 
     MenuRow{menu, "mnu_extra", kExtra},
-    MenuRow{item, "mnu_weegschaal", kFoodComparison, Command::mnu_weegschaal, "compare"},
+    MenuRow{item, "mnu_weegschaal", kFoodComparison, Command::mnu_weegschaal, "compare", "",
+            kTipCompare},
     MenuRow{item, "mnu_website_Etenlijn", kServiceName, Command::mnu_website_Etenlijn,
-            "food-server"},
+            "food-server", "", kTipService},
     MenuRow{separator, "mnu_bar_60"},
     MenuRow{item, "mnu_reset_taal", kRepairLanguageFiles, Command::mnu_reset_taal,
-            "repair-language"},
+            "repair-language", "", kTipRepairLanguageFiles},
     MenuRow{separator, "mnu_bar_61"},
-    MenuRow{item, "mnu_diagnose", kDiagnose, Command::mnu_diagnose, "diagnose"},
+    MenuRow{item, "mnu_diagnose", kDiagnose, Command::mnu_diagnose, "diagnose", "", kTipDiagnose},
     kEnd,
 
     MenuRow{menu, "mnu_informatie", kInformation},
-    MenuRow{item, "mnu_help_index", kHelpIndex, Command::mnu_help_index, "help", "F1"},
-    MenuRow{item, "mnu_about", kAbout, Command::mnu_about, "about"},
+    MenuRow{item, "mnu_help_index", kHelpIndex, Command::mnu_help_index, "help", "F1", kTipHelp},
+    MenuRow{item, "mnu_about", kAbout, Command::mnu_about, "about", "", kTipBrelux},
     MenuRow{separator, "mnu_bar_70"},
-    MenuRow{item, "mnu_website", kWebsite, Command::mnu_website, "website"},
-    MenuRow{item, "mnu_check_updates", kInternetUpdates, Command::mnu_check_updates, "update"},
+    MenuRow{item, "mnu_website", kWebsite, Command::mnu_website, "website", "", kTipWebsite},
+    MenuRow{item, "mnu_check_updates", kInternetUpdates, Command::mnu_check_updates, "update", "",
+            kTipUpdate},
     kEnd,
 };
 
@@ -110,9 +120,15 @@ constexpr std::array kQuickToolbar = {
     ButtonRow{5, kQuickReset, std::nullopt, Command::quick_reset, "screens-reset"},
 };
 
-constexpr std::array kPrintCommands = {Command::mnu_print_dag, Command::mnu_print_reis};
-constexpr std::array kConsumptionCommands = {Command::mnu_in_ochtend, Command::mnu_in_middag,
-                                             Command::mnu_in_avond};
+constexpr std::array kPrintRows = {
+    DropDownRow{Command::mnu_print_dag, kPrintDayDropDown},
+    DropDownRow{Command::mnu_print_reis, kPrintTravelDropDown},
+};
+constexpr std::array kConsumptionRows = {
+    DropDownRow{Command::mnu_in_ochtend, kMorningDropDown},
+    DropDownRow{Command::mnu_in_middag, kAfternoonDropDown},
+    DropDownRow{Command::mnu_in_avond, kEveningDropDown},
+};
 
 }  // namespace
 
@@ -126,9 +142,9 @@ std::span<const ButtonRow> QuickToolbar() {
   return kQuickToolbar;
 }
 
-std::span<const Command> CommandsOfDropDown(Command drop_down) {
-  if (drop_down == Command::print_drop_down) return kPrintCommands;
-  if (drop_down == Command::consumptions_drop_down) return kConsumptionCommands;
+std::span<const DropDownRow> RowsOfDropDown(Command drop_down) {
+  if (drop_down == Command::print_drop_down) return kPrintRows;
+  if (drop_down == Command::consumptions_drop_down) return kConsumptionRows;
   return {};
 }
 

@@ -4,41 +4,84 @@
 
 #include "core/arrangement.h"
 #include "core/common.h"
+#include "core/outside_commands.h"
 #include "days/open_day.h"
 #include "language/choose_language.h"
 #include "language/main_texts.h"
+#include "language/own_texts.h"
 #include "storage/day_file.h"
 #include "storage/settings_file.h"
 
 namespace kelvora {
 namespace {
 
+using namespace main_text;
+
 // What a command needs besides a window to serve it.
 enum class Needs { nothing, user, day, changed_day };
 
 struct CommandRow {
   Command command;
-  Needs needs;
+  Needs as_item;
+  Needs as_button = as_item;
+  bool served = true;
 };
 
-// The commands that this program can carry out so far; all others stay disabled.
-constexpr std::array kServed = {
+constexpr CommandRow NotServed(Command command, Needs needs, Needs as_button) {
+  return {command, needs, as_button, false};
+}
+constexpr CommandRow NotServed(Command command, Needs needs) {
+  return NotServed(command, needs, needs);
+}
+
+// An item in a menu that needs a user or a day needs it as well.
+constexpr std::array kCommands = {
+    NotServed(Command::none, Needs::nothing),
     CommandRow{Command::mnu_startupwizzard, Needs::nothing},
     CommandRow{Command::mnu_new, Needs::nothing},
     CommandRow{Command::mnu_browse, Needs::nothing},
-    CommandRow{Command::mnu_bestand_opslaan, Needs::changed_day},
+    CommandRow{Command::mnu_bestand_opslaan, Needs::day, Needs::changed_day},
+    NotServed(Command::mnu_exporteer_html, Needs::user),
+    NotServed(Command::mnu_exporteer_xml, Needs::user),
+    NotServed(Command::mnu_exporteer_dta, Needs::user),
     CommandRow{Command::mnu_properties, Needs::nothing},
+    CommandRow{Command::mnu_file_properties, Needs::day},
+    NotServed(Command::mnu_print_dag, Needs::day),
+    NotServed(Command::mnu_print_reis, Needs::day),
     CommandRow{Command::mnu_bestand_sluiten, Needs::nothing},
     CommandRow{Command::mnu_in_ochtend, Needs::day},
     CommandRow{Command::mnu_in_middag, Needs::day},
     CommandRow{Command::mnu_in_avond, Needs::day},
+    NotServed(Command::mnu_in_notities, Needs::day),
+    NotServed(Command::mnu_item_info, Needs::user),
+    NotServed(Command::mnu_item_voegtoe, Needs::user),
+    NotServed(Command::mnu_item_del, Needs::user),
+    NotServed(Command::mnu_item_favo, Needs::user),
+    NotServed(Command::mnu_uit_daguittreksel, Needs::day),
+    NotServed(Command::mnu_uit_meerdaagsuittreksel, Needs::user),
     CommandRow{Command::mnu_voedingswaarde_tabel, Needs::user},
+    NotServed(Command::mnu_weegschaal, Needs::nothing, Needs::user),
+    CommandRow{Command::mnu_website_Etenlijn, Needs::nothing},
+    CommandRow{Command::mnu_reset_taal, Needs::nothing},
+    CommandRow{Command::mnu_diagnose, Needs::nothing},
+    CommandRow{Command::mnu_help_index, Needs::nothing},
+    CommandRow{Command::mnu_about, Needs::nothing},
+    CommandRow{Command::mnu_website, Needs::nothing},
+    NotServed(Command::mnu_check_updates, Needs::nothing),
+    CommandRow{Command::print_drop_down, Needs::day},
     CommandRow{Command::consumptions_drop_down, Needs::day},
     CommandRow{Command::quick_default, Needs::day},
+    CommandRow{Command::quick_all, Needs::day},
     CommandRow{Command::quick_reset, Needs::nothing},
-    CommandRow{Command::mnu_reset_taal, Needs::nothing},
-    CommandRow{Command::mnu_about, Needs::nothing},
 };
+
+// In the order of Command.
+static_assert(kCommands.size() == static_cast<std::size_t>(Command::quick_reset) + 1);
+static_assert(std::ranges::is_sorted(kCommands, {}, &CommandRow::command));
+
+const CommandRow& RowOf(Command command) {
+  return kCommands[static_cast<std::size_t>(command)];
+}
 
 struct WindowCommand {
   Command command;
@@ -71,11 +114,35 @@ bool Satisfied(const Program& program, Needs needs) {
   return false;
 }
 
+// The dialog in its mode for the open day; a day file with an empty header has nothing to change.
+void ChangeDaySettings(Program& program) {
+  if (program.store.L_gegevens.Empty()) {
+    return Tell(program, BoxIcon::warning,
+                JoinLines(program.texts, {kNoFileOpen, kMakeOrOpenFile}));
+  }
+  program.day.DayDialogMode = DayDialogMode::day_settings;
+  program.windows.core->OpenWindow(WindowId::day_settings);
+}
+
+void RememberArrangement(Program& program, std::string_view chosen) {
+  program.settings[Setting::chk_all_screens] = chosen;
+  Save_Settings(program);
+}
+
 }  // namespace
 
+bool IsServed(Command command) {
+  return RowOf(command).served;
+}
+
 bool CommandEnabled(const Program& program, Command command) {
-  const auto row = std::ranges::find(kServed, command, &CommandRow::command);
-  return row != kServed.end() && Satisfied(program, row->needs);
+  const CommandRow& row = RowOf(command);
+  return row.served && Satisfied(program, row.as_item);
+}
+
+bool ButtonEnabled(const Program& program, Command command) {
+  const CommandRow& row = RowOf(command);
+  return row.served && Satisfied(program, row.as_button);
 }
 
 bool MenuEnabled(const Program& program, std::string_view name) {
@@ -83,6 +150,19 @@ bool MenuEnabled(const Program& program, std::string_view name) {
   constexpr std::array<std::string_view, 4> kOfUser = {"mnu_opties", "mnu_resultaten",
                                                        "mnu_tabellen", "mnu_exporteer"};
   return std::ranges::find(kOfUser, name) == kOfUser.end() || Satisfied(program, Needs::user);
+}
+
+Text TipOf(const Program& program, Command command, std::optional<TextId> tip) {
+  Text text = tip ? program.texts[*tip] : Text();
+  if (IsServed(command)) return text;
+  if (!text.empty()) text += "\n";
+  return text + OwnTextOf(program.texts, OwnText::not_here_yet);
+}
+
+Text CaptionOf(const Program& program, const MenuRow& row) {
+  const bool english_service =
+      row.command == Command::mnu_website_Etenlijn && program.settings[Setting::opt_server] == "1";
+  return program.texts[english_service ? kServiceNameEnglish : row.caption];
 }
 
 bool IsToggle(Command command) {
@@ -100,6 +180,7 @@ bool CommandIsDown(const Program& program, Command command) {
 
 void RunCommand(Program& program, Command command) {
   if (!CommandEnabled(program, command)) return;
+  if (command == Command::mnu_uit_daguittreksel) return ShowOrHideDaySummary(program);
   const auto toggle = std::ranges::find(kToggles, command, &WindowCommand::command);
   if (toggle != kToggles.end()) return ToggleWindow(program, toggle->window);
   switch (command) {
@@ -113,23 +194,37 @@ void RunCommand(Program& program, Command command) {
       return SaveDay(program);
     case Command::mnu_properties:
       return program.windows.core->OpenSettings();
-    case Command::quick_default:
-      ShowDefaultScreens(program);
-      program.settings[Setting::chk_all_screens] = "0";
-      return Save_Settings(program);
-    case Command::quick_reset:
-      return ResetScreens(program);
+    case Command::mnu_file_properties:
+      return ChangeDaySettings(program);
+    case Command::mnu_website_Etenlijn:
+      return OpenFoodServerHomePage(program);
     case Command::mnu_reset_taal:
       return RepairLanguageFiles(program);
+    case Command::mnu_diagnose:
+      return RunDiagnose(program);
+    case Command::mnu_help_index:
+      return OpenHelp(program);
     case Command::mnu_about:
       return program.windows.core->ShowAbout();
+    case Command::mnu_website:
+      return OpenWebsite(program);
+    case Command::print_drop_down:
+      return Tell(program, BoxIcon::information,
+                  JoinLines(program.texts, {kSelectPrintOption, kSeveralOptions}));
+    case Command::quick_default:
+      ShowDefaultScreens(program);
+      return RememberArrangement(program, "0");
+    case Command::quick_all:
+      ShowScreensWithSummary(program);
+      return RememberArrangement(program, "1");
+    case Command::quick_reset:
+      return ResetScreens(program);
     default:
       return;
   }
 }
 
 bool MayEndProgram(Program& program) {
-  using namespace main_text;
   if (!program.day.FileChanged) return true;
   const Box box{.title = program.texts[kExitTitle],
                 .text = JoinLines(program.texts, {kExitNotSaved, kExitSure}),
@@ -143,7 +238,7 @@ Text ProgramPanelText() {
 }
 
 Text UserPanelText(const Program& program) {
-  return program.texts[main_text::kCurrentUser] + " " + program.paths.UserName;
+  return program.texts[kCurrentUser] + " " + program.paths.UserName;
 }
 
 }  // namespace kelvora

@@ -60,6 +60,7 @@ struct MenuRow {
   Command command = Command::none;
   std::string_view icon{};
   std::string_view shortcut{};  // in portable form, "Ctrl+S"
+  std::optional<TextId> tip{};
 };
 
 // One button of a toolbar; indexes that have no row are separators.
@@ -71,15 +72,34 @@ struct ButtonRow {
   std::string_view icon;
 };
 
+// One entry of the menu that drops down from a button.
+struct DropDownRow {
+  Command command;
+  TextId caption;
+};
+
 [[nodiscard]] std::span<const MenuRow> MainMenu();
 [[nodiscard]] std::span<const ButtonRow> MenuToolbar();   // menu_toolbar
 [[nodiscard]] std::span<const ButtonRow> QuickToolbar();  // Toolbar_quickscreens
-[[nodiscard]] std::span<const Command> CommandsOfDropDown(Command drop_down);
+[[nodiscard]] std::span<const DropDownRow> RowsOfDropDown(Command drop_down);
 
-// True if the command can be given now: its window exists in this program, and user, day and
-// FileChanged allow it.
+// True if this version of the program can carry the command out. What it can't stays disabled and
+// says so in its tool tip.
+[[nodiscard]] bool IsServed(Command command);
+
+// Whether user, day and FileChanged allow a command now, and this version serves it: as an item of
+// the menu, as a button, and for a whole menu by its name. Item and button differ in two places,
+// as they are meant to: saving as an item needs no change, comparing as an item needs no user.
 [[nodiscard]] bool CommandEnabled(const Program& program, Command command);
+[[nodiscard]] bool ButtonEnabled(const Program& program, Command command);
 [[nodiscard]] bool MenuEnabled(const Program& program, std::string_view name);
+
+// The tool tip of a command: its text, and behind it why the command is not served.
+[[nodiscard]] Text TipOf(const Program& program, Command command, std::optional<TextId> tip);
+
+// What an item of the menu is called now: the entry of the food server bears the name of the
+// service that the settings choose.
+[[nodiscard]] Text CaptionOf(const Program& program, const MenuRow& row);
 
 // True if the command opens a closed window and closes an open one.
 [[nodiscard]] bool IsToggle(Command command);
@@ -87,7 +107,7 @@ struct ButtonRow {
 // True while a button stays down because a window of its command is open.
 [[nodiscard]] bool CommandIsDown(const Program& program, Command command);
 
-// Gives the command. mnu_bestand_sluiten is the main window's own.
+// Gives the command, if it is enabled as an item. mnu_bestand_sluiten is the main window's own.
 void RunCommand(Program& program, Command command);
 
 // True if the program may end now: nothing is unsaved, or the user says so.

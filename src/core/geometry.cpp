@@ -17,6 +17,15 @@ int SharedHeight(const MainWindowSize& main) {
 
 }  // namespace
 
+std::array<int, 4> StatusPanelWidths(int main_width) {
+  constexpr int kProgram = 3500, kUser = 4000, kLast = 1200;
+  return {kProgram, kUser, main_width - kProgram - kUser - kLast, kLast};
+}
+
+WindowRecord NormalSummaryRecord(const MainWindowSize& main) {
+  return {7000, 4800, Rounded(0.25 * main.width), Rounded(0.3 * main.height)};
+}
+
 GeometryRecords DefaultGeometry(const MainWindowSize& main) {
   const int width = main.width;
   const int shared = SharedHeight(main);

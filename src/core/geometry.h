@@ -2,12 +2,18 @@
 // device-independent pixel. The records live for one run only.
 #pragma once
 
+#include <array>
+
 namespace kelvora {
 
 inline constexpr int kTwipsPerPixel = 15;
 
 [[nodiscard]] constexpr int PixelsOfTwips(int twips) {
   return twips / kTwipsPerPixel;
+}
+// The fewest whole pixels that are no smaller.
+[[nodiscard]] constexpr int PixelsCovering(int twips) {
+  return (twips + kTwipsPerPixel - 1) / kTwipsPerPixel;
 }
 [[nodiscard]] constexpr int TwipsOfPixels(int pixels) {
   return pixels * kTwipsPerPixel;
@@ -28,6 +34,9 @@ struct WindowRecord {
   bool operator==(const WindowRecord&) const = default;
 };
 
+// The four panels of the main status bar, left to right, for a main window of that width.
+[[nodiscard]] std::array<int, 4> StatusPanelWidths(int main_width);
+
 // One record per child window, and which layout the day summary has.
 struct GeometryRecords {
   WindowRecord lists, diary, day_summary, multi_day, morning, afternoon, evening, comparison;
@@ -44,6 +53,10 @@ struct MainWindowSize {
 
 // The records of arrangement A, which are also the defaults. Real values round half to even.
 [[nodiscard]] GeometryRecords DefaultGeometry(const MainWindowSize& main);
+
+// Where the day summary goes when its command takes it from the small layout to the normal one. Its
+// width differs from that of the defaults, as it is meant to.
+[[nodiscard]] WindowRecord NormalSummaryRecord(const MainWindowSize& main);
 
 // The records of arrangement B: wider food lists with the small day summary below them.
 [[nodiscard]] GeometryRecords GeometryWithSummary(const MainWindowSize& main);

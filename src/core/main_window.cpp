@@ -3,15 +3,19 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
 
 #include "core/child_area_panel.h"
 #include "core/common.h"
+#include "core/data_window.h"
 #include "days/day_dialogs.h"
 #include "days/popup.h"
 #include "food/consumption_window.h"
 #include "food/food_lists_window.h"
+#include "language/main_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -20,8 +24,7 @@ namespace {
 
 constexpr int kToolbarIconSize = 24;
 constexpr int kQuickIconSize = 16;
-constexpr std::array kPanelWidths = {PixelsOfTwips(3500), PixelsOfTwips(4000), 0,
-                                     PixelsOfTwips(1200)};
+constexpr int kPanelMargin = 4;  // above and below the letters of the status bar
 
 QString QtName(std::string_view name) {
   return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
@@ -32,7 +35,7 @@ QString QtName(std::string_view name) {
 MainWindow::MainWindow(Program& program) : program_(program) {
   NameWidget(this, "KV_Core");
   setWindowTitle(ToQt(AppTitle));
-  setMinimumSize(PixelsOfTwips(kMainMinimumWidth), PixelsOfTwips(kMainMinimumHeight));
+  setMinimumSize(PixelsCovering(kMainMinimumWidth), PixelsCovering(kMainMinimumHeight));
   resize(1024, 740);
   area_ = new ChildArea(this);
   setCentralWidget(area_);
@@ -46,6 +49,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   Toolbar_quickscreens_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   addToolBar(Qt::BottomToolBarArea, Toolbar_quickscreens_);
   BuildStatusBar();
+  BuildDataButton();
   UpdateCommands();  // nothing looks usable while the start is still under way
   program_.windows.core = this;
 }
@@ -65,6 +69,7 @@ void MainWindow::BuildMenu() {
         QMenu* const menu =
             open.empty() ? menuBar()->addMenu(QString()) : open.back()->addMenu(QString());
         menu->setObjectName(QtName(row.name));
+        menu->setToolTipsVisible(true);
         if (!row.icon.empty()) menu->setIcon(IconNamed(row.icon));
         menus_.push_back({menu, row.caption, row.name});
         open.push_back(menu);
@@ -79,10 +84,11 @@ void MainWindow::BuildMenu() {
       case MenuKind::item: {
         QAction* const action = open.back()->addAction(IconNamed(row.icon), QString());
         action->setObjectName(QtName(row.name));
+        action->setCheckable(IsToggle(row.command));
         if (!row.shortcut.empty()) action->setShortcut(QKeySequence(QtName(row.shortcut)));
         connect(action, &QAction::triggered, this,
                 [this, command = row.command] { Give(command); });
-        menu_actions_.push_back({action, row.command, row.caption, std::nullopt});
+        item_actions_.push_back({action, &row});
         break;
       }
     }
@@ -101,38 +107,64 @@ QToolBar* MainWindow::BuildToolbar(const char* name, std::span<const ButtonRow> 
     QAction* const action = bar->addAction(IconNamed(row.icon), QString());
     const QString button_name = QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row.index);
     action->setObjectName(button_name + QStringLiteral("_action"));
-    action->setCheckable(!CommandsOfDropDown(row.command).empty() || IsToggle(row.command));
-    bar->widgetForAction(action)->setObjectName(button_name);
-    if (CommandsOfDropDown(row.command).empty()) {
-      connect(action, &QAction::triggered, this, [this, command = row.command] { Give(command); });
-    } else {
-      AddDropDown(bar, action, row.command);
-    }
-    button_actions_.push_back({action, row.command, row.caption, row.tip});
+    action->setCheckable(row.command == Command::consumptions_drop_down || IsToggle(row.command));
+    connect(action, &QAction::triggered, this, [this, command = row.command] { Give(command); });
+    auto* const button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
+    button->setObjectName(button_name);
+    if (!RowsOfDropDown(row.command).empty()) AddDropDown(button, row.command);
+    button_actions_.push_back({action, button, &row});
   }
   return bar;
 }
 
-void MainWindow::AddDropDown(QToolBar* bar, QAction* action, Command drop_down) {
+void MainWindow::AddDropDown(QToolButton* button, Command drop_down) {
   auto* const menu = new QMenu(this);
-  for (const Command command : CommandsOfDropDown(drop_down)) {
-    for (const CommandAction& entry : menu_actions_) {
-      if (entry.command == command) menu->addAction(entry.action);
+  menu->setObjectName(button->objectName() + QStringLiteral("_menu"));
+  menu->setToolTipsVisible(true);
+  for (const DropDownRow& row : RowsOfDropDown(drop_down)) {
+    for (const ItemAction& item : item_actions_) {
+      if (item.row->command != row.command) continue;
+      QAction* const action = menu->addAction(item.action->icon(), QString());
+      action->setObjectName(item.action->objectName() + QStringLiteral("_drop_down"));
+      action->setCheckable(item.action->isCheckable());
+      connect(action, &QAction::triggered, item.action, &QAction::trigger);
+      drop_down_actions_.push_back({action, &row});
     }
   }
-  auto* const button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
   button->setMenu(menu);
-  button->setPopupMode(QToolButton::InstantPopup);
+  // The print button itself says that its menu has the choices; the other is all menu.
+  button->setPopupMode(drop_down == Command::print_drop_down ? QToolButton::MenuButtonPopup
+                                                             : QToolButton::InstantPopup);
 }
 
 void MainWindow::BuildStatusBar() {
   statusBar()->setObjectName(QStringLiteral("StatusBar"));
+  statusBar()->setSizeGripEnabled(false);
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    panels_[i] = NewLabel(this, QStringLiteral("StatusBar_%1").arg(i + 1));
+    panels_[i] = NewLabel(statusBar(), QStringLiteral("StatusBar_%1").arg(i + 1));
     panels_[i]->setIndent(6);
-    if (kPanelWidths[i] > 0) panels_[i]->setFixedWidth(kPanelWidths[i]);
-    statusBar()->addWidget(panels_[i], kPanelWidths[i] > 0 ? 0 : 1);
   }
+  statusBar()->setFixedHeight(statusBar()->fontMetrics().height() + 2 * kPanelMargin);
+}
+
+void MainWindow::LayStatusBar() {
+  const auto widths = StatusPanelWidths(TwipsOfPixels(width()));
+  int left = 0;
+  for (std::size_t i = 0; i < panels_.size(); ++i) {
+    const int panel_width = PixelsOfTwips(widths[i]);
+    panels_[i]->setGeometry(left, 0, panel_width, statusBar()->height());
+    left += panel_width;
+  }
+}
+
+// The programmers' way into the store: a button that users don't see, pressed by its shortcut.
+void MainWindow::BuildDataButton() {
+  auto* const cmd_data = new QPushButton(this);
+  NameWidget(cmd_data, "cmd_data");
+  cmd_data->hide();
+  connect(cmd_data, &QPushButton::clicked, this, [this] { ShowDataWindow(program_, this); });
+  auto* const shortcut = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Alt+Shift+D")), this);
+  connect(shortcut, &QShortcut::activated, cmd_data, &QPushButton::click);
 }
 
 void MainWindow::Give(Command command) {
@@ -147,21 +179,35 @@ void MainWindow::Give(Command command) {
 void MainWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
   for (const MenuEntry& entry : menus_) entry.menu->setTitle(ToQt(texts[entry.caption]));
-  for (const CommandAction& entry : menu_actions_) {
-    SetActionTexts(entry.action, texts[entry.caption], {});
+  for (const DropDownAction& entry : drop_down_actions_) {
+    SetActionTexts(entry.action, texts[entry.row->caption],
+                   TipOf(program_, entry.row->command, std::nullopt));
   }
-  for (const CommandAction& entry : button_actions_) {
-    SetActionTexts(entry.action, texts[entry.caption],
-                   entry.tip ? std::string_view(texts[*entry.tip]) : std::string_view());
-  }
+  Toolbar_quickscreens_->setAccessibleName(ToQt(texts[main_text::kQuickToolbarName]));
+  menu_toolbar_->setAccessibleName(ToQt(texts[main_text::kToolbarName]));
+  area_->setAccessibleName(ToQt(texts[main_text::kChildAreaName]));
+  statusBar()->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
+  panels_[0]->setToolTip(ToQt(texts[main_text::kTipProgramPanel]));
+  panels_[1]->setToolTip(ToQt(texts[main_text::kTipUserPanel]));
   Set_toolbar_teksten();
-  UpdateStatusBar();
+  UpdateCommands();
 }
 
 void MainWindow::Set_toolbar_teksten() {
   const bool with_text = program_.settings[Setting::chk_help] == "1";
   menu_toolbar_->setToolButtonStyle(with_text ? Qt::ToolButtonTextUnderIcon
                                               : Qt::ToolButtonIconOnly);
+  for (const ButtonAction& entry : button_actions_) SetButtonTexts(entry);
+}
+
+// The caption of a button goes when large texts are off; its tool tip and its name for assistive
+// tools stay.
+void MainWindow::SetButtonTexts(const ButtonAction& entry) {
+  const Text& caption = program_.texts[entry.row->caption];
+  SetActionTexts(entry.action, caption, TipOf(program_, entry.row->command, entry.row->tip));
+  const bool large = program_.settings[Setting::chk_help] == "1";
+  if (!large && entry.button->parentWidget() == menu_toolbar_) entry.action->setText({});
+  entry.button->setAccessibleName(ToQt(caption));
 }
 
 void MainWindow::ShowMainWindow() {
@@ -182,13 +228,19 @@ void MainWindow::UpdateCommands() {
   for (const MenuEntry& entry : menus_) {
     entry.menu->setEnabled(MenuEnabled(program_, entry.name));
   }
-  for (const auto* actions : {&menu_actions_, &button_actions_}) {
-    for (const CommandAction& entry : *actions) {
-      entry.action->setEnabled(CommandEnabled(program_, entry.command));
-      if (entry.action->isCheckable()) {
-        entry.action->setChecked(CommandIsDown(program_, entry.command));
-      }
-    }
+  const auto bring_in_step = [this](QAction* action, Command command, bool enabled) {
+    action->setEnabled(enabled);
+    if (action->isCheckable()) action->setChecked(CommandIsDown(program_, command));
+  };
+  for (const auto& [action, row] : item_actions_) {
+    bring_in_step(action, row->command, CommandEnabled(program_, row->command));
+    SetActionTexts(action, CaptionOf(program_, *row), TipOf(program_, row->command, row->tip));
+  }
+  for (const auto& [action, row] : drop_down_actions_) {
+    bring_in_step(action, row->command, CommandEnabled(program_, row->command));
+  }
+  for (const auto& [action, button, row] : button_actions_) {
+    bring_in_step(action, row->command, ButtonEnabled(program_, row->command));
   }
   UpdateStatusBar();
 }
@@ -228,6 +280,10 @@ void MainWindow::OpenSettings() {
   if (program_.windows.properties == nullptr) ShowSettingsDialog(program_, this);
 }
 
+// The two places of the food dialogs, which this version does not have; their commands say so.
+void MainWindow::ShowItem(std::string_view, std::string_view) {}
+void MainWindow::OpenNewFood() {}
+
 void MainWindow::ShowSplash() {
   ShowPopup(program_, kSplashMode, this);
 }
@@ -252,6 +308,11 @@ void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSiz
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(MayEndProgram(program_));
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  LayStatusBar();
 }
 
 }  // namespace kelvora

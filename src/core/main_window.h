@@ -15,6 +15,7 @@
 #include "core/views.h"
 
 class QMdiSubWindow;
+class QToolButton;
 
 namespace kelvora {
 
@@ -34,18 +35,29 @@ class MainWindow : public QMainWindow, public CoreView {
   [[nodiscard]] MainWindowSize Size() const override;
   void OpenWindow(WindowId id) override;
   void OpenSettings() override;
+  void ShowItem(std::string_view tag, std::string_view line) override;
+  void OpenNewFood() override;
   void ShowSplash() override;
   void ShowAbout() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  struct CommandAction {
+  // The pictures of a command: its item in the menu, its button, its entry in a drop-down menu.
+  struct ItemAction {
     QAction* action;
-    Command command;
-    TextId caption;
-    std::optional<TextId> tip;
+    const MenuRow* row;
+  };
+  struct ButtonAction {
+    QAction* action;
+    QToolButton* button;
+    const ButtonRow* row;
+  };
+  struct DropDownAction {
+    QAction* action;
+    const DropDownRow* row;
   };
   struct MenuEntry {
     QMenu* menu;
@@ -55,8 +67,11 @@ class MainWindow : public QMainWindow, public CoreView {
 
   void BuildMenu();
   QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
-  void AddDropDown(QToolBar* bar, QAction* action, Command drop_down);
+  void AddDropDown(QToolButton* button, Command drop_down);
   void BuildStatusBar();
+  void LayStatusBar();
+  void BuildDataButton();
+  void SetButtonTexts(const ButtonAction& entry);
   void Give(Command command);
   void OpenConsumption(DayPart part, const char* icon);
   void OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum = {0, 0});
@@ -64,8 +79,9 @@ class MainWindow : public QMainWindow, public CoreView {
   Program& program_;
   QMdiArea* area_;
   std::vector<MenuEntry> menus_;
-  std::vector<CommandAction> menu_actions_;
-  std::vector<CommandAction> button_actions_;
+  std::vector<ItemAction> item_actions_;
+  std::vector<ButtonAction> button_actions_;
+  std::vector<DropDownAction> drop_down_actions_;
   QToolBar* menu_toolbar_;
   QToolBar* Toolbar_quickscreens_;
   std::array<QLabel*, 4> panels_;

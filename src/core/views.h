@@ -96,6 +96,11 @@ struct CoreView {
   virtual void OpenWindow(WindowId id) = 0;
   // Shows the settings dialog modally; returns when it is gone.
   virtual void OpenSettings() = 0;
+  // Shows the details of one food line, told apart by the tag of the list that it comes from:
+  // "zoeken", "custom", "favo" or "internet".
+  virtual void ShowItem(std::string_view tag, std::string_view line) = 0;
+  // Shows the dialog for a new food modally; returns when it is gone.
+  virtual void OpenNewFood() = 0;
   // Shows the splash, which ends by itself; returns at once.
   virtual void ShowSplash() = 0;
   // Shows the About window modally; returns when it is gone.

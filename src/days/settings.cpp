@@ -4,6 +4,7 @@
 #include <array>
 
 #include "internet/servers.h"
+#include "internet/update.h"
 #include "language/choose_language.h"
 #include "language/properties_texts.h"
 #include "nutrition/totals.h"
@@ -148,6 +149,7 @@ bool Save_From_Form(Program& program, const SettingsForm& form) {
     Zet_Server_Adressen(program);
     Save_Settings(program);
     RefreshAmounts(program);
+    CheckForUpdateOnce(program);
     if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
   });
 }

@@ -27,12 +27,18 @@ std::string_view Trim(std::string_view text) {
   return text.substr(0, text.find_last_not_of(kBlanks) + 1);
 }
 
+bool IsWebAddress(std::string_view value) {
+  return value.starts_with("http://") || value.starts_with("https://");
+}
+
 void TakeLine(std::string_view line, ServerHosts& hosts) {
   line = line.substr(0, line.find('#'));
   const std::size_t equals = line.find('=');
   if (equals == line.npos) return;
+  const std::string_view value = Trim(line.substr(equals + 1));
+  if (!IsWebAddress(value)) return;
   for (const auto& [key, host] : kHostKeys) {
-    if (Trim(line.substr(0, equals)) == key) hosts.*host = Trim(line.substr(equals + 1));
+    if (Trim(line.substr(0, equals)) == key) hosts.*host = value;
   }
 }
 

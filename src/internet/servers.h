@@ -2,7 +2,8 @@
 //
 // One `key = value` a line, "#" begins a comment; keys are dutch, english, update and website, each
 // value an http or https address without the path of a single service. A key or a file that is
-// missing leaves that address empty, and a request to an empty address fails at once.
+// missing, or a value of another kind, leaves that address empty; a request to an empty address
+// fails at once.
 #pragma once
 
 #include <string>

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "core/arrangement.h"
+#include "language/built_in_texts.h"
+#include "language/main_texts.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
 
@@ -28,40 +30,173 @@ struct NotedWindow : ConsumptionView {
   void ShowTotals(const ConsumptionTotals&) override {}
 };
 
-TEST(Commands, WithoutUserAndDayOnlyWhatNeedsNeitherWorks) {
-  TestProgram test;
-  std::vector<std::string_view> enabled;
-  for (const MenuRow& row : MainMenu()) {
-    if (CommandEnabled(test.program, row.command)) enabled.push_back(row.name);
+// The four states a program can be in, in the order of growth.
+enum class State { empty, user, day, changed_day };
+constexpr std::array kStates = {State::empty, State::user, State::day, State::changed_day};
+
+void Enter(TestProgram& test, State state) {
+  if (state == State::user) test.program.paths.UserName = "Anna";
+  if (state >= State::day) test.OpenDay("Anna");
+  if (state == State::changed_day) SetFileChanged(test.program, true);
+}
+
+// Each command with the first state in which it is enabled, as an item and as a button.
+struct EnableRow {
+  Command command;
+  State item;
+  State button;
+};
+constexpr std::array kEnableRows = {
+    EnableRow{Command::mnu_startupwizzard, State::empty, State::empty},
+    EnableRow{Command::mnu_new, State::empty, State::empty},
+    EnableRow{Command::mnu_browse, State::empty, State::empty},
+    EnableRow{Command::mnu_bestand_opslaan, State::day, State::changed_day},
+    EnableRow{Command::mnu_exporteer_html, State::user, State::user},
+    EnableRow{Command::mnu_exporteer_xml, State::user, State::user},
+    EnableRow{Command::mnu_exporteer_dta, State::user, State::user},
+    EnableRow{Command::mnu_properties, State::empty, State::empty},
+    EnableRow{Command::mnu_file_properties, State::day, State::day},
+    EnableRow{Command::mnu_print_dag, State::day, State::day},
+    EnableRow{Command::mnu_print_reis, State::day, State::day},
+    EnableRow{Command::mnu_bestand_sluiten, State::empty, State::empty},
+    EnableRow{Command::mnu_in_ochtend, State::day, State::day},
+    EnableRow{Command::mnu_in_middag, State::day, State::day},
+    EnableRow{Command::mnu_in_avond, State::day, State::day},
+    EnableRow{Command::mnu_in_notities, State::day, State::day},
+    EnableRow{Command::mnu_item_info, State::user, State::user},
+    EnableRow{Command::mnu_item_voegtoe, State::user, State::user},
+    EnableRow{Command::mnu_item_del, State::user, State::user},
+    EnableRow{Command::mnu_item_favo, State::user, State::user},
+    EnableRow{Command::mnu_uit_daguittreksel, State::day, State::day},
+    EnableRow{Command::mnu_uit_meerdaagsuittreksel, State::user, State::user},
+    EnableRow{Command::mnu_voedingswaarde_tabel, State::user, State::user},
+    EnableRow{Command::mnu_weegschaal, State::empty, State::user},
+    EnableRow{Command::mnu_website_Etenlijn, State::empty, State::empty},
+    EnableRow{Command::mnu_reset_taal, State::empty, State::empty},
+    EnableRow{Command::mnu_diagnose, State::empty, State::empty},
+    EnableRow{Command::mnu_help_index, State::empty, State::empty},
+    EnableRow{Command::mnu_about, State::empty, State::empty},
+    EnableRow{Command::mnu_website, State::empty, State::empty},
+    EnableRow{Command::mnu_check_updates, State::empty, State::empty},
+    EnableRow{Command::print_drop_down, State::day, State::day},
+    EnableRow{Command::consumptions_drop_down, State::day, State::day},
+    EnableRow{Command::quick_default, State::day, State::day},
+    EnableRow{Command::quick_all, State::day, State::day},
+    EnableRow{Command::quick_reset, State::empty, State::empty},
+};
+
+TEST(Commands, EachIsEnabledFromItsStateOnWhereItIsServed) {
+  for (const State state : kStates) {
+    TestProgram test;
+    Enter(test, state);
+    for (const EnableRow& row : kEnableRows) {
+      const bool served = IsServed(row.command);
+      const auto where = [&] {
+        return "command " + std::to_string(static_cast<int>(row.command)) + ", state " +
+               std::to_string(static_cast<int>(state));
+      };
+      EXPECT_EQ(CommandEnabled(test.program, row.command), served && state >= row.item) << where();
+      EXPECT_EQ(ButtonEnabled(test.program, row.command), served && state >= row.button) << where();
+    }
   }
-  EXPECT_EQ(enabled, (std::vector<std::string_view>{"mnu_startupwizzard", "mnu_new", "mnu_browse",
-                                                    "mnu_properties", "mnu_bestand_sluiten",
-                                                    "mnu_reset_taal", "mnu_about"}));
-  EXPECT_TRUE(MenuEnabled(test.program, "mnu_bestand"));
-  for (const char* menu :
-       {"mnu_consumpties", "mnu_opties", "mnu_resultaten", "mnu_tabellen", "mnu_exporteer"}) {
-    EXPECT_FALSE(MenuEnabled(test.program, menu)) << menu;
+  EXPECT_FALSE(IsServed(Command::none));
+}
+
+TEST(Commands, MenusNeedAUserOrADay) {
+  for (const State state : kStates) {
+    TestProgram test;
+    Enter(test, state);
+    for (const char* menu : {"mnu_opties", "mnu_resultaten", "mnu_tabellen", "mnu_exporteer"}) {
+      EXPECT_EQ(MenuEnabled(test.program, menu), state >= State::user) << menu;
+    }
+    EXPECT_EQ(MenuEnabled(test.program, "mnu_consumpties"), state >= State::day);
+    for (const char* menu : {"mnu_bestand", "mnu_printen", "mnu_extra", "mnu_informatie"}) {
+      EXPECT_TRUE(MenuEnabled(test.program, menu)) << menu;
+    }
   }
 }
 
-TEST(Commands, AUserWithoutADayOpensTheFoodListsOnly) {
-  TestProgram test;
-  test.program.paths.UserName = "Anna";
-  EXPECT_TRUE(CommandEnabled(test.program, Command::mnu_voedingswaarde_tabel));
-  EXPECT_FALSE(CommandEnabled(test.program, Command::mnu_in_ochtend));
-  EXPECT_TRUE(MenuEnabled(test.program, "mnu_tabellen"));
-  EXPECT_FALSE(MenuEnabled(test.program, "mnu_consumpties"));
-}
-
-TEST(Commands, SaveFollowsTheUnsavedChanges) {
+TEST(Commands, SavingTakesTheChangesToTheDiskAndItsButtonDown) {
   TestProgram test;
   test.OpenDay("Anna");
-  EXPECT_FALSE(CommandEnabled(test.program, Command::mnu_bestand_opslaan));
   SetFileChanged(test.program, true);
-  EXPECT_TRUE(CommandEnabled(test.program, Command::mnu_bestand_opslaan));
   EXPECT_EQ(test.core.updates, 1);
   RunCommand(test.program, Command::mnu_bestand_opslaan);
-  EXPECT_FALSE(CommandEnabled(test.program, Command::mnu_bestand_opslaan));
+  EXPECT_FALSE(test.program.day.FileChanged);
+  EXPECT_FALSE(ButtonEnabled(test.program, Command::mnu_bestand_opslaan));
+}
+
+TEST(Commands, WhatIsNotServedSaysSoBehindItsTip) {
+  TestProgram test;
+  EXPECT_EQ(TipOf(test.program, Command::mnu_new, main_text::kTipNew), "Start new file or user");
+  EXPECT_EQ(TipOf(test.program, Command::mnu_bestand_sluiten, std::nullopt), "");
+  ASSERT_FALSE(IsServed(Command::mnu_check_updates));
+  EXPECT_EQ(TipOf(test.program, Command::mnu_check_updates, main_text::kTipUpdate),
+            "Check for newer version of Kelvora FOOD\nNot part of this version yet.");
+  Make_Taal_Dutch(test.program.texts);
+  EXPECT_EQ(TipOf(test.program, Command::mnu_check_updates, std::nullopt),
+            "Nog geen deel van deze versie.");
+}
+
+TEST(Commands, TheProfileCommandOpensTheDialogForTheOpenDay) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  RunCommand(test.program, Command::mnu_file_properties);
+  EXPECT_EQ(test.program.day.DayDialogMode, DayDialogMode::day_settings);
+  EXPECT_EQ(test.core.opened, std::vector<WindowId>{WindowId::day_settings});
+  EXPECT_TRUE(test.boxes.shown.empty());
+}
+
+TEST(Commands, TheProfileCommandWarnsAboutADayWithAnEmptyHeader) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  test.program.store.L_gegevens.Clear();
+  RunCommand(test.program, Command::mnu_file_properties);
+  EXPECT_EQ(test.program.day.DayDialogMode, DayDialogMode::new_day);
+  EXPECT_TRUE(test.core.opened.empty());
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::warning);
+  EXPECT_EQ(test.boxes.shown[0].title, "Kelvora FOOD");
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "There is no file opened yet.\nMake a new file or open an existing file.");
+}
+
+TEST(Commands, ThePrintButtonItselfPointsToItsMenu) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  RunCommand(test.program, Command::print_drop_down);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::information);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "Select a print option with the 'pull down' menu.\nSeveral options are available.");
+}
+
+TEST(Commands, DropDownMenusHaveTheirEntriesInOrder) {
+  TestProgram test;
+  const auto captions = [&](Command drop_down) {
+    std::vector<Text> found;
+    for (const DropDownRow& row : RowsOfDropDown(drop_down)) {
+      found.push_back(test.program.texts[row.caption]);
+    }
+    return found;
+  };
+  EXPECT_EQ(captions(Command::print_drop_down),
+            (std::vector<Text>{"Print summary of this day", "Print travel form"}));
+  std::vector<Command> toggles;
+  for (const DropDownRow& row : RowsOfDropDown(Command::consumptions_drop_down)) {
+    toggles.push_back(row.command);
+  }
+  EXPECT_EQ(toggles, (std::vector<Command>{Command::mnu_in_ochtend, Command::mnu_in_middag,
+                                           Command::mnu_in_avond}));
+  EXPECT_TRUE(RowsOfDropDown(Command::mnu_new).empty());
+}
+
+TEST(Commands, TheFoodServerIsCalledByTheNameOfTheChosenService) {
+  TestProgram test;
+  const auto row = std::ranges::find(MainMenu(), "mnu_website_Etenlijn", &MenuRow::name);
+  EXPECT_EQ(CaptionOf(test.program, *row), "Etenlijn");
+  test.program.settings[Setting::opt_server] = "1";
+  EXPECT_EQ(CaptionOf(test.program, *row), "Bitewell");
 }
 
 TEST(Commands, ADisabledCommandDoesNothing) {
@@ -113,14 +248,17 @@ TEST(Commands, DefaultScreensCloseEverythingInOrderAndRememberTheChoice) {
   EXPECT_EQ((*saved)[Setting::chk_all_screens], "0");
 }
 
-TEST(Commands, TheOtherArrangementAddsTheSmallSummary) {
+TEST(Commands, TheOtherArrangementAddsTheSmallSummaryAndRemembersTheChoice) {
   TestProgram test;
-  test.program.settings[Setting::chk_all_screens] = "1";
-  ApplyChosenArrangement(test.program);
+  test.OpenDay("Anna");
+  RunCommand(test.program, Command::quick_all);
   EXPECT_EQ(test.core.opened,
             (std::vector<WindowId>{WindowId::morning, WindowId::afternoon, WindowId::evening,
                                    WindowId::lists, WindowId::day_summary}));
-  EXPECT_EQ(test.program.windows.geometry.SummarySmall, 1);
+  EXPECT_EQ(test.program.windows.geometry, GeometryWithSummary(test.core.size));
+  const auto saved = ReadFirstRecord<Rec_Settings>(test.program.paths.SettingsFile);
+  ASSERT_TRUE(saved.has_value());
+  EXPECT_EQ((*saved)[Setting::chk_all_screens], "1");
 }
 
 TEST(Commands, EndingAsksOnlyAboutUnsavedChangesAndNoCancels) {

@@ -38,6 +38,16 @@ TEST_F(Servers, HostsComeFromTheFileBesideTheProgram) {
   EXPECT_EQ(hosts.website, "http://www.example.org");
 }
 
+TEST_F(Servers, AValueThatIsNoWebAddressLeavesItsServiceUnset) {
+  const ServerHosts hosts = ParseServerHosts(
+      "dutch = ftp://nl.example\nenglish = www.example.org\nupdate = -h\nwebsite = "
+      "http://w.example\n");
+  EXPECT_EQ(hosts.dutch, "");
+  EXPECT_EQ(hosts.english, "");
+  EXPECT_EQ(hosts.update, "");
+  EXPECT_EQ(hosts.website, "http://w.example");
+}
+
 TEST_F(Servers, TheSettingChoosesTheService) {
   Choice() = "1";
   Zet_Server_Adressen(test.program);

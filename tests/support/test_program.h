@@ -103,6 +103,8 @@ struct RecordingCore : CoreView {
   std::vector<WindowId> opened;
   int updates = 0;
   int settings_opened = 0;
+  int new_foods_opened = 0;
+  std::vector<std::pair<Text, Text>> items_shown;  // tag and line
   int toolbar_texts_set = 0;
   int splashes = 0;
   int abouts = 0;
@@ -115,6 +117,10 @@ struct RecordingCore : CoreView {
   MainWindowSize Size() const override { return size; }
   void OpenWindow(WindowId id) override { opened.push_back(id); }
   void OpenSettings() override { ++settings_opened; }
+  void ShowItem(std::string_view tag, std::string_view line) override {
+    items_shown.emplace_back(tag, line);
+  }
+  void OpenNewFood() override { ++new_foods_opened; }
   void ShowSplash() override { ++splashes; }
   void ShowAbout() override { ++abouts; }
 };

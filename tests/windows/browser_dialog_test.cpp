@@ -279,7 +279,7 @@ TEST_F(BrowserWindow, FromTheMainWindowADayOpensWithItsWindows) {
   auto* const morning = window.findChild<QWidget*>("KV_tb_vochtend");
   ASSERT_NE(morning, nullptr);
   EXPECT_TRUE(morning->isVisible());
-  EXPECT_FALSE(CommandEnabled(program, Command::mnu_bestand_opslaan));
+  EXPECT_FALSE(ButtonEnabled(program, Command::mnu_bestand_opslaan));
 }
 
 TEST_F(BrowserWindow, IsModalAndReturnsWhenItIsClosed) {

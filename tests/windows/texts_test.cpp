@@ -27,6 +27,7 @@
 #include "days/wizard_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
+#include "language/own_texts.h"
 #include "platform/qt/text.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
@@ -54,9 +55,13 @@ TextTables NumberedTexts(std::string_view brackets) {
   return texts;
 }
 
-// What of a text does not come from the tables; the data of these tests is numbers only.
+// What of a text does not come from the tables, nor from the few texts that have no place there;
+// the data of these tests is numbers only.
 QString Foreign(QString text, const char* token) {
   text.remove(QRegularExpression(QLatin1String(token)));
+  for (int id = 0; id < kOwnTextCount; ++id) {
+    text.remove(ToQt(OwnTextIn(Language::english, static_cast<OwnText>(id))));
+  }
   text.remove(QRegularExpression(QStringLiteral("[0-9\\s&:;.,/()'+-]")));
   return text;
 }

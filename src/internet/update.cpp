@@ -1,0 +1,7 @@
+#include "internet/update.h"
+
+namespace kelvora {
+
+void CheckForUpdateOnce(Program&) {}
+
+}  // namespace kelvora
