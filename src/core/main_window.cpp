@@ -26,6 +26,16 @@ constexpr int kToolbarIconSize = 24;
 constexpr int kQuickIconSize = 16;
 constexpr int kPanelMargin = 4;  // above and below the letters of the status bar
 
+// A title with the mark of its keyboard letter: the first that no other menu has yet.
+QString WithMnemonic(const QString& title, QString& taken) {
+  for (qsizetype i = 0; i < title.size(); ++i) {
+    if (!title[i].isLetter() || taken.contains(title[i], Qt::CaseInsensitive)) continue;
+    taken += title[i];
+    return QString(title).insert(i, '&');
+  }
+  return title;
+}
+
 QString QtName(std::string_view name) {
   return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
 }
@@ -48,6 +58,8 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   Toolbar_quickscreens_->setIconSize({kQuickIconSize, kQuickIconSize});
   Toolbar_quickscreens_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   addToolBar(Qt::BottomToolBarArea, Toolbar_quickscreens_);
+  auto* const menu_key = new QShortcut(QKeySequence(Qt::Key_F10), this);
+  connect(menu_key, &QShortcut::activated, this, &MainWindow::OpenFirstMenu);
   BuildStatusBar();
   BuildDataButton();
   UpdateCommands();  // nothing looks usable while the start is still under way
@@ -157,6 +169,11 @@ void MainWindow::LayStatusBar() {
   }
 }
 
+void MainWindow::OpenFirstMenu() {
+  menuBar()->setFocus(Qt::MenuBarFocusReason);
+  menuBar()->setActiveAction(menuBar()->actions().first());
+}
+
 // The programmers' way into the store: a button that users don't see, pressed by its shortcut.
 void MainWindow::BuildDataButton() {
   auto* const cmd_data = new QPushButton(this);
@@ -178,7 +195,7 @@ void MainWindow::Give(Command command) {
 
 void MainWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
-  for (const MenuEntry& entry : menus_) entry.menu->setTitle(ToQt(texts[entry.caption]));
+  SetMenuTitles();
   for (const DropDownAction& entry : drop_down_actions_) {
     SetActionTexts(entry.action, texts[entry.row->caption],
                    TipOf(program_, entry.row->command, std::nullopt));
@@ -191,6 +208,15 @@ void MainWindow::Set_Taal() {
   panels_[1]->setToolTip(ToQt(texts[main_text::kTipUserPanel]));
   Set_toolbar_teksten();
   UpdateCommands();
+}
+
+void MainWindow::SetMenuTitles() {
+  QString taken;
+  for (const MenuEntry& entry : menus_) {
+    const QString title = ToQt(program_.texts[entry.caption]).replace('&', QStringLiteral("&&"));
+    const bool in_menu_bar = entry.menu->parentWidget() == menuBar();
+    entry.menu->setTitle(in_menu_bar ? WithMnemonic(title, taken) : title);
+  }
 }
 
 void MainWindow::Set_toolbar_teksten() {

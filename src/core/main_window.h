@@ -66,6 +66,8 @@ class MainWindow : public QMainWindow, public CoreView {
   };
 
   void BuildMenu();
+  void SetMenuTitles();
+  void OpenFirstMenu();
   QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
   void AddDropDown(QToolButton* button, Command drop_down);
   void BuildStatusBar();

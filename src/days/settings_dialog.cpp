@@ -123,16 +123,18 @@ void SettingsDialog::BuildLanguageAndPrinter(QVBoxLayout* page) {
     const char* label;
     TextId text;
     TextId tip;
+    int columns;
   };
   int line = 0;
+  // The words that there is no printer need all of the width.
   for (const Row& row :
-       {Row{Combo_taal_, "lbl_Combo_taal", kSelectLanguage, kTipSelectLanguage},
-        Row{combo_printer_, "lbl_combo_printer", kSelectPrinter, kTipSelectPrinter}}) {
+       {Row{Combo_taal_, "lbl_Combo_taal", kSelectLanguage, kTipSelectLanguage, 1},
+        Row{combo_printer_, "lbl_combo_printer", kSelectPrinter, kTipSelectPrinter, 2}}) {
     QLabel* const label = MakeCaption(group, row.label, row.text);
     label->setBuddy(row.list);
     captions_.push_back({row.list, "accessibleName", row.text, row.tip});
     grid->addWidget(label, line, 0);
-    grid->addWidget(row.list, line++, 1);
+    grid->addWidget(row.list, line++, 1, 1, row.columns);
   }
   grid->addWidget(cmd_reset, 0, 2);
   captions_.push_back({combo_printer_, "placeholderText", kNoPrinter, std::nullopt});

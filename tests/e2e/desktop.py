@@ -80,12 +80,17 @@ class Desktop:
                     process.wait()
         self.processes.clear()
 
-    def start(self, program, locale="C.UTF-8", first_run=False):
-        """Starts the program under a locale, waits for its main window and the end of the splash,
-        answers the first run (the box, then the settings, which Return saves as they stand) and
-        closes the wizard."""
+    def launch(self, program, locale="C.UTF-8"):
+        """Starts the program under a locale and waits for nothing."""
         process = subprocess.Popen([program], env=self.environment | {"LANG": locale})
         self.processes.append(process)
+        return process
+
+    def start(self, program, locale="C.UTF-8", first_run=False, wizard=True):
+        """Starts the program under a locale, waits for its main window and the end of the splash,
+        answers the first run (the box, then the settings, which Return saves as they stand) and
+        closes the wizard where one comes up."""
+        process = self.launch(program, locale)
         self.window("^Kelvora FOOD$")
         # The splash plays until its own end, whatever else is up.
         self.no_window(SPLASH)
@@ -96,11 +101,16 @@ class Desktop:
             self.keys("Return")
             self.no_window(SETTINGS_TITLE)
             self.settle()
-        self.window(WIZARD)
-        self.settle()
-        self.keys("Escape")
-        self.no_window(WIZARD)
+        if wizard:
+            self.window(WIZARD)
+            self.settle()
+            self.keys("Escape")
+            self.no_window(WIZARD)
         return process
+
+    def shows(self, title):
+        """Whether a visible window has that title now."""
+        return bool(self.output("xdotool", "search", "--onlyvisible", "--name", title))
 
     def output(self, *command):
         try:

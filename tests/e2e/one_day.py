@@ -61,7 +61,13 @@ def row(index):
 
 def make_user_and_day(desktop, title="Start a new day", gender="F"):
     desktop.keys("ctrl+n")
+    fill_in_day(desktop, title, gender)
+
+
+def fill_in_day(desktop, title, gender):
+    """Fills in the dialog for a new day, which is opening, and starts the day."""
     desktop.window(f"^{title}$")
+    desktop.settle()
     desktop.type("Anna")
     desktop.keys("Tab", gender, "Tab")
     desktop.type("42")

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Takes the pictures of the running program: the main window with a day in it, and the dialogs.
+"""Takes the pictures of the running program: the windows of the start, the main window with a day in
+it, and the dialogs.
 
 The arguments are the built program, the folder for the pictures and the name of a language file.
 Not a test: a person looks at what it makes.
@@ -7,15 +8,18 @@ Not a test: a person looks at what it makes.
 import struct
 import subprocess
 import sys
+import time
 from pathlib import Path
 
-from desktop import Desktop
+from desktop import SPLASH, WIZARD, Desktop
 from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
 
 AFTERNOON = (800, 420)
 AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
 # What differs from English in making a user and a day.
 WORDS = {"nederlands": {"title": "Begin een nieuwe dag", "gender": "V"}}
+SETTINGS = "^(Kelvora FOOD settings|Instellingen van Kelvora FOOD)$"
+ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 
 
 def choose_language(desktop, program, language):
@@ -34,11 +38,42 @@ def take(desktop, path):
     subprocess.run(["import", "-window", "root", str(path)], env=desktop.environment, check=True)
 
 
+def take_window(desktop, title, path):
+    """One window with its frame."""
+    desktop.window(title)
+    window = desktop.output("xdotool", "search", "--onlyvisible", "--name", title).split()[-1]
+    subprocess.run(["import", "-frame", "-window", window, str(path)], env=desktop.environment,
+                   check=True)
+
+
+def take_start(desktop, program, folder, stem):
+    """The splash in the middle of its show, the wizard, the pages of the settings and About."""
+    process = desktop.launch(program)
+    desktop.window(SPLASH)
+    time.sleep(1.2)
+    take_window(desktop, SPLASH, folder / f"splash_{stem}.png")
+    desktop.no_window(SPLASH)
+    desktop.settle()
+    take_window(desktop, WIZARD, folder / f"wizard_{stem}.png")
+    desktop.keys("space", "Down", "Down", "Return")
+    for page in (1, 2, 3):
+        take_window(desktop, SETTINGS, folder / f"settings_{page}_{stem}.png")
+        desktop.keys("ctrl+Tab")
+    desktop.keys("Escape")
+    if desktop.shows(WIZARD):
+        desktop.keys("Escape")
+    desktop.keys("F10", "Left", "Down", "Return")
+    take_window(desktop, ABOUT, folder / f"about_{stem}.png")
+    desktop.keys("Escape", "ctrl+q")
+    process.wait(timeout=20)
+
+
 def main():
     program, folder, language = Path(sys.argv[1]).resolve(), Path(sys.argv[2]), sys.argv[3]
     stem = Path(language).stem.lower()
     with Desktop() as desktop:
         choose_language(desktop, program, language)
+        take_start(desktop, program, folder, stem)
         desktop.start(program)
         take(desktop, folder / f"empty_{stem}.png")
         desktop.keys("ctrl+n")

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableView>
@@ -16,6 +17,7 @@
 #include "core/arrangement.h"
 #include "core/data_window.h"
 #include "language/built_in_texts.h"
+#include "language/main_texts.h"
 #include "platform/qt/text.h"
 #include "support/test_program.h"
 
@@ -105,6 +107,30 @@ TEST_F(MainWindowOfTheProgram, MenusAreDisabledAsAWhole) {
        {"mnu_opties", "mnu_resultaten", "mnu_tabellen", "mnu_exporteer", "mnu_consumpties"}) {
     EXPECT_TRUE(Find<QMenu>(QLatin1String(name))->isEnabled()) << name;
   }
+}
+
+// The first letter of each menu that no earlier one has, worked out by hand.
+TEST_F(MainWindowOfTheProgram, EachMenuOpensByALetterOfItsOwn) {
+  const auto titles = [&] {
+    QStringList found;
+    for (const QAction* menu : window.menuBar()->actions()) found << menu->text();
+    return found.join(' ');
+  };
+  EXPECT_EQ(titles(),
+            "&File &Consumption screens &Options &Statistics &Tables &Extra &Information");
+  test.program.texts[main_text::kConsumptionScreens] = "Foods";
+  window.Set_Taal();
+  EXPECT_EQ(titles(), "&File F&oods O&ptions &Statistics &Tables &Extra &Information");
+  Make_Taal_Dutch(test.program.texts);
+  window.Set_Taal();
+  EXPECT_EQ(titles(),
+            "&Bestand &Consumptieschermen &Opties &Resultaten &Tabellen &Extra &Informatie");
+}
+
+TEST_F(MainWindowOfTheProgram, F10OpensTheFirstMenu) {
+  QTest::keyClick(&window, Qt::Key_F10);
+  EXPECT_TRUE(Find<QMenu>("mnu_bestand")->isVisible());
+  Find<QMenu>("mnu_bestand")->close();
 }
 
 TEST_F(MainWindowOfTheProgram, SaveIsAnItemWithADayAndAButtonWithChanges) {

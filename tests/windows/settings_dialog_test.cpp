@@ -322,6 +322,9 @@ TEST_F(SettingsWindow, NothingIsClippedInEitherLanguage) {
         EXPECT_GE(button->height(), button->sizeHint().height()) << button->text().toStdString();
       }
     }
+    const auto* printers = Find<QComboBox>("combo_printer");
+    EXPECT_GT(printers->width(),
+              printers->fontMetrics().horizontalAdvance(printers->placeholderText()) + 30);
     // 18 controls with words, six labels and notes on the first page, one and two on the others,
     // and the three widgets below and above the tabs on each.
     EXPECT_GE(seen, 18 + 5 + 1 + 2 + 3 * 3);

@@ -58,6 +58,7 @@ TextTables NumberedTexts(std::string_view brackets) {
 // What of a text does not come from the tables, nor from the few texts that have no place there;
 // the data of these tests is numbers only.
 QString Foreign(QString text, const char* token) {
+  text.remove(QLatin1Char('&'));  // the keyboard letter of a menu
   text.remove(QRegularExpression(QLatin1String(token)));
   for (int id = 0; id < kOwnTextCount; ++id) {
     text.remove(ToQt(OwnTextIn(Language::english, static_cast<OwnText>(id))));
