@@ -137,7 +137,7 @@ std::string Report::ReachText(const Pair& pair) const {
     case Reach::Kind::times_limit:
       return "at most " + Print("%g", pair.reach.bound) + " times";
     case Reach::Kind::microseconds:
-      return "under " + Print("%g", pair.reach.bound) + " µs";
+      return "under " + TimeText(pair.reach.bound * 1e-6);
     case Reach::Kind::faster_than:
       return "faster than `" + pair.reach.other + "`";
     case Reach::Kind::none:

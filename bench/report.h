@@ -73,6 +73,7 @@ class Report {
 void AddLoadBenchmarks(Report& report);
 void AddSearchBenchmarks(Report& report);
 void AddDayBenchmarks(Report& report);
+void AddBrowseBenchmarks(Report& report);
 void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
 

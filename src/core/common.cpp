@@ -71,6 +71,10 @@ Text& CleanText(Text& text) {
   return text;
 }
 
+bool CanNameAFolder(std::string_view name) {
+  return name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
+}
+
 bool FileExists(const std::string& path) {
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(path, ignored)) return false;

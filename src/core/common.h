@@ -51,6 +51,10 @@ void MoveConsumption(KV_data& store, std::string_view source, std::string_view k
 // Changes `text` in place and returns it.
 Text& CleanText(Text& text);
 
+// False for what this platform can't put in the name of a folder: "/", NUL, and the whole names
+// "." and "..".
+[[nodiscard]] bool CanNameAFolder(std::string_view name);
+
 // True if `path` can be opened for reading. Only a regular file is one: a folder, a pipe or a
 // device is not.
 [[nodiscard]] bool FileExists(const std::string& path);

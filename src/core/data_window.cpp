@@ -30,7 +30,7 @@ DataWindow::DataWindow(Program& program, QWidget* parent)
   lst_lines_->setModel(&model_);
   lst_lines_->setSelectionBehavior(QAbstractItemView::SelectRows);
   lst_lines_->horizontalHeader()->setStretchLastSection(true);
-  lst_lines_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  lst_lines_->verticalHeader()->setDefaultSectionSize(RowHeight(*this));
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(lst_members_);
   layout->addWidget(lst_lines_, 1);

@@ -3,6 +3,12 @@
 #include "language/message_texts.h"
 
 namespace kelvora {
+namespace {
+
+// Below what is no folder there can be nothing.
+constexpr const char* kNowhere = "/dev/null/";
+
+}  // namespace
 
 FailureBox Program::FailurePath() {
   return {platform.boxes, texts[message_text::kErrorOccurred]};
@@ -18,6 +24,7 @@ Priority PriorityOfUser(const Program& program) {
 }
 
 std::string UserFolder(const Paths& paths, std::string_view name) {
+  if (!CanNameAFolder(name)) return kNowhere;
   return paths.UsersPath + Utf8FromText(name) + "/";
 }
 

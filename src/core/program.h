@@ -85,7 +85,8 @@ void SetCurrentUser(Program& program, std::string_view name);
 // The nutrient that the current user gives priority.
 [[nodiscard]] Priority PriorityOfUser(const Program& program);
 
-// The folder of one user, with its closing "/".
+// The folder of one user, with its closing "/". For a name that no folder can have it is one below
+// a file, so that whatever is read or written there fails and reaches no other folder.
 [[nodiscard]] std::string UserFolder(const Paths& paths, std::string_view name);
 
 // The texts of the tables joined as the lines of one box; an empty id gives an empty line.

@@ -64,6 +64,8 @@ using DayTotals = std::array<float, 7>;
 
 struct DaySummaryView : WindowView {
   virtual void Maak_Voedingsbehoefte(const DayTotals& totals) = 0;
+  // Rebuilds list, body-mass index and texts from the store.
+  virtual void Refresh_Daguittreksel() = 0;
 };
 
 struct BrowserView : WindowView {

@@ -1,9 +1,5 @@
 #include "days/browser.h"
 
-#include <algorithm>
-#include <utility>
-
-#include "core/common.h"
 #include "days/open_day.h"
 #include "days/user_list.h"
 #include "language/browse_texts.h"
@@ -19,90 +15,12 @@ namespace {
 
 using namespace browse_text;
 
-constexpr std::array<TextId, BrowseColumn::kNutrient> kHeadings = {
-    kColumnNumber, kColumnPath, kColumnFile, kColumnDate, kColumnDay, kColumnWeight, kColumnBmi,
-};
-
-// The column of the priority nutrient, in the order of Priority.
-struct NutrientColumn {
-  TextId heading;
-  std::size_t trend_field;
-};
-constexpr std::array kNutrients = {
-    NutrientColumn{kColumnKj, 1},    NutrientColumn{kColumnKcal, 2},
-    NutrientColumn{kColumnFatU, 3},  NutrientColumn{kColumnFatS, 4},
-    NutrientColumn{kColumnCarbs, 5}, NutrientColumn{kColumnProtein, 6},
-};
-
-const NutrientColumn& NutrientOf(const Program& program) {
-  return kNutrients[static_cast<std::size_t>(PriorityOfUser(program))];
-}
-
-// What the list needs of one day file.
-struct StoredDay {
-  Text file_name;
-  Text date, weekday, height, weight;
-  Text trend;
-};
-
-StoredDay ReadDay(Program& program, const std::string& folder, std::string_view file_name) {
-  const Rec_DayFile& record =
-      DecodeOrKeepRecord(ReadFile(folder + Utf8FromText(file_name)), program.last_read.day);
-  TextList header;
-  SplitBlock(record[DayFileField::Header], header);
-  return {Text(file_name),
-          Text(header[HeaderRow::kDate]),
-          Text(header[HeaderRow::kWeekday]),
-          Text(header[HeaderRow::kHeight]),
-          Text(header[HeaderRow::kWeight]),
-          record[DayFileField::Trend]};
-}
-
-std::vector<StoredDay> ReadStoredDays(Program& program, const std::string& folder) {
-  std::vector<StoredDay> days;
-  program.Guard("#F3-0", [&] {
-    program.platform.pointer.ShowWait();
-    const TextList files = FilesIn(folder, ".kvf");
-    program.store.lst_files = files;
-    for (const std::string_view file : files) days.push_back(ReadDay(program, folder, file));
-  });
-  return days;
-}
-
-// A stored weight in the unit of the settings.
-Text WeightText(Program& program, Text kilograms) {
-  const UnitContext units = UnitsOf(program);
-  const Text separator = units.locale.DecimalSeparator();
-  const Text& system = program.settings[Setting::opt_system];
-  if (system == "1") kilograms = Kg_To_Lbs(kilograms, units);
-  if (system == "2") kilograms = Kg_To_Stones(kilograms, units);
-  return FormatNumber(ReadStoredNumber(kilograms), system == "2" ? "#0.0" : "#0.00", separator);
-}
-
-DayRow RowOf(Program& program, const std::string& folder, StoredDay day, std::size_t number) {
-  const UnitContext units = UnitsOf(program);
-  const NutrientColumn& nutrient = NutrientOf(program);
-  DayRow row{folder, day.file_name, {}};
-  auto& cells = row.cells;
-  cells[BrowseColumn::kNumber] = std::to_string(number);
-  cells[BrowseColumn::kPath] = TextFromUtf8(folder) + day.file_name;
-  cells[BrowseColumn::kFile] = day.file_name;
-  cells[BrowseColumn::kDate] = Format_Datum(day.date, program.settings[Setting::opt_system], units);
-  cells[BrowseColumn::kDay] = day.weekday;
-  cells[BrowseColumn::kWeight] = WeightText(program, day.weight);
-  cells[BrowseColumn::kBmi] = Bereken_BMI(day.height, day.weight, units);
-  cells[BrowseColumn::kNutrient] =
-      FormatNumber(ReadStoredNumber(FieldOf(day.trend, nutrient.trend_field)),
-                   PatternOf(PriorityOfUser(program)), units.locale.DecimalSeparator());
-  return row;
-}
-
 // A weight of the profile with its unit; empty if there is none.
 Text WeightWithUnit(Program& program, const Text& kilograms) {
   if (kilograms.empty()) return {};
   const Text& system = program.settings[Setting::opt_system];
   const TextId unit = system == "1" ? kUnitPounds : system == "2" ? kUnitStones : kUnitKilogram;
-  return WeightText(program, kilograms) + " " + program.texts[unit];
+  return BrowsedWeight(program, kilograms) + " " + program.texts[unit];
 }
 
 Text HeightWithUnit(Program& program, Text metres) {
@@ -117,68 +35,29 @@ Text HeightWithUnit(Program& program, Text metres) {
          program.texts[kUnitMeter];
 }
 
-bool MayCloseDayForUser(Program& program) {
-  if (program.store.L_gegevens.Empty()) return true;
-  const Box box{
-      .title = program.texts[kSwitchTitle],
-      .text = JoinLines(program.texts, {kSwitchGoing, kSwitchLost, std::nullopt, kSwitchSure}),
-      .icon = BoxIcon::question,
-      .buttons = BoxButtons::yes_no};
+bool AskYesNo(Program& program, TextId title, Text text) {
+  const Box box{.title = program.texts[title],
+                .text = std::move(text),
+                .icon = BoxIcon::question,
+                .buttons = BoxButtons::yes_no};
   return program.platform.boxes.Show(box) == BoxAnswer::yes;
 }
 
+bool MayCloseDayForUser(Program& program) {
+  if (program.store.L_gegevens.Empty()) return true;
+  return AskYesNo(program, kSwitchTitle,
+                  JoinLines(program.texts, {kSwitchGoing, kSwitchLost, std::nullopt, kSwitchSure}));
+}
+
+bool MayDelete(Program& program, const DayRow& row) {
+  const TextTables& texts = program.texts;
+  const Text sure = texts[kDeleteSure] + " " + row.cells[BrowseColumn::kDate] + " " +
+                    texts[kDeleteSureEnd] + "\n";
+  return AskYesNo(program, kDeleteTitle,
+                  sure + JoinLines(texts, {std::nullopt, kDeletePressYes, kDeletePressNo}));
+}
+
 }  // namespace
-
-std::array<Text, BrowseColumn::kCount> BrowseHeadings(const Program& program) {
-  std::array<Text, BrowseColumn::kCount> headings;
-  for (std::size_t i = 0; i < kHeadings.size(); ++i) headings[i] = program.texts[kHeadings[i]];
-  headings[BrowseColumn::kNutrient] = program.texts[NutrientOf(program).heading];
-  return headings;
-}
-
-Text DateKeyOf(std::string_view stored_date) {
-  Text digits(stored_date);
-  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
-  const Text day_and_month = digits.substr(0, 4);
-  const auto last_two = [](const Text& text) {
-    return text.substr(text.size() - std::min<std::size_t>(2, text.size()));
-  };
-  return last_two(digits) + last_two(day_and_month) + day_and_month.substr(0, 2);
-}
-
-std::vector<std::size_t> ExchangeSorted(const std::vector<double>& keys, Events& events) {
-  struct Entry {
-    double key;
-    std::size_t place;
-  };
-  std::vector<Entry> entries;
-  for (std::size_t i = 0; i < keys.size(); ++i) entries.push_back({keys[i], i});
-  for (Entry& entry : entries) {
-    for (Entry& other : entries) {
-      if (entry.key < other.key) std::swap(entry, other);
-    }
-    events.Yield();
-  }
-  std::vector<std::size_t> places;
-  for (const Entry& entry : entries) places.push_back(entry.place);
-  return places;
-}
-
-std::vector<DayRow> ReadDays(Program& program) {
-  // Another user may be chosen while events run.
-  const std::string folder = program.paths.FilesPath;
-  const std::vector<StoredDay> days = ReadStoredDays(program, folder);
-  std::vector<DayRow> rows;
-  program.Guard("#F3-1", [&] {
-    std::vector<double> keys;
-    for (const StoredDay& day : days) keys.push_back(ReadStoredNumber(DateKeyOf(day.date)));
-    for (const std::size_t place : ExchangeSorted(keys, program.platform.events)) {
-      rows.push_back(RowOf(program, folder, days[place], rows.size() + 1));
-    }
-    program.platform.pointer.Restore();
-  });
-  return rows;
-}
 
 TextList UsersToBrowse(Program& program) {
   TextList names;
@@ -188,7 +67,10 @@ TextList UsersToBrowse(Program& program) {
 
 UserSwitch SwitchUser(Program& program, std::string_view name) {
   if (name == program.paths.UserName) return UserSwitch::same;
-  if (!MayCloseDayForUser(program)) return UserSwitch::refused;
+  const bool has_folder = program.Guard("#F3-3", [name] {
+    if (name.empty() || !CanNameAFolder(name)) ThrowSystemError(std::errc::invalid_argument);
+  });
+  if (!has_folder || !MayCloseDayForUser(program)) return UserSwitch::refused;
   program.Guard("#F3-3", [&] {
     CloseDay(program);
     ChooseUser(program, name);
@@ -201,10 +83,26 @@ UserSwitch SwitchUser(Program& program, std::string_view name) {
 void OpenDayOf(Program& program, const DayRow& row) {
   // The row belongs to a list that may be rebuilt while the day is opened.
   const DayRow chosen = row;
+  const bool has_name = program.Guard("#F3-5", [&chosen] {
+    // Another file may have the name that is left of this one's.
+    if (chosen.folder + Utf8FromText(chosen.file_name) != chosen.path) {
+      ThrowSystemError(std::errc::illegal_byte_sequence);
+    }
+  });
+  if (!has_name) return;
   LoadDay(program, chosen.folder, chosen.file_name);
   const bool loaded = program.store.KV_bestand == chosen.file_name && !program.day.FileChanged;
   // Unsaved work that the user wanted to keep stays marked as unsaved.
   if (loaded) AfterOpenDay(program);
+}
+
+bool DeleteDayOf(Program& program, const DayRow& row) {
+  const std::string path = row.path;
+  if (!MayDelete(program, row)) return false;
+  return program.Guard("#F3-6", [&] {
+    DeleteFileIfThere(path);
+    if (program.windows.browser != nullptr) program.windows.browser->Refresh_Files();
+  });
 }
 
 ProfilePane ProfilePaneOf(Program& program) {

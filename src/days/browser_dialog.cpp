@@ -20,10 +20,6 @@ constexpr int kUsersWidth = 180;
 constexpr int kInitialWidth = 820;
 constexpr int kInitialHeight = 520;
 
-// The shares of the columns in the width of the list; the path and the file name are never seen.
-constexpr std::array<double, BrowseColumn::kCount> kShares = {0.08, 0,    0,    0.2,
-                                                              0.22, 0.17, 0.15, 0.18};
-
 constexpr std::array kPaneCaptions = {kReference, kLastWeight, kGoalWeight, kHeight, kGender, kAge};
 
 }  // namespace
@@ -69,7 +65,7 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
   // Enter in the list presses this button too: it is the default one.
   connect(cmd_openen_, &QPushButton::clicked, this, &BrowserDialog::OpenSelectedDay);
   connect(cmd_annuleer_, &QPushButton::clicked, this, &BrowserDialog::CloseWindow);
-  Set_Taal();
+  SetCaptions();
 }
 
 QWidget* BrowserDialog::BuildUsers() {
@@ -90,29 +86,10 @@ QWidget* BrowserDialog::BuildUsers() {
 QWidget* BrowserDialog::BuildDays() {
   auto* const side = new QWidget(this);
   lbl_days_ = NewLabel(side, "lbl_days");
-  LV_browse_files_ = new QTableView(side);
-  NameWidget(LV_browse_files_, "LV_browse_files");
+  LV_browse_files_ = new DayTable(program_, side);
   lbl_days_->setBuddy(LV_browse_files_);
-  QTableView& list = *LV_browse_files_;
-  model_.SetRowIcon(static_cast<int>(BrowseColumn::kDate), IconNamed("day-row"));
-  list.setModel(&model_);
-  list.setSelectionBehavior(QAbstractItemView::SelectRows);
-  list.setSelectionMode(QAbstractItemView::ExtendedSelection);
-  list.setEditTriggers(QAbstractItemView::NoEditTriggers);
-  list.setAlternatingRowColors(true);
-  list.setShowGrid(false);
-  list.setWordWrap(false);
-  list.setCornerButtonEnabled(false);
-  list.setTabKeyNavigation(false);
-  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  list.verticalHeader()->hide();
-  list.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  list.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  list.horizontalHeader()->setHighlightSections(false);
-  list.horizontalHeader()->setMinimumSectionSize(0);
-  list.horizontalHeader()->setStretchLastSection(true);
-  connect(&list, &QTableView::doubleClicked, this, &BrowserDialog::OpenSelectedDay);
+  connect(LV_browse_files_, &DayTable::OpenAsked, this, &BrowserDialog::OpenSelectedDay);
+  connect(LV_browse_files_, &DayTable::DeleteAsked, this, &BrowserDialog::DeleteSelectedDay);
   auto* const layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(lbl_days_);
@@ -146,6 +123,8 @@ void BrowserDialog::Open() {
   show();
   Refresh_GebruikersLijst();
   Refresh_Files();
+  // Who opens this window most often wants a day of the current user.
+  if (!LV_browse_files_->Rows().empty()) LV_browse_files_->setFocus();
 }
 
 void BrowserDialog::CloseWindow() {
@@ -154,16 +133,22 @@ void BrowserDialog::CloseWindow() {
 
 void BrowserDialog::done(int result) {
   open_flag_.Clear();
+  ++readings_;
   QDialog::done(result);
 }
 
 void BrowserDialog::Set_Taal() {
+  SetCaptions();
+  ShowProfile();
+}
+
+void BrowserDialog::SetCaptions() {
   const TextTables& texts = program_.texts;
   setWindowTitle(ToQt(texts[kTitle]));
   lbl_users_->setText(ToQt(texts[kUsers]));
   lst_users_->setAccessibleName(ToQt(texts[kUsers]));
   lbl_days_->setText(ToQt(texts[kDays]));
-  LV_browse_files_->setAccessibleName(ToQt(texts[kDays]));
+  LV_browse_files_->Set_Taal();
   chk_profiel_->setText(ToQt(texts[kShowProfile]));
   cmd_openen_->setText(ToQt(texts[kOpen]));
   cmd_annuleer_->setText(ToQt(texts[kCancel]));
@@ -171,15 +156,16 @@ void BrowserDialog::Set_Taal() {
     captions_[i]->setText(ToQt(texts[kPaneCaptions[i]]));
     lbl_pr_[i]->setAccessibleName(ToQt(texts[kPaneCaptions[i]]));
   }
-  ShowProfile();
-  ShowRows(std::move(rows_));
 }
 
 void BrowserDialog::Refresh_GebruikersLijst() {
   const TextList names = UsersToBrowse(program_);
   const QSignalBlocker quiet(lst_users_);
   lst_users_->clear();
-  for (const std::string_view name : names) lst_users_->addItem(ToQt(name));
+  for (const std::string_view name : names) {
+    auto* const user = new QListWidgetItem(ToQt(name), lst_users_);  // the list owns it
+    user->setSizeHint({0, RowHeight(*LV_browse_files_)});
+  }
   SelectCurrentUser();
   ShowProfile();
 }
@@ -193,46 +179,23 @@ void BrowserDialog::SelectCurrentUser() {
 
 void BrowserDialog::Refresh_Files() {
   if (program_.paths.FilesPath.empty()) return;
-  ShowRows({});
+  ShowDays({});
   const int reading = ++readings_;
-  std::vector<DayRow> rows = ReadDays(program_);
+  std::vector<DayRow> rows = ReadDays(program_, [this, reading] { return reading != readings_; });
   if (reading != readings_) return;
-  ShowRows(std::move(rows));
+  ShowDays(std::move(rows));
   ShowProfile();
 }
 
-void BrowserDialog::ShowRows(std::vector<DayRow> rows) {
-  rows_ = std::move(rows);
-  const auto headings = BrowseHeadings(program_);
-  std::vector<TextTableModel::Column> columns;
-  for (std::size_t i = 0; i < headings.size(); ++i) {
-    const bool number = i == BrowseColumn::kNumber || i >= BrowseColumn::kWeight;
-    columns.push_back({headings[i], number ? Qt::AlignRight : Qt::AlignLeft});
-  }
-  model_.Show(std::move(columns), rows_.size(),
-              [this](std::size_t row, std::size_t column) { return rows_[row].cells[column]; });
-  cmd_openen_->setEnabled(!rows_.empty());
-  SetColumnWidths();
+void BrowserDialog::ShowDays(std::vector<DayRow> rows) {
+  cmd_openen_->setEnabled(!rows.empty());
+  LV_browse_files_->ShowDays(std::move(rows));
 }
 
 void BrowserDialog::ShowProfile() {
   const ProfilePane pane = ProfilePaneOf(program_);
   lbl_profile_of_->setText(ToQt(pane.heading));
   for (std::size_t i = 0; i < lbl_pr_.size(); ++i) lbl_pr_[i]->setText(ToQt(pane.lbl_pr[i]));
-}
-
-void BrowserDialog::resizeEvent(QResizeEvent* event) {
-  QDialog::resizeEvent(event);
-  SetColumnWidths();
-}
-
-void BrowserDialog::SetColumnWidths() {
-  const int width = LV_browse_files_->viewport()->width();
-  for (std::size_t i = 0; i < kShares.size(); ++i) {
-    const auto share = static_cast<int>(kShares[i] * width);
-    LV_browse_files_->setColumnHidden(static_cast<int>(i), kShares[i] == 0);
-    LV_browse_files_->setColumnWidth(static_cast<int>(i), share);
-  }
 }
 
 void BrowserDialog::ChooseSelectedUser() {
@@ -244,9 +207,17 @@ void BrowserDialog::ChooseSelectedUser() {
 }
 
 void BrowserDialog::OpenSelectedDay() {
-  const int row = LV_browse_files_->currentIndex().row();
-  if (!LV_browse_files_->selectionModel()->isRowSelected(row, {})) return;
-  OpenDayOf(program_, rows_[static_cast<std::size_t>(row)]);
+  const DayTable& list = *LV_browse_files_;
+  const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow());
+  if (row) OpenDayOf(program_, list.Rows()[*row]);
+}
+
+void BrowserDialog::DeleteSelectedDay() {
+  DayTable& list = *LV_browse_files_;
+  const std::vector<std::size_t> selected = list.SelectedRows();
+  if (selected.empty()) return;
+  // What comes next is in its place now.
+  if (DeleteDayOf(program_, list.Rows()[selected.front()])) list.FocusRow(selected.front());
 }
 
 void ShowBrowserDialog(Program& program, QWidget* parent) {

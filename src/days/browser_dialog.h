@@ -3,18 +3,16 @@
 #pragma once
 
 #include <array>
-#include <vector>
 
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTableView>
 
 #include "core/views.h"
 #include "days/browser.h"
-#include "platform/qt/text_table_model.h"
+#include "days/day_table_panel.h"
 
 namespace kelvora {
 
@@ -33,30 +31,26 @@ class BrowserDialog : public QDialog, public BrowserView {
   void Refresh_Files() override;
   void done(int result) override;
 
- protected:
-  void resizeEvent(QResizeEvent* event) override;
-
  private:
   QWidget* BuildUsers();
   QWidget* BuildDays();
   QWidget* BuildProfilePane();
-  void ShowRows(std::vector<DayRow> rows);
+  void SetCaptions();
+  void ShowDays(std::vector<DayRow> rows);
   void ShowProfile();
-  void SetColumnWidths();
   void SelectCurrentUser();
   void ChooseSelectedUser();
   void OpenSelectedDay();
+  void DeleteSelectedDay();
 
   Program& program_;
   OpenFlag<BrowserView> open_flag_;
-  std::vector<DayRow> rows_;
-  TextTableModel model_;
-  // Tells a reading that was overtaken by another one, begun while events ran.
+  // Tells a reading that was overtaken while events ran: by another one, or by the window's end.
   int readings_ = 0;
   QLabel* lbl_users_;
   QListWidget* lst_users_;
   QLabel* lbl_days_;
-  QTableView* LV_browse_files_;
+  DayTable* LV_browse_files_;
   QWidget* profile_pane_;
   QLabel* lbl_profile_of_;
   std::array<QLabel*, 6> captions_;

@@ -1,125 +1,83 @@
-// The person and the day as they are typed: what each field takes, what a form must hold, and how
-// a form becomes the open day, the profile and the folders of its user.
+// The day dialog without its picture: how a form is opened for a new day or for the open one, and
+// what confirming and cancelling do. The two modes share everything behind the tests of the form
+// but the beginning of the day.
 //
-// The form is a copy: nothing of it reaches the store before StartDay. Its values are metric; the
-// texts that it ends in are those of the day header and of the profile.
+// What is typed stays in the form. With `chk_apply` a moved slider reaches the working copy of the
+// profile at once; cancelling brings back what stood there.
 #pragma once
 
-#include <array>
-#include <optional>
-#include <span>
-#include <string_view>
-
-#include "core/program.h"
+#include "days/day_form.h"
 
 namespace kelvora {
 
-struct DayForm {
-  Text pg_0;                        // user name, which is also the name of the folder
-  Text pg_1, pg_2, pg_3, pg_4;      // address, city, postcode
-  Text pg_5;                        // height, metres
-  Text pg_6;                        // weight, kilograms
-  Text pg_7;                        // gender, as the list of the moment words it
-  Text pg_8;                        // age, years
-  Text pg_9_a, pg_9_b, pg_9_c;      // day, month, year; two digits each
-  Text pg_10;                       // goal weight, kilograms
-  Text pg_11;                       // name of the weekday
-  Text pg_12, pg_13, pg_14, pg_15;  // country, reference ID, remark, state
-  Text type_prioriteit;
-  Text txt_kj, txt_kcal, txt_ovet, txt_vvet, txt_nat, txt_ew, txt_kdr;
-
-  bool operator==(const DayForm&) const = default;
+struct DayEditing {
+  DayDialogMode mode = DayDialogMode::new_day;
+  DayForm form;
+  // The working copy and the trend text as they were before something was applied at once.
+  Rec_Profile kept_profile;
+  Text kept_trend;
+  bool applied_at_once = false;
+  bool start_failed = false;
+  bool confirmed = false;
 };
-
-// What the keyboard may put into a text box.
-enum class KeyFilter { none, whole_number, decimal };
-
-// One text box of the first tab: the part of the form that it shows and how much it takes.
-struct DayField {
-  std::string_view name;
-  Text DayForm::*part;
-  std::size_t limit;  // characters
-  KeyFilter filter;
-  TextId caption;
-};
-
-enum class DayFieldId {
-  pg_0,
-  pg_8,
-  txt_lengte_m,
-  txt_streefgewicht,
-  pg_9_a,
-  pg_9_b,
-  pg_9_c,
-  pg_11,
-  txt_gewicht,
-};
-inline constexpr std::size_t kDayFieldCount = 9;
-
-// The text boxes, in the order of DayFieldId, which is also that of the Tab key.
-[[nodiscard]] std::span<const DayField, kDayFieldCount> DayFields();
-
-// Whole numbers take digits and nothing else.
-[[nodiscard]] bool AcceptsWholeNumberKey(char key);
-[[nodiscard]] Text FilterWholeNumber(std::string_view typed);
-
-// Decimals take digits and the decimal separator, which "." and "," both become.
-[[nodiscard]] Text FilterDecimal(std::string_view typed, std::string_view separator);
-
-// What a box makes of a text that was typed or pasted into it.
-[[nodiscard]] Text ApplyKeyFilter(KeyFilter filter, std::string_view typed,
-                                  std::string_view separator);
-
-// Takes what the box shows into the form. A stored value longer than the box shows only its start
-// there, and stays whole until something else is typed.
-void TakeField(DayForm& form, const DayField& field, std::string_view shown);
 
 // The form of someone who has not filled in anything yet, dated today.
 [[nodiscard]] DayForm NewUserForm(const Program& program);
+
+// Begins in the mode of the program, with the form of a new user.
+[[nodiscard]] DayEditing OpenDayEditing(const Program& program);
 
 // The names that the user list shows. A user without a readable profile ends the list with
 // "#F2-0".
 [[nodiscard]] TextList UsersForNewDay(Program& program);
 
-// Makes `name` the current user and gives the form of the profile, dated today. A failure shows
-// "#F2-1".
-[[nodiscard]] DayForm ChooseUserForDay(Program& program, std::string_view name);
+// Makes `name` the current user and gives the form of the profile, dated today. A profile that
+// can't be read or bears another name leaves the person empty. A failure shows "#F2-1".
+void ChooseUserForDay(Program& program, DayEditing& editing, std::string_view name);
 
-// The line above the tabs, by the number of users there are.
-[[nodiscard]] TextId InstructionFor(std::size_t users);
+// Gives the form of the open day: the profile of the current user, read anew, with weight, age,
+// weekday and date of the day. A failure shows "#F2-4".
+void EditOpenDay(Program& program, DayEditing& editing);
 
-// The date of the form as users of the unit system read it; empty while it is incomplete.
-[[nodiscard]] Text DateHint(Program& program, const DayForm& form);
+// The title of the dialog, and the line above the tabs by the number of users there are.
+[[nodiscard]] TextId TitleOf(DayDialogMode mode);
+[[nodiscard]] TextId InstructionFor(DayDialogMode mode, std::size_t users);
 
-// The grey words beside the fields: the same value in other units, and the date. Each is empty
-// while its field is empty.
-struct DayHints {
-  Text lbl_lengteinfo, lbl_gewichtinfo, lbl_streefgewichtinfo, lbl_datuminfo;
-};
-
-// A failure shows "#F2-2" and leaves the hints as far as they came.
-[[nodiscard]] DayHints DrawCoversionsText(Program& program, const DayForm& form);
-
-// What a form can lack, in the order of the tests.
-enum class FormError { illegal_characters, name, height, weight, gender, age, date };
-
-// The first test that the form fails. No test knows the calendar: day 31 passes in any month.
-[[nodiscard]] std::optional<FormError> CheckForm(const DayForm& form);
-
-// The lines of the box for an error.
-[[nodiscard]] Text TextOf(const TextTables& texts, FormError error);
-
-// Copies the form into the working copy of the profile, refreshes the consumption windows and
-// re-totals the day.
+// Copies the form into the working copy of the profile, refreshes the windows that show the day and
+// re-totals it.
 void Apply_To_Profile(Program& program, const DayForm& form);
+
+// Does so for a moved slider or another priority, if `chk_apply` asks for it. A failure shows
+// "#F2-5".
+void ApplyAtOnce(Program& program, DayEditing& editing);
+
+[[nodiscard]] bool AppliesAtOnce(const Program& program);
+
+// Sets `chk_apply`; saves the settings at once.
+void SetAppliesAtOnce(Program& program, bool applies);
 
 // The day header of the form: fifteen rows.
 [[nodiscard]] TextList HeaderOf(const DayForm& form);
 
-// Begins the day: makes the folders of the user and makes that user current, names the day file,
-// and brings the form into the store and the profile file. A user of that name keeps all days; the
-// profile is written anew. False with nothing changed after the box of a failed test, and false
-// after a failure, which shows "#F2-3".
-[[nodiscard]] bool StartDay(Program& program, const DayForm& form);
+// Confirms the form. A new day makes the folders of its user, makes that user current and names the
+// day file; a user of that name keeps all days. Both modes then bring the form into the store and
+// the profile file, which is written anew. False with nothing changed after the box of a failed
+// test, and false after a failure, which shows "#F2-3".
+[[nodiscard]] bool ConfirmDay(Program& program, DayEditing& editing);
+
+// Shows the windows of a day that was begun; an open day keeps those it has.
+void ArrangeAfterConfirming(Program& program, const DayEditing& editing);
+
+// Takes back what was applied at once. A new day that failed half-way is absent again. Does nothing
+// once the form was confirmed. A failure shows "#F2-6".
+void CancelDay(Program& program, DayEditing& editing);
+
+enum class UserRemoval { refused, removed };
+
+// Asks, and removes the folder of a user with all its content. A removed user who was the current
+// one leaves none: name, working copy and food lists go, so that nobody else gets them. Of an open
+// day nothing is lost: it stays in memory, and counts as unsaved if it was that user's. An open
+// browser rebuilds its lists after either answer. A failure shows "#F2-7" and counts as a refusal.
+UserRemoval RemoveUser(Program& program, DayEditing& editing, std::string_view name);
 
 }  // namespace kelvora

@@ -1,25 +1,24 @@
-// KV_bestand, the dialog in which a new day begins. A picture of a DayForm: it draws what
-// day_settings.h gives it and passes what is typed on. Nothing is kept before "Start".
+// KV_bestand, the dialog of a new day and of the settings of the open one. A picture of a
+// DayEditing: it draws what day_settings.h gives it and passes what is typed on. Nothing is kept
+// before "Start" or "Save" but the setting of chk_apply.
 #pragma once
 
-#include <array>
-
-#include <QComboBox>
 #include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QToolButton>
 
 #include "core/views.h"
 #include "days/day_settings.h"
 
-class QGridLayout;
 class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QTabWidget;
 
 namespace kelvora {
+
+class DayAddressPanel;
+class DayPersonPanel;
+class DayTargetsPanel;
+class DayUsersPanel;
 
 class DaySettingsDialog : public QDialog, public WindowView {
   Q_OBJECT
@@ -33,52 +32,31 @@ class DaySettingsDialog : public QDialog, public WindowView {
   void done(int result) override;
 
  private:
-  // A caption and the texts that it takes from the tables.
-  struct Caption {
-    QLabel* label;
-    TextId text;
-  };
-
   void BuildTabs();
-  QWidget* BuildUsers();
-  QWidget* BuildFields();
+  void ConnectUsers();
   QHBoxLayout* BuildButtons();
-  QLabel* AddCaption(QGridLayout* grid, int row, const char* name, TextId text);
-  QLabel* AddHint(QGridLayout* grid, int row, const char* name);
-  void AddFieldRow(QGridLayout* grid, int row, DayFieldId id, std::optional<TextId> unit);
-  void AddDateRow(QGridLayout* grid, int row);
-  QLineEdit* MakeField(DayFieldId id);
-  [[nodiscard]] QLineEdit* Field(DayFieldId id) const {
-    return fields_[static_cast<std::size_t>(id)];
-  }
+  [[nodiscard]] bool IsNewDay() const { return editing_.mode == DayDialogMode::new_day; }
 
-  void FilterTyping(DayFieldId id);
-  void TakeTyped(DayFieldId id);
-  void TakeForm();
-  void ShowForm();
-  void ShowGender();
-  void ShowHints();
+  void FillIn();
+  void PutFocus();
   void ShowUsers();
+  void ShowForm();
+  void TakeForm();
   void ChooseSelectedUser();
   void BeginNewUser();
-  void Start();
+  void RemoveSelectedUser();
+  void Confirm();
 
   Program& program_;
   OpenFlag<WindowView> open_flag_;
-  DayForm form_;
+  DayEditing editing_;
+  std::size_t user_count_ = 0;
   QLabel* lbl_info_;
   QTabWidget* TabStrip1_;
-  QLabel* lbl_users_;
-  QListWidget* lst_users_;
-  QToolButton* new_user_button_;
-  QToolButton* delete_user_button_;
-  QComboBox* pg_7_;
-  std::array<QLineEdit*, kDayFieldCount> fields_{};
-  std::vector<Caption> captions_;
-  QLabel* lbl_lengteinfo_;
-  QLabel* lbl_gewichtinfo_;
-  QLabel* lbl_streefgewichtinfo_;
-  QLabel* lbl_datuminfo_;
+  DayUsersPanel* users_;
+  DayPersonPanel* person_;
+  DayAddressPanel* address_;
+  DayTargetsPanel* targets_;
   QPushButton* cmd_opslaan_;
   QPushButton* cmd_annuleer_;
 };

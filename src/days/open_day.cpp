@@ -17,10 +17,25 @@ void BeginNewDay(Program& program) {
 
 void ChooseUser(Program& program, std::string_view name) {
   const Text user(name);
-  SetCurrentUser(program, user);
+  TakeOver(program, user);
   Load_Profile(program, ProfileFile(program.paths, user));
   Load_Custom(program, CustomFile(program.paths, user));
   Load_Favorites(program, FavoritesFile(program.paths, user));
+}
+
+void TakeOver(Program& program, std::string_view name) {
+  const bool another = program.paths.UserName != name;
+  SetCurrentUser(program, name);
+  if (another) ForgetFoodsOfUser(program);
+}
+
+void ForgetFoodsOfUser(Program& program) {
+  program.store.Custom_list.Clear();
+  program.store.Favorites_list.Clear();
+  if (FoodListsView* const lists = program.windows.lists) {
+    lists->Populate_Food_List_Custom();
+    lists->Populate_Food_List_Favo();
+  }
 }
 
 void AfterOpenDay(Program& program) {

@@ -5,7 +5,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -13,6 +12,7 @@
 #include "days/day_dialogs.h"
 #include "language/choose_language.h"
 #include "language/properties_texts.h"
+#include "platform/qt/choice_list.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -33,22 +33,6 @@ struct TabRow {
 constexpr std::array kTabs = {TabRow{kTabGeneral, kTipTabGeneral},
                               TabRow{kTabDisplay, kTipTabDisplay},
                               TabRow{kTabInternet, kTipTabInternet}};
-
-// A list to choose from that takes no typing: a letter never changes what it shows.
-class ChoiceList : public QComboBox {
- public:
-  ChoiceList(QWidget* parent, const char* name) : QComboBox(parent) {
-    NameWidget(this, name);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  }
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    const QString typed = event->text();
-    if (!typed.isEmpty() && typed.front().isPrint() && event->key() != Qt::Key_Space) return;
-    QComboBox::keyPressEvent(event);
-  }
-};
 
 // Shows the entries with the chosen one selected, or none.
 void Fill(QComboBox* list, const std::vector<Text>& entries, const Text& chosen) {
@@ -116,6 +100,9 @@ void SettingsDialog::BuildLanguageAndPrinter(QVBoxLayout* page) {
   QPushButton* const cmd_reset =
       MakeButton(group, "cmd_reset", kResetLanguageFiles, kTipResetLanguageFiles);
   combo_printer_ = new ChoiceList(group, "combo_printer");
+  for (QComboBox* const list : {Combo_taal_, combo_printer_}) {
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  }
   auto* const grid = new QGridLayout;
   grid->setColumnStretch(1, 1);
   struct Row {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <tuple>
 
 namespace kelvora {
 namespace {
@@ -12,27 +13,35 @@ namespace fs = std::filesystem;
 constexpr int kApplicationData = 26;
 constexpr int kDocuments = 5;
 
-// The names in a folder that `wanted` takes, sorted without regard to case.
+// What `wanted` takes of a folder, sorted by name without regard to case.
 template <class Wanted>
-TextList NamesIn(const std::string& path, Wanted wanted) {
-  struct Name {
+std::vector<FolderFile> EntriesIn(const std::string& path, Wanted wanted) {
+  struct Entry {
     Text key;
-    Text name;
+    FolderFile file;
   };
-  std::vector<Name> names;
+  std::vector<Entry> entries;
   std::error_code failure;
   for (fs::directory_iterator entry(path, failure), end; !failure && entry != end;
        entry.increment(failure)) {
     if (!wanted(*entry)) continue;
-    const Text name = TextFromUtf8(entry->path().filename().string());
-    names.push_back({LowerCase(name), name});
+    const std::string name_on_disk = entry->path().filename().string();
+    const Text name = TextFromUtf8(name_on_disk);
+    entries.push_back({LowerCase(name), {name, path + name_on_disk}});
   }
-  std::ranges::sort(names, [](const Name& a, const Name& b) {
-    return a.key != b.key ? a.key < b.key : a.name < b.name;
+  std::ranges::sort(entries, [](const Entry& a, const Entry& b) {
+    return std::tie(a.key, a.file.name, a.file.path) < std::tie(b.key, b.file.name, b.file.path);
   });
-  TextList list;
-  for (const Name& name : names) list.Add(name.name);
-  return list;
+  std::vector<FolderFile> files;
+  files.reserve(entries.size());
+  for (Entry& entry : entries) files.push_back(std::move(entry.file));
+  return files;
+}
+
+TextList NamesOf(const std::vector<FolderFile>& files) {
+  TextList names;
+  for (const FolderFile& file : files) names.Add(file.name);
+  return names;
 }
 
 // Lets the owner change every folder below, which is what removing its content takes.
@@ -85,10 +94,6 @@ bool MakeFolder(const std::string& path) {
   return !failure;
 }
 
-bool CanNameAFolder(std::string_view name) {
-  return name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
-}
-
 void MakeUserFolders(const Paths& paths, std::string_view name) {
   if (!CanNameAFolder(name)) return;
   for (const char* folder : {"Profile", "Files", "Databases"}) {
@@ -121,17 +126,21 @@ std::string FavoritesFile(const Paths& paths, std::string_view name) {
 }
 
 TextList SubFoldersOf(const std::string& path) {
-  return NamesIn(path, [](const fs::directory_entry& entry) {
+  return NamesOf(EntriesIn(path, [](const fs::directory_entry& entry) {
     std::error_code ignored;
     return entry.is_directory(ignored);
+  }));
+}
+
+std::vector<FolderFile> FilesWithPathsIn(const std::string& path, std::string_view extension) {
+  return EntriesIn(path, [extension](const fs::directory_entry& entry) {
+    std::error_code ignored;
+    return entry.path().extension() == extension && !entry.is_directory(ignored);
   });
 }
 
 TextList FilesIn(const std::string& path, std::string_view extension) {
-  return NamesIn(path, [extension](const fs::directory_entry& entry) {
-    std::error_code ignored;
-    return entry.path().extension() == extension && !entry.is_directory(ignored);
-  });
+  return NamesOf(FilesWithPathsIn(path, extension));
 }
 
 }  // namespace kelvora

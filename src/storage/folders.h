@@ -26,10 +26,6 @@ void ApplyAlternativeUsersFolder(Program& program);
 // Creates a folder with all its parents; false if that fails.
 bool MakeFolder(const std::string& path);
 
-// False for what this platform can't put in the name of a folder: "/", NUL, and the whole names
-// "." and "..".
-[[nodiscard]] bool CanNameAFolder(std::string_view name);
-
 // Creates the three folders of a user, whose name is used exactly as it was typed. A name that no
 // folder can have gets none, which shows at the first write of the profile.
 void MakeUserFolders(const Paths& paths, std::string_view name);
@@ -46,8 +42,17 @@ void DeleteUserFolder(const Paths& paths, const std::string& path);
 // The names of the sub-folders of `path`, sorted; none if it can't be read.
 [[nodiscard]] TextList SubFoldersOf(const std::string& path);
 
-// The names of the files in `path` that end in `extension`, sorted by name without regard to case;
-// none if it can't be read.
+// A file of a folder: its name as text, in which a character that Windows-1252 lacks is "?", and
+// its true path. Only the path leads to it for certain.
+struct FolderFile {
+  Text name;
+  std::string path;
+};
+
+// The files in `path`, which ends in "/", whose names end in `extension`, sorted by name without
+// regard to case; none if it can't be read. FilesIn gives their names only.
+[[nodiscard]] std::vector<FolderFile> FilesWithPathsIn(const std::string& path,
+                                                       std::string_view extension);
 [[nodiscard]] TextList FilesIn(const std::string& path, std::string_view extension);
 
 }  // namespace kelvora

@@ -29,6 +29,7 @@ struct NotedSummary : DaySummaryView {
     ++closed;
   }
   void Set_Taal() override {}
+  void Refresh_Daguittreksel() override {}
   void Maak_Voedingsbehoefte(const DayTotals&) override {}
 };
 

@@ -1,224 +1,15 @@
 #include "days/browser.h"
 
-#include <algorithm>
 #include <filesystem>
-#include <gtest/gtest.h>
-#include <random>
 
-#include "storage/folders.h"
-#include "storage/record_file.h"
+#include "core/common.h"
+#include "days/browser_fixture.h"
+#include "storage/day_file.h"
 #include "storage/settings_file.h"
-#include "support/test_program.h"
+#include "support/file_faults.h"
 
 namespace kelvora {
 namespace {
-
-// What is laid down of a day file for a test.
-struct Day {
-  std::string_view date;
-  std::string_view weekday = "Friday";
-  std::string_view weight = "80.5";
-  std::string_view height = "1.80";
-  std::string_view trend = "10|20.4|30.5|1.4|2.5|3.6|4.5|0.5|80.5|";
-};
-
-struct RecordingBrowser : BrowserView {
-  int closed = 0;
-  int refreshed = 0;
-  void CloseWindow() override { ++closed; }
-  void Set_Taal() override {}
-  void Refresh_GebruikersLijst() override {}
-  void Refresh_Files() override { ++refreshed; }
-};
-
-class Browser : public testing::Test {
- protected:
-  Browser() {
-    program.profile[ProfileField::type_prioriteit] = "1";
-    AddUser("Anna");
-    SetCurrentUser(program, "Anna");
-  }
-
-  void AddUser(std::string_view name) {
-    MakeUserFolders(program.paths, name);
-    Rec_Profile profile;
-    profile[ProfileField::name] = name;
-    profile[ProfileField::type_prioriteit] = "1";
-    WriteRecord(ProfileFile(program.paths, name), profile);
-  }
-
-  void AddDay(const std::string& file_name, const Day& day) {
-    TextList header;
-    for (const std::string_view row :
-         {std::string_view("Anna"), std::string_view(), std::string_view(), std::string_view(),
-          std::string_view(), day.height, day.weight, std::string_view("Male"),
-          std::string_view("42"), day.date, std::string_view("75"), day.weekday, std::string_view(),
-          std::string_view(), std::string_view()}) {
-      header.Add(row);
-    }
-    Rec_DayFile record;
-    record[DayFileField::Trend] = Packed(day.trend);
-    record[DayFileField::Header] = PackBlock(header);
-    WriteRecord(program.paths.FilesPath + file_name, record);
-  }
-
-  std::vector<Text> Column(std::size_t column) {
-    std::vector<Text> cells;
-    for (const DayRow& row : ReadDays(program)) cells.push_back(row.cells[column]);
-    return cells;
-  }
-
-  bool LastBoxEndsWith(std::string_view code) {
-    return !test.boxes.shown.empty() && test.boxes.shown.back().text.ends_with(code);
-  }
-
-  TestProgram test;
-  Program& program = test.program;
-};
-
-// The order.
-
-TEST(DateKeys, AreYearMonthDay) {
-  EXPECT_EQ(DateKeyOf("05-03-04"), "040305");
-  EXPECT_EQ(DateKeyOf("31/12/99"), "991231");
-  EXPECT_EQ(DateKeyOf("0 1\\02-03"), "030201");
-  EXPECT_EQ(DateKeyOf("050304"), "040305");
-  EXPECT_EQ(DateKeyOf(""), "");
-}
-
-TEST(ExchangeSort, LeavesItsOwnOrderOfEqualKeys) {
-  CountingEvents events;
-  // The 1 at the end changes places with the first 3, which so comes behind its equal.
-  EXPECT_EQ(ExchangeSorted({3, 3, 1}, events), (std::vector<std::size_t>{2, 1, 0}));
-  EXPECT_EQ(ExchangeSorted({2, 1, 1}, events), (std::vector<std::size_t>{1, 2, 0}));
-  EXPECT_EQ(ExchangeSorted({}, events), (std::vector<std::size_t>{}));
-  EXPECT_EQ(ExchangeSorted({7}, events), (std::vector<std::size_t>{0}));
-}
-
-TEST(ExchangeSort, YieldsOnceAPassAndSortsAnything) {
-  CountingEvents events;
-  std::mt19937 random(1);
-  std::vector<double> keys(300);
-  for (double& key : keys) key = static_cast<double>(random() % 40);
-  std::vector<double> sorted;
-  for (const std::size_t place : ExchangeSorted(keys, events)) sorted.push_back(keys[place]);
-  EXPECT_EQ(events.yields, 300);
-  std::ranges::sort(keys);
-  EXPECT_EQ(sorted, keys);
-}
-
-// The list.
-
-TEST_F(Browser, ListsTheDaysOldestFirstByTwoDigitYears) {
-  AddDay("1.kvf", {.date = "01-01-99"});
-  AddDay("2.kvf", {.date = "05-03-04"});
-  AddDay("3.kvf", {.date = "31-12-03"});
-  EXPECT_EQ(Column(BrowseColumn::kDate), (std::vector<Text>{"31-12-03", "05-03-04", "01-01-99"}));
-  EXPECT_EQ(Column(BrowseColumn::kNumber), (std::vector<Text>{"1", "2", "3"}));
-  EXPECT_EQ(Column(BrowseColumn::kFile), (std::vector<Text>{"3.kvf", "2.kvf", "1.kvf"}));
-  EXPECT_FALSE(test.pointer.waiting);
-}
-
-TEST_F(Browser, ARowTellsTheKeyFiguresOfItsDay) {
-  AddDay("a.kvf", {.date = "05-03-04", .weight = "80,5", .height = "1,80"});
-  const auto rows = ReadDays(program);
-  ASSERT_EQ(rows.size(), 1u);
-  // 80.5 / (1.80 x 1.80) = 24.8457
-  const std::array<Text, 8> expected = {
-      "1", program.paths.FilesPath + "a.kvf", "a.kvf", "05-03-04", "Friday", "80.50", "24.85",
-      "31"};
-  EXPECT_EQ(rows[0].cells, expected);
-  EXPECT_EQ(rows[0].folder, program.paths.FilesPath);
-  EXPECT_EQ(rows[0].file_name, "a.kvf");
-}
-
-TEST_F(Browser, WordsAreShownAsTheyStand) {
-  AddDay("a.kvf", {.date = "05-03-04", .weekday = "Fri,day 1"});
-  EXPECT_EQ(Column(BrowseColumn::kDay), (std::vector<Text>{"Fri,day 1"}));
-}
-
-TEST_F(Browser, WeightAndDateFollowTheUnitSystem) {
-  AddDay("a.kvf", {.date = "05-03-04"});
-  program.settings[Setting::opt_system] = "1";
-  EXPECT_EQ(Column(BrowseColumn::kWeight), (std::vector<Text>{"177.47"}));  // 177.4721 pounds
-  EXPECT_EQ(Column(BrowseColumn::kDate), (std::vector<Text>{"03-05-04"}));
-  program.settings[Setting::opt_system] = "2";
-  EXPECT_EQ(Column(BrowseColumn::kWeight), (std::vector<Text>{"12.7"}));  // 12.6766 stones
-  EXPECT_EQ(Column(BrowseColumn::kDate), (std::vector<Text>{"05-03-04"}));
-}
-
-TEST_F(Browser, NumbersTakeTheSeparatorOfTheLocale) {
-  test.locale.separator = ",";
-  AddDay("a.kvf", {.date = "05-03-04"});
-  EXPECT_EQ(Column(BrowseColumn::kWeight), (std::vector<Text>{"80,50"}));
-  program.settings[Setting::opt_system] = "1";
-  EXPECT_EQ(Column(BrowseColumn::kWeight), (std::vector<Text>{"177,47"}));
-}
-
-TEST_F(Browser, TheLastColumnIsThatOfThePriority) {
-  struct Expected {
-    const char* code;
-    Text heading;
-    Text value;
-  };
-  AddDay("a.kvf", {.date = "05-03-04"});
-  for (const auto& [code, heading, value] :
-       {Expected{"0", "Kj ", "20"}, Expected{"1", "Kcal", "31"}, Expected{"2", "Fat(u)", "1"},
-        Expected{"3", "Fat(s)", "3"}, Expected{"4", "Carb.", "4"}, Expected{"5", "Protein", "5"}}) {
-    program.profile[ProfileField::type_prioriteit] = code;
-    EXPECT_EQ(Column(BrowseColumn::kNutrient), (std::vector<Text>{value})) << code;
-    const std::array<Text, 8> headings = {"#",   "Filenamefull", "Filename", "Date",
-                                          "Day", "Weight",       "BMI",      heading};
-    EXPECT_EQ(BrowseHeadings(program), headings);
-  }
-}
-
-TEST_F(Browser, ADayWithoutTrendTextShowsZero) {
-  AddDay("a.kvf", {.date = "05-03-04", .trend = ""});
-  EXPECT_EQ(Column(BrowseColumn::kNutrient), (std::vector<Text>{"0"}));
-}
-
-TEST_F(Browser, OnlyDayFilesAreListed) {
-  AddDay("a.kvf", {.date = "05-03-04"});
-  AddDay("a.bak", {.date = "06-03-04"});
-  std::filesystem::create_directory(program.paths.FilesPath + "folder.kvf");
-  EXPECT_EQ(Column(BrowseColumn::kFile), (std::vector<Text>{"a.kvf"}));
-  EXPECT_EQ(program.store.lst_files.Count(), 1u);
-}
-
-TEST_F(Browser, AUserWithoutDaysHasAnEmptyListAndNoMessage) {
-  EXPECT_TRUE(ReadDays(program).empty());
-  EXPECT_TRUE(test.boxes.shown.empty());
-}
-
-TEST_F(Browser, AFileThatCannotBeReadEndsTheListWithItsCode) {
-  AddDay("a.kvf", {.date = "05-03-04"});
-  std::filesystem::create_symlink("nowhere", program.paths.FilesPath + "b.kvf");
-  AddDay("c.kvf", {.date = "01-03-04"});
-  EXPECT_EQ(Column(BrowseColumn::kFile), (std::vector<Text>{"a.kvf"}));
-  ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_EQ(test.boxes.shown[0].text,
-            "An error occured.\n\nNo such file or directory\nBrelux CODE:#F3-0");
-}
-
-TEST_F(Browser, AValueBeyondAllMeasureEndsTheListWithACodeOfItsOwn) {
-  AddDay("a.kvf", {.date = "05-03-04"});
-  const Text huge(400, '9');
-  AddDay("b.kvf", {.date = "06-03-04", .weight = huge});
-  AddDay("c.kvf", {.date = "07-03-04"});
-  EXPECT_EQ(ReadDays(program).size(), 1u);
-  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-1"));
-}
-
-TEST_F(Browser, ReadingDoesNotTouchTheOpenDay) {
-  test.OpenDay("Anna", "open.kvf");
-  const KV_data before = program.store;
-  AddDay("a.kvf", {.date = "05-03-04"});
-  EXPECT_EQ(ReadDays(program).size(), 1u);
-  EXPECT_EQ(program.store.L_gegevens, before.L_gegevens);
-  EXPECT_EQ(program.store.txt_trenddata, before.txt_trenddata);
-  EXPECT_EQ(program.store.KV_bestand, "open.kvf");
-}
 
 TEST_F(Browser, AFolderWithoutAProfileEndsTheUserListWithItsCode) {
   std::filesystem::create_directories(program.paths.UsersPath + "Bert");
@@ -227,6 +18,37 @@ TEST_F(Browser, AFolderWithoutAProfileEndsTheUserListWithItsCode) {
   ASSERT_EQ(names.Count(), 1u);
   EXPECT_EQ(names[0], "Anna");
   EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-2"));
+}
+
+TEST_F(Browser, AnEmptyAndACutProfileShowWhatIsThere) {
+  for (const char* name : {"Bert", "Carl", "Dora"}) AddUser(name);
+  // No record: the one read before stands. Cut: count and length, and two letters of the name.
+  WriteFileAnew(ProfileFile(program.paths, "Bert"), "");
+  WriteFileAnew(ProfileFile(program.paths, "Carl"), std::string_view("\1\0\0\0\4\0Ca", 8));
+  const TextList names = UsersToBrowse(program);
+  EXPECT_TRUE(test.boxes.shown.empty());
+  ASSERT_EQ(names.Count(), 4u);
+  EXPECT_EQ(names[1], "Anna");
+  EXPECT_EQ(names[2], "Ca");
+  EXPECT_EQ(names[3], "Dora");
+}
+
+TEST_F(Browser, AForeignProfileCannotLeadOutOfTheUsersFolder) {
+  const std::string outside = program.paths.UsersPath + "../outside/";
+  MakeFolder(outside + "Files");
+  for (const char* name : {"../outside", "..", ".", ""}) {
+    AddUser("Bert");
+    Rec_Profile foreign;
+    foreign[ProfileField::name] = name;
+    WriteRecord(ProfileFile(program.paths, "Bert"), foreign);
+    EXPECT_EQ(UsersToBrowse(program)[1], name);
+    test.boxes.shown.clear();
+    EXPECT_EQ(SwitchUser(program, name), UserSwitch::refused);
+    ASSERT_EQ(test.boxes.shown.size(), 1u);
+    EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-3"));
+    EXPECT_EQ(program.paths.UserName, "Anna");
+    EXPECT_EQ(program.paths.FilesPath, program.paths.UsersPath + "Anna/Files/");
+  }
 }
 
 // Another user.
@@ -320,6 +142,114 @@ TEST_F(OpeningADay, AFileThatIsGoneLeavesTheBrowserOpen) {
   OpenDayOf(program, rows[0]);
   EXPECT_FALSE(program.store.DayIsOpen());
   EXPECT_EQ(window.closed, 0);
+}
+
+TEST_F(OpeningADay, AFileWhoseNameTextCannotHoldIsNotTakenForAnother) {
+  AddDay("\xE6\x97\xA5.kvf", {.date = "01-03-04"});
+  AddDay("?.kvf", {.date = "02-03-04"});
+  const auto rows = ReadDays(program);
+  ASSERT_EQ(rows.size(), 3u);
+  EXPECT_EQ(rows[0].file_name, rows[1].file_name);
+  OpenDayOf(program, rows[0]);
+  EXPECT_FALSE(program.store.DayIsOpen());
+  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-5"));
+  EXPECT_EQ(window.closed, 0);
+  OpenDayOf(program, rows[1]);
+  EXPECT_EQ(program.store.L_gegevens[HeaderRow::kDate], "02-03-04");
+}
+
+// Deleting a day.
+
+class DeletingADay : public OpeningADay {
+ protected:
+  std::string PathOf(const char* name) { return program.paths.FilesPath + name; }
+  DayRow OnlyRow() { return ReadDays(program).at(0); }
+};
+
+TEST_F(DeletingADay, AsksWithTheDateAsItIsShown) {
+  program.settings[Setting::opt_system] = "1";
+  EXPECT_FALSE(DeleteDayOf(program, OnlyRow()));
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  const Box& box = test.boxes.shown[0];
+  EXPECT_EQ(box.title, "Delete selected file?");
+  EXPECT_EQ(box.text,
+            "Are you sure that you want to delete the file 03-05-04  ? \n\nPress YES to "
+            "delete,\nPress NO to cancel.");
+  EXPECT_EQ(box.icon, BoxIcon::question);
+  EXPECT_EQ(box.buttons, BoxButtons::yes_no);
+  EXPECT_TRUE(FileExists(PathOf("a.kvf")));
+  EXPECT_EQ(window.refreshed, 0);
+}
+
+TEST_F(DeletingADay, AYesDeletesThatFileOnlyAndRebuildsTheList) {
+  AddDay("b.kvf", {.date = "06-03-04"});
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_TRUE(DeleteDayOf(program, ReadDays(program).at(0)));
+  EXPECT_FALSE(FileExists(PathOf("a.kvf")));
+  EXPECT_TRUE(FileExists(PathOf("b.kvf")));
+  EXPECT_EQ(window.refreshed, 1);
+}
+
+TEST_F(DeletingADay, TheOpenDayStaysInMemoryAndALaterSaveWritesItAgain) {
+  const DayRow row = OnlyRow();
+  OpenDayOf(program, row);
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_TRUE(DeleteDayOf(program, row));
+  EXPECT_FALSE(FileExists(PathOf("a.kvf")));
+  EXPECT_EQ(program.store.KV_bestand, "a.kvf");
+  EXPECT_EQ(program.store.L_gegevens[HeaderRow::kDate], "05-03-04");
+  SaveDay(program);
+  const auto saved = ReadFirstRecord<Rec_DayFile>(PathOf("a.kvf"));
+  ASSERT_TRUE(saved.has_value());
+  EXPECT_EQ((*saved)[DayFileField::Header], PackBlock(program.store.L_gegevens));
+}
+
+TEST_F(DeletingADay, AWriteProtectedFileStaysWithTheCode) {
+  const DayRow row = OnlyRow();
+  std::filesystem::permissions(PathOf("a.kvf"), std::filesystem::perms::owner_read);
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_FALSE(DeleteDayOf(program, row));
+  EXPECT_TRUE(FileExists(PathOf("a.kvf")));
+  EXPECT_EQ(test.boxes.shown.back().text,
+            "An error occured.\n\nPermission denied\nBrelux CODE:#F3-6");
+  EXPECT_EQ(window.refreshed, 0);
+}
+
+TEST_F(DeletingADay, ADiskThatRefusesIsReported) {
+  const DayRow row = OnlyRow();
+  test.boxes.answers = {BoxAnswer::yes};
+  const InjectedFault fault({.delete_fails = true});
+  EXPECT_FALSE(DeleteDayOf(program, row));
+  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-6"));
+}
+
+TEST_F(DeletingADay, AFileThatIsGoneAlreadyLeavesTheListToo) {
+  const DayRow row = OnlyRow();
+  std::filesystem::remove(PathOf("a.kvf"));
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_TRUE(DeleteDayOf(program, row));
+  EXPECT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(window.refreshed, 1);
+}
+
+TEST_F(DeletingADay, OfTwoFilesThatLookAlikeTheChosenOneGoes) {
+  std::filesystem::remove(PathOf("a.kvf"));
+  AddDay("\xE6\x97\xA5.kvf", {.date = "01-03-04"});
+  AddDay("?.kvf", {.date = "02-03-04"});
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_TRUE(DeleteDayOf(program, ReadDays(program).at(0)));
+  EXPECT_FALSE(FileExists(PathOf("\xE6\x97\xA5.kvf")));
+  EXPECT_TRUE(FileExists(PathOf("?.kvf")));
+}
+
+TEST_F(DeletingADay, ALinkGoesAndWhatItLeadsToStays) {
+  const std::string outside = test.folders.home.Path("outside.kvf");
+  std::filesystem::rename(PathOf("a.kvf"), outside);
+  std::filesystem::create_symlink(outside, PathOf("a.kvf"));
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_TRUE(DeleteDayOf(program, OnlyRow()));
+  EXPECT_FALSE(std::filesystem::is_symlink(PathOf("a.kvf")));
+  EXPECT_TRUE(FileExists(outside));
 }
 
 // The profile pane.

@@ -25,6 +25,19 @@ Rec_Profile ProfileNamed(std::string_view name) {
   return profile;
 }
 
+// A whole confirmation of one form in the mode of the program.
+bool Confirm(Program& program, const DayForm& form) {
+  DayEditing editing = OpenDayEditing(program);
+  editing.form = form;
+  return ConfirmDay(program, editing);
+}
+
+DayForm FormOfChosen(Program& program, std::string_view name) {
+  DayEditing editing = OpenDayEditing(program);
+  ChooseUserForDay(program, editing, name);
+  return editing.form;
+}
+
 // Forms.
 
 TEST(Forms, ANewUserHasAnEmptyPersonTodayAndTheUsualTargets) {
@@ -59,11 +72,15 @@ TEST(Forms, AUserThatIsChosenFillsEverythingFromTheProfileButTheDate) {
     profile.strings[i] = "f" + std::to_string(i);
   }
   profile.strings[0] = "Anna";
+  profile.strings[9] = "102.0582";
+  profile.strings[14] = "3";
+  profile.strings[15] = "8555";  // between two positions of its slider
+  for (std::size_t i = 17; i < kProfileFieldsInUse; ++i) profile.strings[i] = std::to_string(i);
   WriteProfile(program, "Anna", profile);
   const Text bread = LineOf({.product = "Bread"});
   WriteRecord(CustomFile(program.paths, "Anna"), Rec_ListLine{{bread + kLineEnd}});
 
-  const DayForm form = ChooseUserForDay(program, "Anna");
+  const DayForm form = FormOfChosen(program, "Anna");
 
   EXPECT_EQ(program.paths.UserName, "Anna");
   EXPECT_EQ(program.paths.FilesPath, program.paths.UsersPath + "Anna/Files/");
@@ -80,19 +97,22 @@ TEST(Forms, AUserThatIsChosenFillsEverythingFromTheProfileButTheDate) {
   expected.pg_7 = "f6";
   expected.pg_8 = "f7";
   expected.pg_6 = "f8";
-  expected.pg_10 = "f9";
+  expected.pg_10 = "102.0582";
   expected.pg_12 = "f10";
   expected.pg_13 = "f11";
   expected.pg_14 = "f12";
   expected.pg_15 = "f13";
-  expected.type_prioriteit = "f14";
-  expected.txt_kj = "f15";
-  expected.txt_kcal = "f16";
-  expected.txt_ovet = "f17";
-  expected.txt_vvet = "f18";
-  expected.txt_nat = "f19";
-  expected.txt_ew = "f20";
-  expected.txt_kdr = "f21";
+  expected.type_prioriteit = "3";
+  expected.txt_kj = "8600";    // 85.55 is nearest to 86
+  expected.txt_kcal = "2048";  // 8600 / 4.2 = 2047.6
+  expected.txt_ovet = "17";
+  expected.txt_vvet = "18";
+  expected.txt_nat = "19";
+  expected.txt_ew = "20";
+  expected.txt_kdr = "21";
+  expected.txt_lengte_m = "f5";
+  expected.txt_gewicht = "f8";
+  expected.txt_streefgewicht = "102.05";
   expected.pg_9_a = "05";
   expected.pg_9_b = "03";
   expected.pg_9_c = "04";
@@ -130,98 +150,22 @@ TEST(Forms, AFolderWithoutAProfileEndsTheUserListWithItsCode) {
 TEST(Forms, TheInstructionGoesByTheNumberOfUsers) {
   TestProgram test;
   const TextTables& texts = test.program.texts;
-  EXPECT_EQ(texts[InstructionFor(0)],
+  EXPECT_EQ(texts[InstructionFor(DayDialogMode::new_day, 0)],
             "Please fill in all fields if you start as a new user. If you're an existing user you "
             "can select your name from the user list and fill in the required fields.");
-  EXPECT_EQ(texts[InstructionFor(1)],
+  EXPECT_EQ(texts[InstructionFor(DayDialogMode::new_day, 1)],
             "Please enter your weight and a date in the fields below. Press 'Start' to save "
             "changes.");
-  EXPECT_EQ(texts[InstructionFor(2)],
+  EXPECT_EQ(texts[InstructionFor(DayDialogMode::new_day, 2)],
             "Select a username and fill in the empty fields. Press 'Start' to save changes.");
-  EXPECT_EQ(InstructionFor(50), InstructionFor(2));
-}
-
-// Hints.
-
-TEST(Hints, ShowTheOtherUnits) {
-  TestProgram test;
-  DayForm form = GoodForm();
-  form.pg_6 = "70";
-  form.pg_10 = "75,5";  // 166.44900 pounds
-  const DayHints hints = DrawCoversionsText(test.program, form);
-  EXPECT_EQ(hints.lbl_lengteinfo, "(1.80 Meter = 5'11'')");
-  EXPECT_EQ(hints.lbl_gewichtinfo, "(70.00 KG  = 154.32 Lbs)");
-  EXPECT_EQ(hints.lbl_streefgewichtinfo, "(75.50 KG  = 166.45 Lbs)");
-  EXPECT_EQ(hints.lbl_datuminfo, "05-03-04");
-  EXPECT_EQ(form.pg_10, "75,5");
-}
-
-TEST(Hints, InchesRoundUpWithoutACarryAndNumbersTakeTheSeparator) {
-  TestProgram test;
-  test.locale.separator = ",";
-  DayForm form = GoodForm();
-  form.pg_5 = "1,82";  // 5.97113 feet: 11.65 inches
-  form.pg_6 = "70.25";
-  const DayHints hints = DrawCoversionsText(test.program, form);
-  EXPECT_EQ(hints.lbl_lengteinfo, "(1,82 Meter = 5'12'')");
-  EXPECT_EQ(hints.lbl_gewichtinfo, "(70,25 KG  = 154,87 Lbs)");
-}
-
-TEST(Hints, AreEmptyWhileTheirFieldsAre) {
-  TestProgram test;
-  const DayHints hints = DrawCoversionsText(test.program, DayForm{});
-  EXPECT_EQ(hints.lbl_lengteinfo, "");
-  EXPECT_EQ(hints.lbl_gewichtinfo, "");
-  EXPECT_EQ(hints.lbl_streefgewichtinfo, "");
-  EXPECT_EQ(hints.lbl_datuminfo, "");
-  EXPECT_TRUE(test.boxes.shown.empty());
-}
-
-TEST(Hints, TheDateWaitsForAllSixDigitsAndFollowsTheUnitSystem) {
-  TestProgram test;
-  DayForm form = GoodForm();
-  for (const auto part : {&DayForm::pg_9_a, &DayForm::pg_9_b, &DayForm::pg_9_c}) {
-    DayForm incomplete = form;
-    incomplete.*part = "1";
-    EXPECT_EQ(DateHint(test.program, incomplete), "");
+  EXPECT_EQ(InstructionFor(DayDialogMode::new_day, 50), InstructionFor(DayDialogMode::new_day, 2));
+  for (const std::size_t users : {0u, 1u, 2u}) {
+    EXPECT_EQ(texts[InstructionFor(DayDialogMode::day_settings, users)],
+              "Change fields and press 'save' to save the changes. Press 'cancel' to close this "
+              "window without saving.");
   }
-  test.program.settings[Setting::opt_system] = "1";
-  EXPECT_EQ(DateHint(test.program, form), "03-05-04");
-  test.program.settings[Setting::opt_system] = "2";
-  EXPECT_EQ(DateHint(test.program, form), "05-03-04");
-  EXPECT_TRUE(test.boxes.shown.empty());
-}
-
-TEST(Hints, AWeightBeyondAllMeasureIsAFailureOfTheConversion) {
-  TestProgram test;
-  DayForm form;
-  form.pg_6 = "1" + Text(39, '0');  // larger than any single
-  EXPECT_EQ(DrawCoversionsText(test.program, form).lbl_streefgewichtinfo, "");
-  ASSERT_FALSE(test.boxes.shown.empty());
-  EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF11-1"));
-}
-
-TEST(FeetAndInches, WorkedFigures) {
-  TestProgram test;
-  const auto convert = [&](Text metres, HeightPart part) {
-    return Meter_To_Feet_Inch(metres, part, UnitsOf(test.program));
-  };
-  EXPECT_EQ(convert("1.80", HeightPart::feet), "5");
-  EXPECT_EQ(convert("1.80", HeightPart::inches), "11");
-  EXPECT_EQ(convert("", HeightPart::feet), "");
-  EXPECT_EQ(convert("0.3", HeightPart::feet), "0");
-  EXPECT_EQ(convert("1.85", HeightPart::inches), "1");  // 6.06955 feet: 0.83 inches
-  EXPECT_EQ(convert("0.31", HeightPart::inches), "");   // 1.01706 feet: 0.2 inches
-  EXPECT_TRUE(test.boxes.shown.empty());
-}
-
-TEST(FeetAndInches, AHeightOfZeroIsAFailureOfItsOwn) {
-  TestProgram test;
-  Text metres = "0,0";
-  EXPECT_EQ(Meter_To_Feet_Inch(metres, HeightPart::feet, UnitsOf(test.program)), "");
-  EXPECT_EQ(metres, "0.0");
-  ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF11-5"));
+  EXPECT_EQ(texts[TitleOf(DayDialogMode::new_day)], "Start a new day");
+  EXPECT_EQ(texts[TitleOf(DayDialogMode::day_settings)], "Change settings for this day");
 }
 
 // Starting the day.
@@ -229,7 +173,7 @@ TEST(FeetAndInches, AHeightOfZeroIsAFailureOfItsOwn) {
 TEST(StartingADay, BringsTheFormIntoTheStoreTheProfileAndTheFolders) {
   TestProgram test;
   Program& program = test.program;
-  ASSERT_TRUE(StartDay(program, GoodForm()));
+  ASSERT_TRUE(Confirm(program, GoodForm()));
 
   EXPECT_EQ(program.paths.UserName, "Anna");
   EXPECT_EQ(program.paths.FilesPath, program.paths.UsersPath + "Anna/Files/");
@@ -266,7 +210,7 @@ TEST(StartingADay, KeepsTheDaysOfAUserOfThatName) {
   Program& program = test.program;
   WriteProfile(program, "Anna", ProfileNamed("Somebody"));
   std::ofstream(program.paths.UsersPath + "Anna/Files/old.kvf") << "day";
-  ASSERT_TRUE(StartDay(program, GoodForm()));
+  ASSERT_TRUE(Confirm(program, GoodForm()));
   EXPECT_TRUE(std::filesystem::exists(program.paths.UsersPath + "Anna/Files/old.kvf"));
   EXPECT_EQ(ReadFirstRecord<Rec_Profile>(ProfileFile(program.paths, "Anna"))->strings[0], "Anna");
 }
@@ -279,7 +223,7 @@ TEST(StartingADay, LoadsTheListsOfTheUser) {
   const Text apple = LineOf({.product = "Apple"});
   WriteRecord(CustomFile(program.paths, "Anna"), Rec_ListLine{{bread + kLineEnd}});
   WriteRecord(FavoritesFile(program.paths, "Anna"), Rec_ListLine{{apple + kLineEnd}});
-  ASSERT_TRUE(StartDay(program, GoodForm()));
+  ASSERT_TRUE(Confirm(program, GoodForm()));
   EXPECT_EQ(program.store.Custom_list[0], bread);
   EXPECT_EQ(program.store.Favorites_list[0], apple);
 }
@@ -288,7 +232,7 @@ TEST(StartingADay, AProfileThatCannotBeWrittenIsToldAndTheDayGoesOn) {
   TestProgram test;
   Program& program = test.program;
   std::filesystem::create_directories(ProfileFile(program.paths, "Anna") + "/in the way");
-  EXPECT_TRUE(StartDay(program, GoodForm()));
+  EXPECT_TRUE(Confirm(program, GoodForm()));
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF1-7"));
   EXPECT_TRUE(program.store.DayIsOpen());
@@ -296,34 +240,29 @@ TEST(StartingADay, AProfileThatCannotBeWrittenIsToldAndTheDayGoesOn) {
 }
 
 struct FailingCore : RecordingCore {
-  void UpdateCommands() override { throw std::runtime_error("out of order"); }
+  bool failing = false;
+  void UpdateCommands() override {
+    if (failing) throw std::runtime_error("out of order");
+  }
 };
 
 TEST(StartingADay, StopsWhereItFailed) {
   TestProgram test;
   FailingCore core;
   test.program.windows.core = &core;
-  EXPECT_FALSE(StartDay(test.program, GoodForm()));
+  core.failing = true;
+  DayEditing editing = OpenDayEditing(test.program);
+  editing.form = GoodForm();
+  EXPECT_FALSE(ConfirmDay(test.program, editing));
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_EQ(test.boxes.shown[0].text, "An error occured.\n\nout of order\nBrelux CODE:#F2-3");
   EXPECT_TRUE(test.program.store.DayIsOpen());
-}
-
-struct CountingConsumption : ConsumptionView {
-  int refreshes = 0;
-  void CloseWindow() override {}
-  void Set_Taal() override {}
-  void Refresh_Consumpties() override { ++refreshes; }
-  void ShowTotals(const ConsumptionTotals&) override {}
-};
-
-TEST(ApplyingAProfile, RefreshesTheOpenConsumptionWindows) {
-  TestProgram test;
-  CountingConsumption afternoon;
-  test.program.windows.Consumption(DayPart::afternoon) = &afternoon;
-  Apply_To_Profile(test.program, GoodForm());
-  EXPECT_EQ(afternoon.refreshes, 1);
-  EXPECT_EQ(test.program.profile[ProfileField::goal_weight], "75");
+  // Cancelled then, the day in the making is absent.
+  core.failing = false;
+  CancelDay(test.program, editing);
+  EXPECT_FALSE(test.program.store.DayIsOpen());
+  EXPECT_TRUE(test.program.store.L_gegevens.Empty());
+  EXPECT_FALSE(test.program.day.FileChanged);
 }
 
 TEST(DaySettingsTexts, StandAtTheirPlacesInBothLanguages) {

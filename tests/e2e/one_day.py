@@ -59,17 +59,18 @@ def row(index):
     return FIRST_ROW[0], FIRST_ROW[1] + index * ROW_HEIGHT
 
 
-def make_user_and_day(desktop, title="Start a new day", gender="F"):
+def make_user_and_day(desktop, title="Start a new day"):
     desktop.keys("ctrl+n")
-    fill_in_day(desktop, title, gender)
+    fill_in_day(desktop, title)
 
 
-def fill_in_day(desktop, title, gender):
+def fill_in_day(desktop, title):
     """Fills in the dialog for a new day, which is opening, and starts the day."""
     desktop.window(f"^{title}$")
     desktop.settle()
     desktop.type("Anna")
-    desktop.keys("Tab", gender, "Tab")
+    # The list of genders takes no letters; its second entry is Female.
+    desktop.keys("Tab", "Down", "Down", "Tab")
     desktop.type("42")
     desktop.keys("Tab")
     desktop.type("1.80")

@@ -17,7 +17,7 @@ from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
 AFTERNOON = (800, 420)
 AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
 # What differs from English in making a user and a day.
-WORDS = {"nederlands": {"title": "Begin een nieuwe dag", "gender": "V"}}
+WORDS = {"nederlands": {"title": "Begin een nieuwe dag"}}
 SETTINGS = "^(Kelvora FOOD settings|Instellingen van Kelvora FOOD)$"
 ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 

@@ -54,7 +54,7 @@ def first_start(desktop, program):
     desktop.settle()
     # From the options to the tick, which goes, and back to the first option: a new day.
     desktop.keys("Tab", "space", "shift+Tab", "space", "Return")
-    fill_in_day(desktop, "Begin een nieuwe dag", "V")
+    fill_in_day(desktop, "Begin een nieuwe dag")
     desktop.keys("ctrl+s")
     return process
 

@@ -30,6 +30,7 @@ struct ListeningBrowser : Listening<BrowserView> {
 struct ListeningSummary : Listening<DaySummaryView> {
   using Listening::Listening;
   void Maak_Voedingsbehoefte(const DayTotals&) override {}
+  void Refresh_Daguittreksel() override {}
 };
 struct ListeningLists : Listening<FoodListsView> {
   using Listening::Listening;

@@ -120,6 +120,7 @@ struct ShownSummary : DaySummaryView {
   void CloseWindow() override {}
   void Set_Taal() override {}
   void Maak_Voedingsbehoefte(const DayTotals& totals) override { shown.push_back(totals); }
+  void Refresh_Daguittreksel() override {}
 };
 
 TEST(RefreshTotalen, AnOpenDaySummaryGetsTheWholeDayInTheOrderOfTheRequirements) {

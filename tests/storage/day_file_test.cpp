@@ -198,6 +198,7 @@ struct NotingConsumption : Noting<ConsumptionView> {
 struct NotingSummary : Noting<DaySummaryView> {
   using Noting::Noting;
   void Maak_Voedingsbehoefte(const DayTotals&) override {}
+  void Refresh_Daguittreksel() override {}
 };
 
 TEST(DayFile, ClosingReloadsTheFoodListsAndClosesTheWindowsInTheirOrder) {

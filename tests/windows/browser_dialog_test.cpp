@@ -1,105 +1,15 @@
 // The browser of users and days, as a user meets it: through names, keys and clicks.
 #include "days/browser_dialog.h"
 
-#include <functional>
-#include <gtest/gtest.h>
-#include <memory>
-
-#include <QApplication>
-#include <QHeaderView>
-#include <QTest>
 #include <QTimer>
 
 #include "core/commands.h"
 #include "core/main_window.h"
 #include "days/day_dialogs.h"
-#include "language/built_in_texts.h"
-#include "platform/qt/text.h"
-#include "storage/folders.h"
-#include "storage/record_file.h"
-#include "support/test_program.h"
+#include "windows/browser_window.h"
 
 namespace kelvora {
 namespace {
-
-// Lets a user act while the days are read.
-struct ActingEvents : Events {
-  std::function<void()> act;
-  void Yield() override {
-    if (const auto once = std::exchange(act, nullptr)) once();
-  }
-};
-
-class BrowserWindow : public testing::Test {
- protected:
-  BrowserWindow() {
-    AddUser("Anna");
-    AddUser("Bert");
-    AddDay("Anna", "new.kvf", "06-03-04");
-    AddDay("Anna", "old.kvf", "05-03-04");
-    AddDay("Bert", "only.kvf", "01-01-03");
-  }
-
-  void AddUser(std::string_view name) {
-    MakeUserFolders(program.paths, name);
-    Rec_Profile profile;
-    profile[ProfileField::name] = name;
-    profile[ProfileField::type_prioriteit] = "1";
-    profile[ProfileField::reference] = "REF-" + Text(name);
-    profile[ProfileField::height] = "1.80";
-    profile[ProfileField::weight] = "70";
-    WriteRecord(ProfileFile(program.paths, name), profile);
-  }
-
-  void AddDay(std::string_view user, const std::string& file_name, std::string_view date) {
-    Rec_DayFile record;
-    record[DayFileField::Trend] = Packed("10|20|30|1|2|3|4|0.5|80.5|");
-    record[DayFileField::Header] =
-        Packed(Text(user) + "~~~~~1.80~80.5~Male~42~" + Text(date) + "~75~Friday~~~~");
-    WriteRecord(UserFolder(program.paths, user) + "Files/" + file_name, record);
-  }
-
-  void Open() {
-    dialog = std::make_unique<BrowserDialog>(program, nullptr);
-    dialog->Open();
-    dialog->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-  }
-  void OpenAsAnna() {
-    SetCurrentUser(program, "Anna");
-    program.profile = *ReadFirstRecord<Rec_Profile>(ProfileFile(program.paths, "Anna"));
-    Open();
-  }
-
-  template <class Widget>
-  Widget* Find(const char* name) {
-    Widget* const found = dialog->findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) throw std::runtime_error(name);
-    return found;
-  }
-  QTableView* List() { return Find<QTableView>("LV_browse_files"); }
-  QString Cell(int row, int column) {
-    return List()->model()->index(row, column).data().toString();
-  }
-  QPoint PlaceOfRow(int row) { return List()->visualRect(List()->model()->index(row, 3)).center(); }
-  void ClickRow(int row) {
-    QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, PlaceOfRow(row));
-  }
-  void ClickUser(const char* user) {
-    auto* const users = Find<QListWidget>("lst_users");
-    const QRect place = users->visualItemRect(users->findItems(user, Qt::MatchExactly).front());
-    QTest::mouseClick(users->viewport(), Qt::LeftButton, {}, place.center());
-  }
-  QString SelectedUser() {
-    const auto selected = Find<QListWidget>("lst_users")->selectedItems();
-    return selected.size() == 1 ? selected.front()->text() : QString();
-  }
-  bool OpenIsEnabled() { return Find<QPushButton>("cmd_openen")->isEnabled(); }
-
-  TestProgram test;
-  Program& program = test.program;
-  std::unique_ptr<BrowserDialog> dialog;
-};
 
 TEST_F(BrowserWindow, WithoutAUserItListsTheUsersAndNothingElse) {
   Open();

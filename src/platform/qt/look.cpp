@@ -31,6 +31,10 @@ QLabel* NewLabel(QWidget* parent, const QString& object_name) {
   return label;
 }
 
+int RowHeight(const QWidget& widget) {
+  return widget.fontMetrics().height() + 6;
+}
+
 void UseSmallLetters(QWidget* widget) {
   constexpr double kShare = 0.9;
   QFont font = widget->font();

@@ -22,6 +22,9 @@ void NameWidget(QWidget* widget, const char* object_name);
 // A label of plain text under that name.
 [[nodiscard]] QLabel* NewLabel(QWidget* parent, const QString& object_name);
 
+// How high the rows of a list of that widget's letters are.
+[[nodiscard]] int RowHeight(const QWidget& widget);
+
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
 

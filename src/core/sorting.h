@@ -1,0 +1,30 @@
+// The orders that lists are put in, over numbers and places only: who sorts parses every key once,
+// and moves rows to the places that come back. The order of equal keys is part of each rule.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+namespace kelvora {
+
+// Asked again and again during long work: lets other events run, and answers true once the work is
+// not wanted any more. It ends at once then, and what it returns is of no use.
+using Pause = std::function<bool()>;
+
+// The order that a plain exchange sort over all pairs leaves: for each i, for each j, entries i and
+// j change places when key i is less than key j. Ascending; what stood behind what among equal keys
+// is not kept, but the same keys always give the same order. Pauses after each pass. Returns places
+// in `keys`.
+[[nodiscard]] std::vector<std::size_t> ExchangeSorted(const std::vector<double>& keys,
+                                                      const Pause& pause);
+
+enum class SortOrder { ascending, descending };
+
+// The order of the rows of a list by a column of numbers. Only the whole part of a value
+// counts: 1.2 and 1.9 are equal, and so are no reason to change places. Descending, equal rows stay
+// as they were; ascending is the very reverse of it. Returns places in `values`.
+[[nodiscard]] std::vector<std::size_t> OrderByWholePart(const std::vector<double>& values,
+                                                        SortOrder order);
+
+}  // namespace kelvora

@@ -1,0 +1,71 @@
+#include "days/day_field_panel.h"
+
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+// Boxes for more characters than this grow with the dialog.
+constexpr std::size_t kShortLimit = 10;
+
+bool IsPartOfDate(DayFieldId id) {
+  return id == DayFieldId::pg_9_a || id == DayFieldId::pg_9_b || id == DayFieldId::pg_9_c;
+}
+
+}  // namespace
+
+DayFieldBox::DayFieldBox(Program& program, DayForm& form, DayFieldId id, QWidget* parent)
+    : QLineEdit(parent), program_(program), form_(form), id_(id) {
+  const DayField& field = FieldOfId(id);
+  setObjectName(ToQt(field.name));
+  if (field.filter == KeyFilter::none) {
+    setMaxLength(static_cast<int>(field.limit));
+  } else {
+    setAlignment(Qt::AlignRight);
+  }
+  if (field.limit <= kShortLimit) {
+    // Room for the widest letters, the frame and the cursor.
+    const int letters = static_cast<int>(field.limit) + 2;
+    setFixedWidth(letters * fontMetrics().horizontalAdvance(QLatin1Char('0')) + 12);
+  }
+  connect(this, &QLineEdit::textEdited, this, &DayFieldBox::HoldTyping);
+  connect(this, &QLineEdit::editingFinished, this, &DayFieldBox::TakeForm);
+}
+
+DayFieldBox::~DayFieldBox() {
+  // A box that loses the focus in its own destruction still tells of it, and by then the form may
+  // be gone.
+  disconnect();
+}
+
+void DayFieldBox::Set_Taal() {
+  setAccessibleName(ToQt(program_.texts[FieldOfId(id_).caption]));
+}
+
+void DayFieldBox::ShowForm() {
+  const DayField& field = FieldOfId(id_);
+  setText(ToQt((form_.*field.part).substr(0, field.limit)));
+}
+
+void DayFieldBox::TakeForm() {
+  const DayForm before = form_;
+  TakeField(program_, form_, id_, FromQt(text()));
+  // Inches can be cleared.
+  if (ToQt((form_.*FieldOfId(id_).part)).left(text().size()) != text()) ShowForm();
+  if (form_ != before) emit Taken();
+}
+
+void DayFieldBox::HoldTyping() {
+  const int cursor = cursorPosition();
+  const HeldText held =
+      HoldToField(FieldOfId(id_), FromQt(text().left(cursor)), FromQt(text().mid(cursor)),
+                  program_.platform.locale.DecimalSeparator());
+  if (ToQt(held.text) != text()) {
+    setText(ToQt(held.text));
+    setCursorPosition(static_cast<int>(held.cursor));
+  }
+  // The date beside the boxes follows every key.
+  if (IsPartOfDate(id_)) TakeForm();
+}
+
+}  // namespace kelvora

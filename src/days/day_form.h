@@ -1,0 +1,113 @@
+// The person and the day as they are typed: the boxes of the day dialog, what each takes, and how
+// its text becomes the metric value behind it.
+//
+// The form is a copy; nothing of it reaches the store from here. Boxes show the units of the
+// settings; pg_5, pg_6 and pg_10 behind them are always metric, since these go into the files.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "core/program.h"
+
+namespace kelvora {
+
+struct DayForm {
+  Text pg_0;                        // user name, which is also the name of the folder
+  Text pg_1, pg_2, pg_3, pg_4;      // address, city, postcode
+  Text pg_5;                        // height, metres
+  Text pg_6;                        // weight, kilograms
+  Text pg_7;                        // gender, as the list of the moment words it
+  Text pg_8;                        // age, years
+  Text pg_9_a, pg_9_b, pg_9_c;      // day, month, year; two digits each
+  Text pg_10;                       // goal weight, kilograms
+  Text pg_11;                       // name of the weekday
+  Text pg_12, pg_13, pg_14, pg_15;  // country, reference ID, remark, state
+  Text type_prioriteit;
+  Text txt_kj, txt_kcal, txt_ovet, txt_vvet, txt_nat, txt_ew, txt_kdr;
+  // The boxes of height and weights, each as its user sees it.
+  Text txt_lengte_m, txt_lengte_i1, txt_lengte_i2;  // metres; feet and inches
+  Text txt_gewicht, txt_streefgewicht;              // kilograms or pounds
+
+  bool operator==(const DayForm&) const = default;
+};
+
+// The unit system of the settings. Both imperial ones are typed in pounds, feet and inches.
+enum class UnitSystem { metric, imperial_us, imperial_uk };
+[[nodiscard]] UnitSystem UnitSystemOf(const Program& program);
+
+// What the keyboard may put into a text box.
+enum class KeyFilter { none, whole_number, decimal };
+
+// One text box: the part of the form that it shows and how much it takes.
+struct DayField {
+  std::string_view name;
+  Text DayForm::*part;
+  std::size_t limit;  // characters
+  KeyFilter filter;
+  TextId caption;
+};
+
+enum class DayFieldId {
+  pg_0,
+  pg_8,
+  txt_lengte_m,
+  txt_lengte_i1,
+  txt_lengte_i2,
+  txt_streefgewicht,
+  pg_9_a,
+  pg_9_b,
+  pg_9_c,
+  pg_11,
+  txt_gewicht,
+  pg_1,
+  pg_2,
+  pg_3,
+  pg_4,
+  pg_15,
+  pg_12,
+  pg_13,
+  pg_14,
+};
+inline constexpr std::size_t kDayFieldCount = 19;
+
+// The text boxes, in the order of DayFieldId.
+[[nodiscard]] std::span<const DayField, kDayFieldCount> DayFields();
+[[nodiscard]] const DayField& FieldOfId(DayFieldId id);
+
+// Whole numbers take digits and nothing else.
+[[nodiscard]] bool AcceptsWholeNumberKey(char key);
+[[nodiscard]] Text FilterWholeNumber(std::string_view typed);
+
+// Decimals take digits and the decimal separator, which "." and "," both become.
+[[nodiscard]] Text FilterDecimal(std::string_view typed, std::string_view separator);
+
+// What a box makes of a text that was typed or pasted into it.
+[[nodiscard]] Text ApplyKeyFilter(KeyFilter filter, std::string_view typed,
+                                  std::string_view separator);
+
+// A box's text as it may stand, and the place of the cursor in it.
+struct HeldText {
+  Text text;
+  std::size_t cursor;
+
+  bool operator==(const HeldText&) const = default;
+};
+
+// Holds a text to the filter and the limit of its box. The cursor stands behind what was typed or
+// pasted last; of that, what has no room is dropped, so that a paste leaves what typing would.
+[[nodiscard]] HeldText HoldToField(const DayField& field, std::string_view before_cursor,
+                                   std::string_view behind_cursor, std::string_view separator);
+
+// Fills the boxes of height and weights from the metric values.
+void FillBoxes(Program& program, DayForm& form);
+
+// Takes what a box shows into the form, with the metric value behind it. A box that shows what it
+// was filled with changes nothing: a stored value longer than its box, or one that other units
+// can't show exactly, stays whole until something else is typed. Inches above 12 are cleared.
+void TakeField(Program& program, DayForm& form, DayFieldId id, std::string_view shown);
+
+// Puts a stored date, dd-mm-yy, into the three boxes; what has not six digits leaves them empty.
+void SplitDate(DayForm& form, std::string_view stored_date);
+
+}  // namespace kelvora

@@ -1,0 +1,177 @@
+#include "days/day_list.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "core/common.h"
+#include "language/browse_texts.h"
+#include "nutrition/numbers.h"
+#include "nutrition/totals.h"
+#include "storage/folders.h"
+#include "storage/record_file.h"
+
+namespace kelvora {
+namespace {
+
+using namespace browse_text;
+
+constexpr std::array<TextId, BrowseColumn::kNutrient> kHeadings = {
+    kColumnNumber, kColumnPath, kColumnFile, kColumnDate, kColumnDay, kColumnWeight, kColumnBmi,
+};
+
+// The column of the priority nutrient, in the order of Priority.
+struct NutrientColumn {
+  TextId heading;
+  std::size_t trend_field;
+};
+constexpr std::array kNutrients = {
+    NutrientColumn{kColumnKj, 1},    NutrientColumn{kColumnKcal, 2},
+    NutrientColumn{kColumnFatU, 3},  NutrientColumn{kColumnFatS, 4},
+    NutrientColumn{kColumnCarbs, 5}, NutrientColumn{kColumnProtein, 6},
+};
+
+const NutrientColumn& NutrientOf(const Program& program) {
+  return kNutrients[static_cast<std::size_t>(PriorityOfUser(program))];
+}
+
+// What the list needs of one day file.
+struct StoredDay {
+  FolderFile file;
+  Text date, weekday, height, weight;
+  Text trend;
+};
+
+StoredDay ReadDay(Program& program, FolderFile file) {
+  const Rec_DayFile& record = DecodeOrKeepRecord(ReadFile(file.path), program.last_read.day);
+  TextList header;
+  SplitBlock(record[DayFileField::Header], header);
+  return {std::move(file),
+          Text(header[HeaderRow::kDate]),
+          Text(header[HeaderRow::kWeekday]),
+          Text(header[HeaderRow::kHeight]),
+          Text(header[HeaderRow::kWeight]),
+          record[DayFileField::Trend]};
+}
+
+std::vector<StoredDay> ReadStoredDays(Program& program, const std::string& folder,
+                                      const Pause& pause) {
+  std::vector<StoredDay> days;
+  program.Guard("#F3-0", [&] {
+    program.platform.pointer.ShowWait();
+    std::vector<FolderFile> files = FilesWithPathsIn(folder, ".kvf");
+    program.store.lst_files.Clear();
+    for (const FolderFile& file : files) program.store.lst_files.Add(file.name);
+    for (FolderFile& file : files) {
+      days.push_back(ReadDay(program, std::move(file)));
+      if (pause()) return;
+    }
+  });
+  return days;
+}
+
+DayRow RowOf(Program& program, const std::string& folder, const StoredDay& day,
+             std::size_t number) {
+  const UnitContext units = UnitsOf(program);
+  const NutrientColumn& nutrient = NutrientOf(program);
+  DayRow row{folder, day.file.name, day.file.path, {}};
+  Text height = day.height;
+  Text weight = day.weight;
+  auto& cells = row.cells;
+  cells[BrowseColumn::kNumber] = std::to_string(number);
+  cells[BrowseColumn::kPath] = TextFromUtf8(day.file.path);
+  cells[BrowseColumn::kFile] = day.file.name;
+  cells[BrowseColumn::kDate] = Format_Datum(day.date, program.settings[Setting::opt_system], units);
+  cells[BrowseColumn::kDay] = day.weekday;
+  cells[BrowseColumn::kWeight] = BrowsedWeight(program, day.weight);
+  cells[BrowseColumn::kBmi] = Bereken_BMI(height, weight, units);
+  cells[BrowseColumn::kNutrient] =
+      FormatNumber(ReadStoredNumber(FieldOf(day.trend, nutrient.trend_field)),
+                   PatternOf(PriorityOfUser(program)), units.locale.DecimalSeparator());
+  return row;
+}
+
+}  // namespace
+
+std::array<Text, BrowseColumn::kCount> BrowseHeadings(const Program& program) {
+  std::array<Text, BrowseColumn::kCount> headings;
+  for (std::size_t i = 0; i < kHeadings.size(); ++i) headings[i] = program.texts[kHeadings[i]];
+  headings[BrowseColumn::kNutrient] = program.texts[NutrientOf(program).heading];
+  return headings;
+}
+
+Text BrowsedWeight(Program& program, Text kilograms) {
+  const UnitContext units = UnitsOf(program);
+  const Text separator = units.locale.DecimalSeparator();
+  const Text& system = program.settings[Setting::opt_system];
+  if (system == "1") kilograms = Kg_To_Lbs(kilograms, units);
+  if (system == "2") kilograms = Kg_To_Stones(kilograms, units);
+  return FormatNumber(ReadStoredNumber(kilograms), system == "2" ? "#0.0" : "#0.00", separator);
+}
+
+Text DateKeyOf(std::string_view stored_date) {
+  Text digits(stored_date);
+  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
+  const Text day_and_month = digits.substr(0, 4);
+  const auto last_two = [](const Text& text) {
+    return text.substr(text.size() - std::min<std::size_t>(2, text.size()));
+  };
+  return last_two(digits) + last_two(day_and_month) + day_and_month.substr(0, 2);
+}
+
+std::vector<DayRow> ReadDays(Program& program, const std::function<bool()>& overtaken) {
+  // Another user may be chosen while events run.
+  const std::string folder = program.paths.FilesPath;
+  bool wanted = true;
+  const Pause pause = [&] {
+    program.platform.events.Yield();
+    wanted = wanted && !overtaken();
+    return !wanted;
+  };
+  const std::vector<StoredDay> days = ReadStoredDays(program, folder, pause);
+  std::vector<DayRow> rows;
+  program.Guard("#F3-1", [&] {
+    std::vector<double> keys;
+    for (const StoredDay& day : days) keys.push_back(ReadStoredNumber(DateKeyOf(day.date)));
+    std::vector<std::size_t> places;
+    if (wanted) places = ExchangeSorted(keys, pause);
+    for (const std::size_t place : places) {
+      if (!wanted) break;
+      rows.push_back(RowOf(program, folder, days[place], rows.size() + 1));
+      pause();
+    }
+    program.platform.pointer.Restore();
+  });
+  return rows;
+}
+
+bool ClickHeading(DayListSort& sort, std::size_t column) {
+  if (column < BrowseColumn::kWeight) return false;
+  sort.column = column;
+  sort.order = sort.order == SortOrder::descending ? SortOrder::ascending : SortOrder::descending;
+  return true;
+}
+
+std::vector<std::size_t> SortRows(std::vector<DayRow>& rows, const DayListSort& sort) {
+  std::vector<std::size_t> places(rows.size());
+  std::iota(places.begin(), places.end(), std::size_t{0});
+  if (!sort.column) return places;
+  std::vector<double> values;
+  for (const DayRow& row : rows) values.push_back(ReadStoredNumber(row.cells[*sort.column]));
+  places = OrderByWholePart(values, sort.order);
+  std::vector<DayRow> sorted;
+  sorted.reserve(rows.size());
+  for (const std::size_t place : places) sorted.push_back(std::move(rows[place]));
+  rows = std::move(sorted);
+  return places;
+}
+
+std::optional<std::size_t> RowToOpen(const std::vector<std::size_t>& selected,
+                                     std::optional<std::size_t> in_focus) {
+  if (selected.empty()) return std::nullopt;
+  const bool focus_is_selected =
+      in_focus && std::ranges::find(selected, *in_focus) != selected.end();
+  return focus_is_selected ? *in_focus : std::ranges::min(selected);
+}
+
+}  // namespace kelvora

@@ -1,0 +1,48 @@
+// The users on the first tab of the day dialog: the list and the toolbar below it. Shows what it is
+// given and tells what is chosen.
+#pragma once
+
+#include <QListWidget>
+#include <QToolButton>
+#include <QWidget>
+
+#include "core/program.h"
+
+class QLabel;
+
+namespace kelvora {
+
+class DayUsersPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  DayUsersPanel(Program& program, QWidget* parent);
+
+  void Set_Taal();
+  // Shows the names; the current user is selected, without a word, if `names` has one.
+  void ShowNames(const TextList& names);
+  [[nodiscard]] bool AnySelected() const;
+  [[nodiscard]] Text Selected() const;
+  void SelectNone();
+  void FocusList();
+  void SetRemovable(bool removable);
+  // While the settings of a day are changed, its user can't be.
+  void Lock();
+
+ signals:
+  void Chosen();
+  // A user was pointed at, chosen before or not.
+  void Confirmed();
+  void NewUserWanted();
+  void RemovalWanted();
+
+ private:
+  Program& program_;
+  QLabel* lbl_users_;
+  QListWidget* lst_users_;
+  QWidget* Toolbar_control_;
+  QToolButton* new_user_;
+  QToolButton* delete_user_;
+};
+
+}  // namespace kelvora
