@@ -320,7 +320,7 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::OpenConsumption(DayPart part, const char* icon) {
   OpenChild(WindowOf(part), new ConsumptionWindow(program_, part, area_), icon,
-            {PixelsOfTwips(kConsumptionMinimumWidth), PixelsOfTwips(kConsumptionMinimumHeight)});
+            {PixelsCovering(kConsumptionMinimumWidth), PixelsCovering(kConsumptionMinimumHeight)});
 }
 
 void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum) {

@@ -49,6 +49,8 @@ struct ConsumptionView : WindowView {
   // Rebuilds the list from the store.
   virtual void Refresh_Consumpties() = 0;
   virtual void ShowTotals(const ConsumptionTotals& totals) = 0;
+  // Selects the last row, if there is one, and brings it into view.
+  virtual void SelectLastRow() {}
 };
 
 struct FoodListsView : WindowView {
@@ -63,9 +65,9 @@ struct FoodListsView : WindowView {
 using DayTotals = std::array<float, 7>;
 
 struct DaySummaryView : WindowView {
-  virtual void Maak_Voedingsbehoefte(const DayTotals& totals) = 0;
-  // Rebuilds list, body-mass index and texts from the store.
+  // Rebuilds its list, its top five, the body-mass index and its texts from the store.
   virtual void Refresh_Daguittreksel() = 0;
+  virtual void Maak_Voedingsbehoefte(const DayTotals& totals) = 0;
 };
 
 struct BrowserView : WindowView {

@@ -1,5 +1,8 @@
 #include "food/consumption.h"
 
+#include <algorithm>
+#include <unordered_set>
+
 #include "core/common.h"
 #include "food/drag_text.h"
 #include "language/consumption_texts.h"
@@ -53,18 +56,29 @@ void RefreshWindow(Program& program, DayPart part) {
   if (window != nullptr) window->Refresh_Consumpties();
 }
 
-void RefreshAfterChange(Program& program, DayPart part) {
-  RefreshWindow(program, part);
-  Refresh_Totalen(program);
-}
-
 void RefreshDragSource(Program& program) {
   for (const DayPart part : kDayParts) {
     if (RoutingCodeOf(part) == program.day.drag_source) RefreshWindow(program, part);
   }
 }
 
+// What `print` makes, or nothing: filling a list passes over an amount that no number can hold, so
+// that its row can still be seen and removed.
+template <class Print>
+Text PrintedOrNothing(Print print) {
+  try {
+    return print();
+  } catch (const std::system_error&) {
+    return {};
+  }
+}
+
 }  // namespace
+
+void RefreshAfterChange(Program& program, DayPart part) {
+  RefreshWindow(program, part);
+  Refresh_Totalen(program);
+}
 
 const DayPartRow& RowOf(DayPart part) {
   return kRows[static_cast<std::size_t>(part)];
@@ -75,6 +89,14 @@ const Text& CellOf(const ConsumptionRow& row, std::size_t column) {
                                  &ConsumptionRow::product, &ConsumptionRow::unit,
                                  &ConsumptionRow::weight,  &ConsumptionRow::nutrient};
   return row.*kCells[column];
+}
+
+Text ShownCellOf(const ConsumptionRow& row, std::size_t column) {
+  constexpr std::size_t kMostShown = 500;
+  Text shown = CellOf(row, column).substr(0, kMostShown);
+  std::ranges::replace_if(
+      shown, [](char c) { return c >= 0 && c < ' '; }, ' ');
+  return shown;
 }
 
 std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
@@ -91,9 +113,12 @@ std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
       const Text portion = WeightOfPortion(program, FieldOf(line, FoodField::kGram));
       const double nutrient = ReadStoredNumber(FieldOf(line, FoodFieldOf(priority)));
       rows.push_back({std::to_string(i + 1), count, Text(FieldOf(line, FoodField::kProduct)),
-                      Text(FieldOf(line, FoodField::kUnit)),
-                      Str(ReadStoredNumber(portion) * times, separator),
-                      FormatNumber(nutrient * times, PatternOf(priority), separator)});
+                      Text(FieldOf(line, FoodField::kUnit)), PrintedOrNothing([&] {
+                        return Str(ReadStoredNumber(portion) * times, separator);
+                      }),
+                      PrintedOrNothing([&] {
+                        return FormatNumber(nutrient * times, PatternOf(priority), separator);
+                      })});
     }
   });
   return rows;
@@ -119,31 +144,58 @@ Text ConsumptionTitle(Program& program, DayPart part) {
                               UnitsOf(program));
 }
 
+std::vector<std::size_t> RowsToSelect(const Program& program, DayPart part,
+                                      const std::vector<ConsumptionRow>& rows) {
+  const Text& name = program.day.selected_names[static_cast<std::size_t>(part)];
+  std::vector<std::size_t> found;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (rows[i].product == name) found.push_back(i);
+  }
+  return found;
+}
+
+void RefreshDaySummary(Program& program) {
+  if (program.windows.day_summary != nullptr) program.windows.day_summary->Refresh_Daguittreksel();
+}
+
+std::array<int, 3> ConsumptionPanelWidths(int window_width) {
+  constexpr int kPart = 1000, kContains = 3000;
+  return {kPart, kContains, window_width - kPart - kContains};
+}
+
+ShownPanels FlipInfo(ShownPanels panels) {
+  const bool shown = !panels.ToonInfo;
+  return {shown, panels.ToonCombineer && shown};
+}
+
+ShownPanels FlipCombineer(ShownPanels panels) {
+  const bool shown = !panels.ToonCombineer;
+  return {shown, shown};
+}
+
 void SelectName(Program& program, DayPart part, std::string_view product) {
   program.day.selected_names[static_cast<std::size_t>(part)] = product;
 }
 
-void Item_Plus_Een(Program& program, DayPart part, std::string_view product) {
+void Item_Plus_Een(Program& program, DayPart part, const std::optional<Text>& product) {
   program.Guard(CodeOf(part, "#F15-1", "#F14-1"), [&] {
     if (IsAboveLimit(program, part, ct::kLimitAdd)) return;
     SetFileChanged(program, true);
     TextList& lines = program.store.ListOf(part);
-    if (lines.Empty()) return;
-    const Text name(product);
-    SelectName(program, part, name);
-    if (const auto found = lines.FindFirst(KeyOf(name))) lines.Add(Text(lines[*found]));
+    if (lines.Empty() || !product) return;
+    SelectName(program, part, *product);
+    if (const auto found = lines.FindFirst(KeyOf(*product))) lines.Add(lines[*found]);
     RefreshAfterChange(program, part);
   });
 }
 
-void Item_Min_Een(Program& program, DayPart part, std::string_view product) {
+void Item_Min_Een(Program& program, DayPart part, const std::optional<Text>& product) {
   program.Guard(CodeOf(part, "#F15-2", "#F14-2"), [&] {
     SetFileChanged(program, true);
     TextList& lines = program.store.ListOf(part);
-    if (!lines.Empty()) {
-      const Text name(product);
-      SelectName(program, part, name);
-      if (const auto found = lines.FindLast(KeyOf(name))) lines.Remove(*found);
+    if (!lines.Empty() && product) {
+      SelectName(program, part, *product);
+      if (const auto found = lines.FindLast(KeyOf(*product))) lines.Remove(*found);
     }
     RefreshAfterChange(program, part);
   });
@@ -154,10 +206,13 @@ void Item_Verwijder(Program& program, DayPart part, const TextList& products) {
     SetFileChanged(program, true);
     TextList& lines = program.store.ListOf(part);
     if (lines.Empty()) return;
-    for (const std::string_view product : products) {
-      const Text key = KeyOf(product);
-      while (const auto found = lines.FindLast(key)) lines.Remove(*found);
-    }
+    const std::unordered_set<std::string_view> names(products.begin(), products.end());
+    TextList left;
+    left.AddSharedLines(lines, [&names](std::string_view line) {
+      const std::size_t end = line.find(kFieldEnd);
+      return end == line.npos || !names.contains(line.substr(0, end));
+    });
+    lines = std::move(left);
     RefreshAfterChange(program, part);
   });
 }
@@ -180,19 +235,26 @@ bool DropOnDayPart(Program& program, DayPart part, std::string_view payload) {
     // One after the other, not one of the three: what a marker leaves is looked at again.
     Text rest(payload);
     if (TakeMarker(rest, kAddMarker)) {
-      for (const std::string_view line : PartsOf(rest)) lines.Add(line);
+      for (const std::string_view line : PartsOf(rest)) {
+        if (line.find(kFieldEnd) != line.npos) lines.Add(line);
+      }
     }
     if (TakeMarker(rest, kForeignMarker)) {
-      rest.append(kForeignOrigin) += kFieldEnd;
-      lines.Add(rest);
+      // One line, whatever follows it.
+      const std::string_view line = std::string_view(rest).substr(0, rest.find(kLineEnd));
+      lines.Add({line, kForeignOrigin, std::string_view(&kFieldEnd, 1)});
     }
     if (TakeMarker(rest, kKillMarker)) {
       for (const std::string_view key : PartsOf(rest)) {
+        // The beginning of a name is no key, and would match too much.
+        if (!key.ends_with(kFieldEnd)) continue;
         MoveConsumption(program.store, program.day.drag_source, key, RoutingCodeOf(part));
       }
       RefreshDragSource(program);
     }
     RefreshAfterChange(program, part);
+    ConsumptionView* const window = program.windows.Consumption(part);
+    if (window != nullptr) window->SelectLastRow();
   });
   return accepted;
 }

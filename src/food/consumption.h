@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -28,7 +29,11 @@ struct ConsumptionRow {
 inline constexpr std::size_t kConsumptionColumns = 6;
 [[nodiscard]] const Text& CellOf(const ConsumptionRow& row, std::size_t column);
 
-// The rows of a day part, in the order of first appearance. Fills `Dupe_list` on the way.
+// A cell as it is drawn: on one line, and no longer than anybody can read.
+[[nodiscard]] Text ShownCellOf(const ConsumptionRow& row, std::size_t column);
+
+// The rows of a day part, in the order of first appearance. Fills `Dupe_list` on the way. An amount
+// that no number can hold has an empty cell.
 [[nodiscard]] std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part);
 
 // The headings of the six columns, and the shares of the list's width they take; 0 is hidden, and
@@ -41,15 +46,37 @@ inline constexpr std::array<double, kConsumptionColumns> kConsumptionWidths = {0
 // The window's title: its text, the weekday and the date of the day.
 [[nodiscard]] Text ConsumptionTitle(Program& program, DayPart part);
 
-// The row whose name stands in the selected-name variable of the part was clicked or changed.
+// The numbers of the rows that are to be selected after a rebuilding: all that bear the name in the
+// selected-name variable of the part.
+[[nodiscard]] std::vector<std::size_t> RowsToSelect(const Program& program, DayPart part,
+                                                    const std::vector<ConsumptionRow>& rows);
+
+// The last step of rebuilding a window: an open day summary follows.
+void RefreshDaySummary(Program& program);
+
+// The widths of the three panels of the status bar, in twips, for a window of that width.
+[[nodiscard]] std::array<int, 3> ConsumptionPanelWidths(int window_width);
+
+// Which of its two panels a window shows. The one to combine foods never stands without the totals,
+// and no window opens with it.
+struct ShownPanels {
+  bool ToonInfo = false;
+  bool ToonCombineer = false;
+};
+// Each flip is a click on its button.
+[[nodiscard]] ShownPanels FlipInfo(ShownPanels panels);
+[[nodiscard]] ShownPanels FlipCombineer(ShownPanels panels);
+
+// The product of the row last clicked or changed.
 void SelectName(Program& program, DayPart part, std::string_view product);
 
 // One more portion: a copy of the first line of that name, unless the list is above the limit.
-// A name with lines of different values is incremented by the first of them, as is meant.
-void Item_Plus_Een(Program& program, DayPart part, std::string_view product);
+// A name with lines of different values is incremented by the first of them, as is meant. Without a
+// product, when no row is selected, the day is only marked as changed.
+void Item_Plus_Een(Program& program, DayPart part, const std::optional<Text>& product);
 
-// One portion less: the last line of that name goes. No name stands for a list without rows.
-void Item_Min_Een(Program& program, DayPart part, std::string_view product);
+// One portion less: the last line of that name goes.
+void Item_Min_Een(Program& program, DayPart part, const std::optional<Text>& product);
 
 // Every line of each name goes.
 void Item_Verwijder(Program& program, DayPart part, const TextList& products);
@@ -57,7 +84,12 @@ void Item_Verwijder(Program& program, DayPart part, const TextList& products);
 // The payload of a drag that begins in this part's list; sets the drag source.
 [[nodiscard]] Text BeginConsumptionDrag(Program& program, DayPart part, const TextList& products);
 
-// A drop on this part's list. False if the list was above the limit: nothing changed then.
+// A drop on this part's list; its window then shows the last row selected. False if the list was
+// above the limit: nothing changed then. A part of the payload that is no line, having no field, or
+// no key adds and moves nothing.
 bool DropOnDayPart(Program& program, DayPart part, std::string_view payload);
+
+// Rebuilds the window of the part, if it is open, and re-totals the day: how every change ends.
+void RefreshAfterChange(Program& program, DayPart part);
 
 }  // namespace kelvora

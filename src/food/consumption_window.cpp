@@ -1,16 +1,15 @@
 #include "food/consumption_window.h"
 
 #include <algorithm>
-#include <memory>
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QMdiSubWindow>
+#include <QScopedValueRollback>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "core/program.h"
-#include "food/consumption.h"
+#include "food/combining.h"
 #include "language/consumption_texts.h"
 #include "nutrition/totals.h"
 #include "platform/qt/look.h"
@@ -21,21 +20,22 @@ namespace {
 
 namespace ct = consumption_text;
 
-constexpr int kProductColumn = 2;
+constexpr int kShownColumn = 1;  // the first one that is not hidden
 constexpr int kToolIconSize = 16;
+constexpr int kBarHeight = 24;
+constexpr int kRowMargin = 6;         // of the letters' height, as in all lists of foods
+constexpr int kLowRowMargin = 2;      // while both panels take their room
 constexpr int kLeastListHeight = 38;  // the headings and one row
+constexpr int kPanelMargin = 2;       // above and below the letters of the status bar
 
-// Captions of the totals panel, each beside the label of the same place.
-struct CaptionRow {
-  const char* name;
-  std::size_t text;
-};
-constexpr std::array kCaptions = {
-    CaptionRow{"txt_1", ct::kEnergy},        CaptionRow{"txt_2", ct::kFatU},
-    CaptionRow{"txt_3", ct::kFatS},          CaptionRow{"txt_4", ct::kProtein},
-    CaptionRow{"txt_5", ct::kCarbohydrates}, CaptionRow{"txt_6", ct::kSodium},
-    CaptionRow{"txt_9", ct::kWeight},
-};
+QAction* NewToolAction(QToolBar* bar, const char* name, const char* icon) {
+  QAction* const action = bar->addAction(IconNamed(icon), QString());
+  action->setObjectName(QLatin1String(name) + QLatin1String("_action"));
+  auto* const button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
+  button->setObjectName(QLatin1String(name));
+  button->setFocusPolicy(Qt::TabFocus);
+  return action;
+}
 
 }  // namespace
 
@@ -45,45 +45,18 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
       part_(part),
       open_flag_(program.windows, program.windows.Consumption(part), this) {
   setObjectName(ToQt(RowOf(part).window_name));
-
-  LV_consumpties_ = new FoodTable("LV_consumpties", this);
-  LV_consumpties_->horizontalHeader()->setStretchLastSection(true);
-  LV_consumpties_->setMinimumHeight(kLeastListHeight);
   BuildToolbars();
-  BuildTotalsPanel();
+  BuildList();
+  BuildEmptyHint();
+  row_menu_ = new RowMenu(
+      program_, part_, [this] { return SelectedNames(); }, LV_consumpties_);
+  row_menu_->AddButtons({plus_action_, minus_action_, remove_action_});
+  Info_bar_ = new TotalsPanel(this);
+  Pic_SP_ = new CombinePanel(this);
   BuildStatusBar();
-
-  auto* const bars = new QHBoxLayout;
-  bars->addWidget(Toolbar_);
-  bars->addStretch();
-  bars->addWidget(Toolbar_control_);
-  auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addLayout(bars);
-  auto* const list = new QHBoxLayout;
-  list->setContentsMargins(4, 0, 4, 2);
-  list->addWidget(LV_consumpties_);
-  layout->addLayout(list, 1);
-  layout->addWidget(Info_bar_);
-  layout->addWidget(StatusBar_);
-
-  LV_consumpties_->drag_payload = [this](const std::vector<std::size_t>& rows) {
-    return rows.empty() ? Text() : BeginConsumptionDrag(program_, part_, SelectedNames());
-  };
-  LV_consumpties_->drop = [this](const Text& payload) {
-    if (DropOnDayPart(program_, part_, payload) && LV_consumpties_->Model().rowCount() > 0) {
-      LV_consumpties_->SelectRow(LV_consumpties_->Model().rowCount() - 1);
-    }
-  };
-  connect(LV_consumpties_, &FoodTable::RowClicked, this, [this](int row) {
-    SelectName(program_, part_, NameInRow(static_cast<std::size_t>(row)));
-  });
-  connect(LV_consumpties_, &FoodTable::PlusPressed, plus_action_, &QAction::trigger);
-  connect(LV_consumpties_, &FoodTable::MinusPressed, minus_action_, &QAction::trigger);
-  connect(LV_consumpties_, &FoodTable::DeletePressed, remove_action_, &QAction::trigger);
-
-  ApplyTotalsPanel();
+  LayOut();
+  ConnectAll();
+  ShowPanels({.ToonInfo = program_.windows.totals_shown[static_cast<std::size_t>(part_)]});
   Set_Taal();
   Refresh_Totalen(program_);
 }
@@ -98,64 +71,53 @@ void ConsumptionWindow::showEvent(QShowEvent* event) {
   SetColumnWidths();
 }
 
-void ConsumptionWindow::BuildToolbars() {
-  const auto add = [](QToolBar* bar, const char* name, const char* icon) {
-    QAction* const action = bar->addAction(IconNamed(icon), QString());
-    action->setObjectName(QLatin1String(name) + QLatin1String("_action"));
-    bar->widgetForAction(action)->setObjectName(QLatin1String(name));
-    return action;
+void ConsumptionWindow::BuildList() {
+  LV_consumpties_ = new FoodTable("LV_consumpties", this);
+  LV_consumpties_->horizontalHeader()->setStretchLastSection(true);
+  LV_consumpties_->setMinimumHeight(kLeastListHeight);
+  LV_consumpties_->verticalHeader()->setMinimumSectionSize(0);
+  LV_consumpties_->setContextMenuPolicy(Qt::CustomContextMenu);
+  LV_consumpties_->drag_payload = [this](const std::vector<std::size_t>& rows) {
+    return rows.empty() ? Text() : BeginConsumptionDrag(program_, part_, SelectedNames());
   };
-  Toolbar_ = new QToolBar(this);
-  NameWidget(Toolbar_, "Toolbar");
-  totals_action_ = add(Toolbar_, "Toolbar_1", "totals");
-  totals_action_->setCheckable(true);
-  combine_action_ = add(Toolbar_, "Toolbar_2", "combine");
-  combine_action_->setCheckable(true);
-  combine_action_->setEnabled(false);  // the panel to combine foods does not exist yet
-  Toolbar_control_ = new QToolBar(this);
-  NameWidget(Toolbar_control_, "Toolbar_control");
-  plus_action_ = add(Toolbar_control_, "Toolbar_control_1", "plus");
-  minus_action_ = add(Toolbar_control_, "Toolbar_control_2", "minus");
-  Toolbar_control_->addSeparator();
-  remove_action_ = add(Toolbar_control_, "Toolbar_control_4", "remove");
-  for (QToolBar* bar : {Toolbar_, Toolbar_control_}) {
-    bar->setIconSize({kToolIconSize, kToolIconSize});
-  }
-
-  connect(totals_action_, &QAction::triggered, this, [this](bool shown) {
-    program_.windows.totals_shown[static_cast<std::size_t>(part_)] = shown;
-    ApplyTotalsPanel();
-  });
-  connect(plus_action_, &QAction::triggered, this,
-          [this] { Item_Plus_Een(program_, part_, CurrentName()); });
-  connect(minus_action_, &QAction::triggered, this,
-          [this] { Item_Min_Een(program_, part_, CurrentName()); });
-  connect(remove_action_, &QAction::triggered, this,
-          [this] { Item_Verwijder(program_, part_, SelectedNames()); });
+  LV_consumpties_->drop = [this](const Text& payload) { DropOnDayPart(program_, part_, payload); };
+  // The window itself has nothing that takes keys.
+  setFocusPolicy(Qt::ClickFocus);
+  setFocusProxy(LV_consumpties_);
 }
 
-void ConsumptionWindow::BuildTotalsPanel() {
-  Info_bar_ = new QWidget(this);
-  NameWidget(Info_bar_, "Info_bar");
-  UseSmallLetters(Info_bar_);
-  Info_bar_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  auto* const grid = new QGridLayout(Info_bar_);
-  grid->setContentsMargins(8, 1, 8, 1);
-  grid->setHorizontalSpacing(4);
-  grid->setVerticalSpacing(0);
-  for (std::size_t i = 0; i < kCaptions.size(); ++i) {
-    captions_[i] = NewLabel(Info_bar_, QLatin1String(kCaptions[i].name));
-    lbl_nfo_[i] = NewLabel(Info_bar_, QStringLiteral("lbl_nfo_%1").arg(i + 1));
-    const int row = static_cast<int>(i % 4);
-    const int column = static_cast<int>(i / 4) * 2;
-    grid->addWidget(captions_[i], row, column);
-    grid->addWidget(lbl_nfo_[i], row, column + 1);
-  }
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(3, 1);
-  for (std::size_t i = 0; i < var_.size(); ++i) {
-    var_[i] = NewLabel(Info_bar_, QStringLiteral("var_%1").arg(i));
-    var_[i]->hide();
+void ConsumptionWindow::BuildEmptyHint() {
+  empty_hint_ = NewLabel(LV_consumpties_->viewport(), QStringLiteral("empty_hint"));
+  empty_hint_->setAlignment(Qt::AlignCenter);
+  empty_hint_->setWordWrap(true);
+  empty_hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  QPalette grey = empty_hint_->palette();
+  grey.setColor(QPalette::WindowText, grey.color(QPalette::PlaceholderText));
+  empty_hint_->setPalette(grey);
+  empty_hint_->setForegroundRole(QPalette::WindowText);
+  auto* const layout = new QVBoxLayout(LV_consumpties_->viewport());
+  layout->setContentsMargins(12, 0, 12, 0);
+  layout->setSizeConstraint(QLayout::SetNoConstraint);
+  layout->addWidget(empty_hint_);
+}
+
+void ConsumptionWindow::BuildToolbars() {
+  Toolbar_ = new QToolBar(this);
+  NameWidget(Toolbar_, "Toolbar");
+  totals_action_ = NewToolAction(Toolbar_, "Toolbar_1", "totals");
+  totals_action_->setCheckable(true);
+  combine_action_ = NewToolAction(Toolbar_, "Toolbar_2", "combine");
+  combine_action_->setCheckable(true);
+  Toolbar_control_ = new QToolBar(this);
+  NameWidget(Toolbar_control_, "Toolbar_control");
+  plus_action_ = NewToolAction(Toolbar_control_, "Toolbar_control_1", "plus");
+  minus_action_ = NewToolAction(Toolbar_control_, "Toolbar_control_2", "minus");
+  Toolbar_control_->addSeparator();
+  remove_action_ = NewToolAction(Toolbar_control_, "Toolbar_control_4", "remove");
+  for (QToolBar* bar : {Toolbar_, Toolbar_control_}) {
+    bar->setIconSize({kToolIconSize, kToolIconSize});
+    bar->setFixedHeight(kBarHeight);
+    bar->layout()->setContentsMargins(4, 0, 4, 0);
   }
 }
 
@@ -165,10 +127,61 @@ void ConsumptionWindow::BuildStatusBar() {
   StatusBar_->setSizeGripEnabled(false);
   for (std::size_t i = 0; i < panels_.size(); ++i) {
     panels_[i] = NewLabel(StatusBar_, QStringLiteral("StatusBar_%1").arg(i + 1));
-    StatusBar_->addWidget(panels_[i], i == 2 ? 1 : 0);
+    panels_[i]->setIndent(5);
   }
-  panels_[0]->setMinimumWidth(PixelsOfTwips(1000));
-  panels_[1]->setMinimumWidth(PixelsOfTwips(3000));
+  StatusBar_->setFixedHeight(StatusBar_->fontMetrics().height() + 2 * kPanelMargin);
+}
+
+void ConsumptionWindow::LayOut() {
+  auto* const bars = new QHBoxLayout;
+  bars->addWidget(Toolbar_);
+  bars->addStretch();
+  bars->addWidget(Toolbar_control_);
+  auto* const list = new QHBoxLayout;
+  list->setContentsMargins(4, 0, 4, 2);
+  list->addWidget(LV_consumpties_);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addLayout(bars);
+  layout->addLayout(list, 1);
+  layout->addWidget(Info_bar_);
+  layout->addWidget(Pic_SP_);
+  layout->addWidget(StatusBar_);
+}
+
+void ConsumptionWindow::ConnectAll() {
+  const auto on = [this](QAction* action, auto run) {
+    connect(action, &QAction::triggered, this, run);
+  };
+  on(totals_action_, [this] { ShowPanels(FlipInfo(panels_shown_)); });
+  on(combine_action_, [this] {
+    ShowPanels(FlipCombineer(panels_shown_));
+    (panels_shown_.ToonCombineer ? static_cast<QWidget*>(Pic_SP_) : LV_consumpties_)->setFocus();
+  });
+  on(plus_action_, [this] { Item_Plus_Een(program_, part_, CurrentName()); });
+  on(minus_action_, [this] { Item_Min_Een(program_, part_, CurrentName()); });
+  on(remove_action_, [this] { Item_Verwijder(program_, part_, SelectedNames()); });
+  connect(LV_consumpties_, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
+    row_menu_->ShowAt(LV_consumpties_->viewport()->mapToGlobal(place));
+  });
+  connect(LV_consumpties_, &FoodTable::PlusPressed, plus_action_, &QAction::trigger);
+  connect(LV_consumpties_, &FoodTable::MinusPressed, minus_action_, &QAction::trigger);
+  connect(LV_consumpties_, &FoodTable::DeletePressed, remove_action_, &QAction::trigger);
+  const auto remember = [this](int row) {
+    if (row >= 0 && !rebuilding_) {
+      SelectName(program_, part_, (*rows_)[static_cast<std::size_t>(row)].product);
+    }
+  };
+  connect(LV_consumpties_, &FoodTable::RowClicked, this, remember);
+  // A row chosen with the arrow keys counts as clicked; one that only took the focus does not.
+  QItemSelectionModel* const selection = LV_consumpties_->selectionModel();
+  connect(selection, &QItemSelectionModel::currentRowChanged, this,
+          [remember, selection](const QModelIndex& current) {
+            if (selection->isRowSelected(current.row())) remember(current.row());
+          });
+  connect(Pic_SP_, &CombinePanel::SavePressed, this, &ConsumptionWindow::Combine);
+  connect(Pic_SP_, &CombinePanel::CloseAsked, combine_action_, &QAction::trigger);
 }
 
 void ConsumptionWindow::CloseWindow() {
@@ -176,25 +189,28 @@ void ConsumptionWindow::CloseWindow() {
 }
 
 void ConsumptionWindow::Set_Taal() {
-  const auto text = [this](std::size_t index) -> const Text& {
-    return program_.texts[{RowOf(part_).texts, index}];
+  const TextTable table = RowOf(part_).texts;
+  const auto text = [&](std::size_t index) -> const Text& {
+    return program_.texts[{table, index}];
   };
-  SetActionTexts(totals_action_, text(ct::kTipTotals), {});
-  SetActionTexts(combine_action_, text(ct::kTipCombine), {});
-  SetActionTexts(plus_action_, text(ct::kTipPlus), {});
-  SetActionTexts(minus_action_, text(ct::kTipMinus), {});
-  SetActionTexts(remove_action_, text(ct::kTipRemove), {});
-  for (std::size_t i = 0; i < kCaptions.size(); ++i) {
-    captions_[i]->setText(ToQt(text(kCaptions[i].text)));
+  for (const auto& [action, tip] :
+       {std::pair{totals_action_, ct::kTipTotals}, std::pair{combine_action_, ct::kTipCombine},
+        std::pair{plus_action_, ct::kTipPlus}, std::pair{minus_action_, ct::kTipMinus},
+        std::pair{remove_action_, ct::kTipRemove}}) {
+    SetActionTexts(action, text(tip), {});
   }
+  row_menu_->SetTexts(text(ct::kTitle));
+  Info_bar_->SetCaptions(program_.texts, table);
+  Pic_SP_->SetCaptions(program_.texts, table);
   panels_[0]->setText(ToQt(text(ct::kStatus)));
+  empty_hint_->setText(ToQt(program_.texts[{TextTable::taal_morning, ct::kSharedDropHint}]));
   LV_consumpties_->setAccessibleName(ToQt(text(ct::kTitle)));
-  Info_bar_->setAccessibleName(ToQt(text(ct::kTipTotals)));
   // Title and headings are texts of the tables too.
   Refresh_Consumpties();
 }
 
 void ConsumptionWindow::Refresh_Consumpties() {
+  const QScopedValueRollback rebuilding(rebuilding_, true);
   setWindowTitle(ToQt(ConsumptionTitle(program_, part_)));
   const auto headings = ConsumptionHeadings(program_, part_);
   std::vector<TextTableModel::Column> columns;
@@ -202,25 +218,103 @@ void ConsumptionWindow::Refresh_Consumpties() {
     const bool number = i == 1 || i >= 4;
     columns.push_back({headings[i], number ? Qt::AlignRight : Qt::AlignLeft});
   }
-  auto rows = std::make_shared<std::vector<ConsumptionRow>>(ConsumptionRows(program_, part_));
-  const std::size_t count = rows->size();
-  LV_consumpties_->Model().Show(
-      std::move(columns), count,
-      [rows](std::size_t row, std::size_t column) { return CellOf((*rows)[row], column); });
-  LV_consumpties_->SelectRowsReading(
-      kProductColumn, ToQt(program_.day.selected_names[static_cast<std::size_t>(part_)]));
+  rows_ = std::make_shared<const std::vector<ConsumptionRow>>(ConsumptionRows(program_, part_));
+  const int current = LV_consumpties_->currentIndex().row();
+  LV_consumpties_->Model().Show(std::move(columns), rows_->size(),
+                                [rows = rows_](std::size_t row, std::size_t column) {
+                                  return ShownCellOf((*rows)[row], column);
+                                });
+  const auto to_select = RowsToSelect(program_, part_, *rows_);
+  if (to_select.empty() && current >= 0 && !rows_->empty()) {
+    // Nothing is selected, but the arrow keys go on from where they were.
+    const int last = LV_consumpties_->Model().rowCount() - 1;
+    LV_consumpties_->selectionModel()->setCurrentIndex(
+        LV_consumpties_->Model().index(std::min(current, last), kShownColumn),
+        QItemSelectionModel::NoUpdate);
+  }
+  SelectRows(to_select);
+  empty_hint_->setVisible(rows_->empty());
+  RefreshDaySummary(program_);
   FollowListWidth();
 }
 
+void ConsumptionWindow::SelectRows(const std::vector<std::size_t>& rows) {
+  QItemSelection selection;
+  const TextTableModel& model = LV_consumpties_->Model();
+  for (const std::size_t row : rows) {
+    const QModelIndex index = model.index(static_cast<int>(row), kShownColumn);
+    selection.select(index, index);
+  }
+  QItemSelectionModel& selected = *LV_consumpties_->selectionModel();
+  selected.select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  if (rows.empty()) return;
+  const QModelIndex first = model.index(static_cast<int>(rows.front()), kShownColumn);
+  selected.setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+  LV_consumpties_->scrollTo(model.index(static_cast<int>(rows.back()), kShownColumn));
+  LV_consumpties_->scrollTo(first);
+}
+
+void ConsumptionWindow::SelectLastRow() {
+  if (rows_->empty()) return;
+  // No click: what was last clicked stays so.
+  const QScopedValueRollback rebuilding(rebuilding_, true);
+  LV_consumpties_->SelectRow(static_cast<int>(rows_->size()) - 1);
+}
+
 void ConsumptionWindow::ShowTotals(const ConsumptionTotals& totals) {
-  for (std::size_t i = 0; i < lbl_nfo_.size(); ++i) lbl_nfo_[i]->setText(ToQt(totals.lbl_nfo[i]));
-  for (std::size_t i = 0; i < var_.size(); ++i) var_[i]->setText(ToQt(totals.var[i]));
+  Info_bar_->Show(totals);
   panels_[1]->setText(ToQt(totals.status));
+  LayStatusBar();
+}
+
+void ConsumptionWindow::ShowPanels(ShownPanels panels) {
+  panels_shown_ = panels;
+  program_.windows.totals_shown[static_cast<std::size_t>(part_)] = panels.ToonInfo;
+  totals_action_->setChecked(panels.ToonInfo);
+  combine_action_->setChecked(panels.ToonCombineer);
+  Info_bar_->setVisible(panels.ToonInfo);
+  Pic_SP_->setVisible(panels.ToonCombineer);
+  LV_consumpties_->verticalHeader()->setDefaultSectionSize(
+      LV_consumpties_->fontMetrics().height() +
+      (panels.ToonCombineer ? kLowRowMargin : kRowMargin));
+  layout()->activate();
+  KeepSelectedRowInView();
+}
+
+void ConsumptionWindow::KeepSelectedRowInView() {
+  const auto rows = LV_consumpties_->SelectedRows();
+  if (rows.empty()) return;
+  LV_consumpties_->scrollTo(
+      LV_consumpties_->Model().index(static_cast<int>(rows.front()), kShownColumn));
+}
+
+void ConsumptionWindow::Combine() {
+  const CombineForm form{
+      .name = Pic_SP_->Name(), .unit = Pic_SP_->Unit(), .var = Info_bar_->ShownValues()};
+  if (!CombineFoods(program_, part_, form)) return;
+  Pic_SP_->Clear();
+  ShowPanels({});
+  LV_consumpties_->setFocus();
 }
 
 void ConsumptionWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  LayStatusBar();
   FollowListWidth();
+  layout()->activate();
+  KeepSelectedRowInView();
+}
+
+void ConsumptionWindow::LayStatusBar() {
+  const auto widths = ConsumptionPanelWidths(TwipsOfPixels(width()));
+  // Words that are too long for the second panel reach into the third, which is empty.
+  int left = 0;
+  for (std::size_t i = 0; i < panels_.size(); ++i) {
+    const int needed = panels_[i]->sizeHint().width();
+    const int panel_width = std::max(PixelsOfTwips(widths[i]), i == 1 ? needed : 0);
+    panels_[i]->setGeometry(left, 0, panel_width, StatusBar_->height());
+    left += panel_width;
+  }
 }
 
 void ConsumptionWindow::FollowListWidth() {
@@ -237,29 +331,18 @@ void ConsumptionWindow::SetColumnWidths() {
   }
 }
 
-void ConsumptionWindow::ApplyTotalsPanel() {
-  const bool shown = program_.windows.totals_shown[static_cast<std::size_t>(part_)];
-  totals_action_->setChecked(shown);
-  Info_bar_->setVisible(shown);
-}
-
-Text ConsumptionWindow::NameInRow(std::size_t row) const {
-  const QModelIndex index = LV_consumpties_->Model().index(static_cast<int>(row), kProductColumn);
-  return FromQt(index.data().toString());
-}
-
 TextList ConsumptionWindow::SelectedNames() const {
   TextList names;
-  for (const std::size_t row : LV_consumpties_->SelectedRows()) names.Add(NameInRow(row));
+  for (const std::size_t row : LV_consumpties_->SelectedRows()) names.Add((*rows_)[row].product);
   return names;
 }
 
-Text ConsumptionWindow::CurrentName() const {
+std::optional<Text> ConsumptionWindow::CurrentName() const {
   const auto rows = LV_consumpties_->SelectedRows();
-  if (rows.empty()) return {};
+  if (rows.empty()) return std::nullopt;
   const auto current = static_cast<std::size_t>(LV_consumpties_->currentIndex().row());
   const bool current_is_selected = std::ranges::find(rows, current) != rows.end();
-  return NameInRow(current_is_selected ? current : rows.front());
+  return (*rows_)[current_is_selected ? current : rows.front()].product;
 }
 
 }  // namespace kelvora

@@ -1,8 +1,19 @@
-// One of the three consumption windows. A picture of one day part: it draws what consumption.h
+// One of the three consumption windows. A picture of one part of the day: it draws what the logic
 // gives it and passes clicks, keys and drops on.
+//
+// Keys in the list, all of them in the menu of a row too, but for the first line:
+//   arrows, Shift, Ctrl+A     choose rows
+//   numeric +, numeric -      one portion of the row more or less
+//   Delete, Shift+Delete      remove the rows entirely; take one portion of each out of the day
+//   Ctrl+1, Ctrl+2, Ctrl+3    move one portion of each row to morning, afternoon or evening
+//   Ctrl+X, Ctrl+V            the same by cutting here and pasting there
+//   Ctrl+D                    add the rows to the favourites
+// In the panel to combine foods Enter saves and Escape closes it.
 #pragma once
 
 #include <array>
+#include <memory>
+#include <optional>
 
 #include <QAction>
 #include <QLabel>
@@ -11,11 +22,13 @@
 #include <QWidget>
 
 #include "core/views.h"
+#include "food/combine_panel.h"
+#include "food/consumption.h"
 #include "food/food_table_panel.h"
+#include "food/row_menu_panel.h"
+#include "food/totals_panel.h"
 
 namespace kelvora {
-
-struct Program;
 
 class ConsumptionWindow : public QWidget, public ConsumptionView {
   Q_OBJECT
@@ -27,6 +40,7 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   void Set_Taal() override;
   void Refresh_Consumpties() override;
   void ShowTotals(const ConsumptionTotals& totals) override;
+  void SelectLastRow() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -34,21 +48,31 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void BuildList();
+  void BuildEmptyHint();
   void BuildToolbars();
-  void BuildTotalsPanel();
   void BuildStatusBar();
+  void LayOut();
+  void ConnectAll();
   // Widths follow the list only while it has rows.
   void FollowListWidth();
   void SetColumnWidths();
-  void ApplyTotalsPanel();
-  [[nodiscard]] Text NameInRow(std::size_t row) const;
+  void LayStatusBar();
+  void ShowPanels(ShownPanels panels);
+  void SelectRows(const std::vector<std::size_t>& rows);
+  void KeepSelectedRowInView();
+  void Combine();
   [[nodiscard]] TextList SelectedNames() const;
-  [[nodiscard]] Text CurrentName() const;
+  [[nodiscard]] std::optional<Text> CurrentName() const;
 
   Program& program_;
   const DayPart part_;
   OpenFlag<ConsumptionView> open_flag_;
+  ShownPanels panels_shown_;
+  std::shared_ptr<const std::vector<ConsumptionRow>> rows_;  // what the list shows
+  bool rebuilding_ = false;  // the current row changes, but nobody chose another one
   FoodTable* LV_consumpties_;
+  QLabel* empty_hint_;
   QToolBar* Toolbar_;
   QToolBar* Toolbar_control_;
   QAction* totals_action_;
@@ -56,10 +80,9 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   QAction* plus_action_;
   QAction* minus_action_;
   QAction* remove_action_;
-  QWidget* Info_bar_;
-  std::array<QLabel*, 7> captions_;
-  std::array<QLabel*, 7> lbl_nfo_;
-  std::array<QLabel*, 8> var_;
+  RowMenu* row_menu_;
+  TotalsPanel* Info_bar_;
+  CombinePanel* Pic_SP_;
   QStatusBar* StatusBar_;
   std::array<QLabel*, 3> panels_;
 };

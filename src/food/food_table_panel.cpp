@@ -57,10 +57,11 @@ std::vector<std::size_t> FoodTable::SelectedRows() const {
 }
 
 void FoodTable::SelectRow(int row) {
-  const QModelIndex index = model_.index(row, 0);
+  // The first column is hidden, and the arrow keys go nowhere from there.
+  const QModelIndex index = model_.index(row, 1);
   selectionModel()->setCurrentIndex(
       index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  scrollTo(model_.index(row, 1));
+  scrollTo(index);
 }
 
 void FoodTable::SelectRowsReading(int column, const QString& text) {

@@ -19,6 +19,15 @@ struct OwnTextRow {
 constexpr std::array kRows = {
     OwnTextRow{OwnText::not_here_yet, "Not part of this version yet."_w,
                "Nog geen deel van deze versie."_w},
+    OwnTextRow{OwnText::move_to_morning, "Move to the morning"_w, "Verplaats naar de ochtend"_w},
+    OwnTextRow{OwnText::move_to_afternoon, "Move to the afternoon"_w, "Verplaats naar de middag"_w},
+    OwnTextRow{OwnText::move_to_evening, "Move to the evening"_w, "Verplaats naar de avond"_w},
+    OwnTextRow{OwnText::cut_foods, "Cut"_w, "Knippen"_w},
+    OwnTextRow{OwnText::paste_foods, "Paste"_w, "Plakken"_w},
+    OwnTextRow{OwnText::take_portion_out, "Take one portion out of the day"_w,
+               "Haal één portie uit de dag"_w},
+    OwnTextRow{OwnText::add_to_favourites, "Add to the favourites"_w,
+               "Voeg toe aan de favorieten"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -13,7 +13,14 @@ enum class Language { english, dutch };
 [[nodiscard]] Language LanguageOf(const TextTables& texts);
 
 enum class OwnText {
-  not_here_yet,  // why a command is disabled that this version can't carry out
+  not_here_yet,     // why a command is disabled that this version can't carry out
+  move_to_morning,  // entries of a menu on the foods of one part of the day
+  move_to_afternoon,
+  move_to_evening,
+  cut_foods,
+  paste_foods,
+  take_portion_out,
+  add_to_favourites,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -21,6 +28,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 1;
+inline constexpr int kOwnTextCount = 8;
 
 }  // namespace kelvora

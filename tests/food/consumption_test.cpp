@@ -189,6 +189,140 @@ TEST_F(Consumption, RemoveTakesEveryLineOfTheNameAndOfNoOther) {
   EXPECT_EQ(Lines(store.L_ochtend), (std::vector<Text>{LineOf(longer), LineOf(kMilk)}));
 }
 
+TEST_F(Consumption, MinusOnARowOfOneRemovesItAndKeepsTheGoneName) {
+  for (const FoodLine& food : {kBread, kMilk}) store.L_ochtend.Add(LineOf(food));
+  Item_Min_Een(test.program, DayPart::morning, "Bread");
+  EXPECT_EQ(test.program.day.selected_names[0], "Bread");
+  const auto rows = ConsumptionRows(test.program, DayPart::morning);
+  EXPECT_TRUE(RowsToSelect(test.program, DayPart::morning, rows).empty());
+}
+
+TEST_F(Consumption, EveryRowOfTheNameIsSelectedAgain) {
+  FoodLine other = kBread;
+  other.gram = "99";
+  FoodLine longer = kBread;
+  longer.product = "Bread roll";
+  for (const FoodLine& food : {kBread, longer, kMilk, other}) store.L_avond.Add(LineOf(food));
+  SelectName(test.program, DayPart::evening, "Bread");
+  const auto rows = ConsumptionRows(test.program, DayPart::evening);
+  EXPECT_EQ(RowsToSelect(test.program, DayPart::evening, rows), (std::vector<std::size_t>{0, 3}));
+  EXPECT_TRUE(RowsToSelect(test.program, DayPart::morning, rows).empty());
+}
+
+TEST_F(Consumption, WithoutASelectedRowPlusAndMinusOnlyMarkTheDayChanged) {
+  store.L_ochtend.Add(LineOf({.product = ""}));
+  SelectName(test.program, DayPart::morning, "Bread");
+  Item_Plus_Een(test.program, DayPart::morning, std::nullopt);
+  Item_Min_Een(test.program, DayPart::morning, std::nullopt);
+  EXPECT_EQ(store.L_ochtend.Count(), 1u);
+  EXPECT_EQ(test.program.day.selected_names[0], "Bread");
+  EXPECT_TRUE(test.program.day.FileChanged);
+}
+
+TEST_F(Consumption, AFoodWithAnEmptyNameHasARowThatCanBeChangedAndRemoved) {
+  store.L_ochtend.Add(LineOf({.product = "", .gram = "5"}));
+  store.L_ochtend.Add(LineOf(kBread));
+  Item_Plus_Een(test.program, DayPart::morning, "");
+  EXPECT_EQ(ConsumptionRows(test.program, DayPart::morning)[0].weight, "10");
+  TextList names;
+  names.Add("");
+  Item_Verwijder(test.program, DayPart::morning, names);
+  EXPECT_EQ(Lines(store.L_ochtend), std::vector<Text>{LineOf(kBread)});
+}
+
+TEST_F(Consumption, RemoveOnAnEmptyListOnlyMarksTheDayChanged) {
+  Item_Verwijder(test.program, DayPart::evening, {});
+  EXPECT_TRUE(test.program.day.FileChanged);
+  EXPECT_EQ(store.txt_trenddata, "");  // nothing was totalled
+}
+
+TEST_F(Consumption, MinusOnAnEmptyListTotalsAllTheSame) {
+  Item_Min_Een(test.program, DayPart::evening, std::nullopt);
+  EXPECT_TRUE(test.program.day.FileChanged);
+  EXPECT_TRUE(store.txt_trenddata.starts_with(Packed("0|0|0|")));
+}
+
+// The largest double has 309 digits.
+TEST_F(Consumption, AnAmountThatNoNumberHoldsLeavesItsCellEmpty) {
+  const Text huge(400, '9');
+  store.L_ochtend.Add(LineOf({.product = "Huge", .gram = huge, .kj = huge}));
+  store.L_ochtend.Add(LineOf(kMilk));
+  const auto rows = ConsumptionRows(test.program, DayPart::morning);
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].product, "Huge");
+  EXPECT_EQ(rows[0].weight, "");
+  EXPECT_EQ(rows[0].nutrient, "");
+  EXPECT_EQ(rows[1].weight, "200.5");
+  EXPECT_TRUE(test.boxes.shown.empty());
+}
+
+TEST_F(Consumption, ACellIsDrawnOnOneLineAndNoLongerThanAnybodyReads) {
+  const Text name = "a\r\nb\tc" + Text(600, 'n');
+  ConsumptionRow row;
+  row.product = name;
+  EXPECT_EQ(CellOf(row, 2), name);
+  EXPECT_EQ(ShownCellOf(row, 2), "a  b c" + Text(494, 'n'));
+  row.product = "Cr\xE8me";
+  EXPECT_EQ(ShownCellOf(row, 2), row.product);
+}
+
+TEST_F(Consumption, TheLastColumnIsPrintedByThePatternOfItsNutrient) {
+  store.L_avond.Add(LineOf({.product = "A", .kj = "1.5", .kcal = "0.4", .protein = "0,5"}));
+  for (const auto& [priority, expected] :
+       {std::pair{"0", "2"}, {"1", "0"}, {"2", "0"}, {"5", "1"}}) {
+    test.program.profile[ProfileField::type_prioriteit] = priority;
+    EXPECT_EQ(ConsumptionRows(test.program, DayPart::evening)[0].nutrient, expected) << priority;
+  }
+}
+
+TEST_F(Consumption, HeadingsTitlesAndLimitsAreThoseOfThePartOfTheDay) {
+  const std::array<const char*, 3> counts = {" X ", "X  ", " X "};
+  const std::array<const char*, 3> titles = {"Morning consumptions Friday 05-03-04",
+                                             "Afternoon consumptions Friday 05-03-04",
+                                             "Evening consumptions Friday 05-03-04"};
+  const std::array<const char*, 3> windows = {"KV_tb_vochtend", "KV_tb_vmiddag", "KV_tb_vavond"};
+  const std::array<const char*, 3> words = {"morning", "afternoon", "evening"};
+  for (const DayPart part : kDayParts) {
+    const auto i = static_cast<std::size_t>(part);
+    EXPECT_EQ(ConsumptionHeadings(test.program, part),
+              (std::array<Text, 6>{"#", counts[i], "Food item", "Unit", "Gram", "Kj "}));
+    EXPECT_EQ(ConsumptionTitle(test.program, part), titles[i]);
+    EXPECT_EQ(RowOf(part).window_name, windows[i]);
+    Fill(part, 51);
+    for (const bool drop : {false, true}) {
+      test.boxes.shown.clear();
+      if (drop) {
+        EXPECT_FALSE(DropOnDayPart(test.program, part, AddPayload(kMilk)));
+      } else {
+        Item_Plus_Een(test.program, part, "Bread");
+      }
+      ASSERT_EQ(test.boxes.shown.size(), 1u);
+      const Text first = drop && part == DayPart::morning
+                             ? "An error occurred while processing data."
+                             : "You can not add more food items.";
+      EXPECT_EQ(test.boxes.shown[0].text,
+                first + "\nYou have reached the maximum of 50 food items in the " + words[i] +
+                    ".\n\nYou have to remove some food items and try again.");
+    }
+    EXPECT_EQ(store.ListOf(part).Count(), 51u);
+  }
+  EXPECT_FALSE(test.program.day.FileChanged);
+}
+
+TEST_F(Consumption, ThePanelsOfTheStatusBarTakeTheirTwipsAndTheRest) {
+  EXPECT_EQ(ConsumptionPanelWidths(5600), (std::array{1000, 3000, 1600}));
+}
+
+TEST_F(Consumption, TheCombinePanelNeverStandsWithoutTheTotals) {
+  ShownPanels panels = FlipInfo({});
+  EXPECT_TRUE(panels.ToonInfo && !panels.ToonCombineer);
+  panels = FlipCombineer(panels);
+  EXPECT_TRUE(panels.ToonInfo && panels.ToonCombineer);
+  EXPECT_FALSE(FlipCombineer(panels).ToonInfo || FlipCombineer(panels).ToonCombineer);
+  EXPECT_FALSE(FlipInfo(panels).ToonInfo || FlipInfo(panels).ToonCombineer);
+  EXPECT_TRUE(FlipCombineer({}).ToonInfo && FlipCombineer({}).ToonCombineer);
+}
+
 TEST_F(Consumption, PlusOnAnEmptyListOnlyMarksTheDayChanged) {
   Item_Plus_Een(test.program, DayPart::morning, "");
   EXPECT_TRUE(test.program.day.FileChanged);

@@ -29,8 +29,8 @@ struct ListeningBrowser : Listening<BrowserView> {
 };
 struct ListeningSummary : Listening<DaySummaryView> {
   using Listening::Listening;
-  void Maak_Voedingsbehoefte(const DayTotals&) override {}
   void Refresh_Daguittreksel() override {}
+  void Maak_Voedingsbehoefte(const DayTotals&) override {}
 };
 struct ListeningLists : Listening<FoodListsView> {
   using Listening::Listening;

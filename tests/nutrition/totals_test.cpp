@@ -119,8 +119,8 @@ struct ShownSummary : DaySummaryView {
   std::vector<DayTotals> shown;
   void CloseWindow() override {}
   void Set_Taal() override {}
-  void Maak_Voedingsbehoefte(const DayTotals& totals) override { shown.push_back(totals); }
   void Refresh_Daguittreksel() override {}
+  void Maak_Voedingsbehoefte(const DayTotals& totals) override { shown.push_back(totals); }
 };
 
 TEST(RefreshTotalen, AnOpenDaySummaryGetsTheWholeDayInTheOrderOfTheRequirements) {

@@ -197,8 +197,8 @@ struct NotingConsumption : Noting<ConsumptionView> {
 };
 struct NotingSummary : Noting<DaySummaryView> {
   using Noting::Noting;
-  void Maak_Voedingsbehoefte(const DayTotals&) override {}
   void Refresh_Daguittreksel() override {}
+  void Maak_Voedingsbehoefte(const DayTotals&) override {}
 };
 
 TEST(DayFile, ClosingReloadsTheFoodListsAndClosesTheWindowsInTheirOrder) {

@@ -1,0 +1,40 @@
+// `Pic_SP` of a consumption window: name and unit of the one food that all others become. Enter in
+// a box is as good as the button; Escape asks to be closed.
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWidget>
+
+#include "language/tables.h"
+
+namespace kelvora {
+
+class CombinePanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit CombinePanel(QWidget* parent);
+
+  void SetCaptions(const TextTables& texts, TextTable table);
+  [[nodiscard]] Text Name() const;
+  [[nodiscard]] Text Unit() const;
+  void Clear();
+
+ signals:
+  void SavePressed();
+  void CloseAsked();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QLabel* txt_8_;
+  QLineEdit* txt_nfo_8_;  // name
+  QLabel* txt_7_;
+  QLineEdit* txt_nfo_7_;  // unit
+  QPushButton* cmd_opslaan_;
+};
+
+}  // namespace kelvora

@@ -1,0 +1,120 @@
+#include "food/row_menu_panel.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+
+#include "language/own_texts.h"
+#include "platform/qt/look.h"
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+constexpr const char* kOriginFormat = "application/x-kelvora-food-origin";
+
+struct MoveRow {
+  DayPart target;
+  const char* name;
+  OwnText caption;
+  std::string_view icon;
+  Qt::Key key;
+};
+constexpr std::array kMoves = {
+    MoveRow{DayPart::morning, "mnu_move_1", OwnText::move_to_morning, "morning", Qt::Key_1},
+    MoveRow{DayPart::afternoon, "mnu_move_2", OwnText::move_to_afternoon, "afternoon", Qt::Key_2},
+    MoveRow{DayPart::evening, "mnu_move_3", OwnText::move_to_evening, "evening", Qt::Key_3},
+};
+
+CutFoods FoodsOnClipboard() {
+  const QMimeData* const data = QApplication::clipboard()->mimeData();
+  if (data == nullptr) return {};
+  return {FromQt(data->text()), data->data(QLatin1String(kOriginFormat)).toStdString()};
+}
+
+}  // namespace
+
+RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selected, QWidget* list)
+    : QMenu(list), program_(program), part_(part), selected_(std::move(selected)), list_(list) {
+  NameWidget(this, "row_menu");
+  take_out_ = AddEntry("mnu_take_out", "item-delete", Qt::SHIFT | Qt::Key_Delete,
+                       [this] { TakeOutOfDay(program_, part_, selected_()); });
+  addSeparator();
+  for (const MoveRow& row : kMoves) {
+    if (row.target == part_) continue;
+    moves_[static_cast<std::size_t>(row.target)] = AddEntry(
+        row.name, row.icon, Qt::CTRL | row.key,
+        [this, target = row.target] { MoveToDayPart(program_, part_, target, selected_()); });
+  }
+  cut_ = AddEntry("mnu_cut", {}, Qt::CTRL | Qt::Key_X, [this] { Cut(); });
+  paste_ = AddEntry("mnu_paste", {}, Qt::CTRL | Qt::Key_V, [this] { Paste(); });
+  addSeparator();
+  favourite_ = AddEntry("mnu_favourite", "item-favourite", Qt::CTRL | Qt::Key_D,
+                        [this] { AddToFavourites(program_, selected_()); });
+  // The shortcuts ask nobody whether something is selected; without a row they do nothing.
+  connect(this, &QMenu::aboutToHide, this, [this] {
+    EnableForRows(true);
+    paste_->setEnabled(true);
+  });
+}
+
+template <class Run>
+QAction* RowMenu::AddEntry(const char* name, std::string_view icon, QKeyCombination keys, Run run) {
+  QAction* const action = addAction(QString());
+  if (!icon.empty()) action->setIcon(IconNamed(icon));
+  action->setObjectName(QLatin1String(name));
+  action->setShortcut(QKeySequence(keys));
+  action->setShortcutContext(Qt::WidgetShortcut);
+  list_->addAction(action);
+  connect(action, &QAction::triggered, this, run);
+  return action;
+}
+
+void RowMenu::AddButtons(const QList<QAction*>& buttons) {
+  insertActions(actions().constFirst(), buttons);
+}
+
+void RowMenu::SetTexts(std::string_view title) {
+  const auto set = [this](QAction* action, OwnText id) {
+    SetActionTexts(action, OwnTextOf(program_.texts, id), {});
+  };
+  for (const MoveRow& row : kMoves) {
+    if (row.target != part_) set(moves_[static_cast<std::size_t>(row.target)], row.caption);
+  }
+  set(take_out_, OwnText::take_portion_out);
+  set(cut_, OwnText::cut_foods);
+  set(paste_, OwnText::paste_foods);
+  set(favourite_, OwnText::add_to_favourites);
+  setAccessibleName(ToQt(title));
+}
+
+void RowMenu::ShowAt(const QPoint& place) {
+  EnableForRows(!selected_().Empty());
+  paste_->setEnabled(CanPaste(program_, FoodsOnClipboard()));
+  popup(place);
+}
+
+void RowMenu::EnableForRows(bool any) {
+  for (QAction* action : {take_out_, cut_, favourite_, moves_[0], moves_[1], moves_[2]}) {
+    if (action != nullptr) action->setEnabled(any);
+  }
+}
+
+void RowMenu::Cut() {
+  const TextList names = selected_();
+  if (names.Empty()) return;
+  const CutFoods cut = CutFromDayPart(program_, part_, names);
+  auto* const data = new QMimeData;  // the clipboard owns it
+  data->setText(ToQt(cut.payload));
+  data->setData(QLatin1String(kOriginFormat), QByteArray::fromStdString(cut.origin));
+  QApplication::clipboard()->setMimeData(data);
+}
+
+void RowMenu::Paste() {
+  const CutFoods foods = FoodsOnClipboard();
+  const bool pasted = PasteOnDayPart(program_, part_, foods);
+  // What was cut is pasted once.
+  if (pasted && !foods.origin.empty()) QApplication::clipboard()->clear();
+}
+
+}  // namespace kelvora
