@@ -55,8 +55,8 @@ constexpr std::array kCommands = {
     NotServed(Command::mnu_in_notities, Needs::day),
     NotServed(Command::mnu_item_info, Needs::user),
     NotServed(Command::mnu_item_voegtoe, Needs::user),
-    NotServed(Command::mnu_item_del, Needs::user),
-    NotServed(Command::mnu_item_favo, Needs::user),
+    CommandRow{Command::mnu_item_del, Needs::user},
+    CommandRow{Command::mnu_item_favo, Needs::user},
     NotServed(Command::mnu_uit_daguittreksel, Needs::day),
     NotServed(Command::mnu_uit_meerdaagsuittreksel, Needs::user),
     CommandRow{Command::mnu_voedingswaarde_tabel, Needs::user},
@@ -114,6 +114,35 @@ bool Satisfied(const Program& program, Needs needs) {
   return false;
 }
 
+// While the food menu stands open for a row of a food list, its entries follow that row.
+bool FoodMenuAllows(const Program& program, Command command) {
+  const auto& menu = program.windows.food_menu;
+  if (!menu) return true;
+  switch (command) {
+    case Command::mnu_item_info:
+      return menu->info;
+    case Command::mnu_item_voegtoe:
+      return menu->add;
+    case Command::mnu_item_del:
+      return menu->del;
+    case Command::mnu_item_favo:
+      return menu->favourite;
+    default:
+      return true;
+  }
+}
+
+// Lets the food lists act on the row in focus; without that window there is none.
+void GiveToFoodLists(Program& program, void (FoodListsView::*operation)()) {
+  if (program.windows.lists != nullptr) (program.windows.lists->*operation)();
+}
+
+// Without the food lists there is no view whose button could stand against it.
+void AddNewFoodItem(Program& program) {
+  if (program.windows.lists == nullptr) return program.windows.core->OpenNewFood();
+  program.windows.lists->CORE_New_Item();
+}
+
 // The dialog in its mode for the open day; a day file with an empty header has nothing to change.
 void ChangeDaySettings(Program& program) {
   if (program.store.L_gegevens.Empty()) {
@@ -137,7 +166,7 @@ bool IsServed(Command command) {
 
 bool CommandEnabled(const Program& program, Command command) {
   const CommandRow& row = RowOf(command);
-  return row.served && Satisfied(program, row.as_item);
+  return row.served && Satisfied(program, row.as_item) && FoodMenuAllows(program, command);
 }
 
 bool ButtonEnabled(const Program& program, Command command) {
@@ -196,6 +225,14 @@ void RunCommand(Program& program, Command command) {
       return program.windows.core->OpenSettings();
     case Command::mnu_file_properties:
       return ChangeDaySettings(program);
+    case Command::mnu_item_info:
+      return GiveToFoodLists(program, &FoodListsView::CORE_show_info_mnu);
+    case Command::mnu_item_voegtoe:
+      return AddNewFoodItem(program);
+    case Command::mnu_item_del:
+      return GiveToFoodLists(program, &FoodListsView::CORE_Del_Item);
+    case Command::mnu_item_favo:
+      return GiveToFoodLists(program, &FoodListsView::CORE_Add_To_Favo);
     case Command::mnu_website_Etenlijn:
       return OpenFoodServerHomePage(program);
     case Command::mnu_reset_taal:

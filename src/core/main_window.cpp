@@ -14,6 +14,7 @@
 #include "days/day_dialogs.h"
 #include "days/popup.h"
 #include "food/consumption_window.h"
+#include "food/day_part_menu_panel.h"
 #include "food/food_lists_window.h"
 #include "language/main_texts.h"
 #include "platform/qt/look.h"
@@ -50,6 +51,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   area_ = new ChildArea(this);
   setCentralWidget(area_);
   BuildMenu();
+  BuildFoodMenu();
   menu_toolbar_ = BuildToolbar("menu_toolbar", MenuToolbar());
   menu_toolbar_->setIconSize({kToolbarIconSize, kToolbarIconSize});
   UseSmallLetters(menu_toolbar_);  // all buttons fit a screen of 1024 pixels in both languages
@@ -105,6 +107,40 @@ void MainWindow::BuildMenu() {
       }
     }
   }
+}
+
+// As a popup for a row of a food list the menu also adds that row to the day.
+void MainWindow::BuildFoodMenu() {
+  mnu_opties_ = menuBar()->findChild<QMenu*>(QStringLiteral("mnu_opties"));
+  mnu_opties_->addSeparator();  // not drawn while nothing stands below it
+  day_part_actions_ = AddDayPartActions(mnu_opties_, [this](DayPart part) {
+    if (program_.windows.lists != nullptr) program_.windows.lists->AddSelectedToDay(part);
+  });
+  ShowDayPartItems();
+  // The menu hides before the chosen entry acts, and until then its table holds.
+  connect(
+      mnu_opties_, &QMenu::aboutToHide, this,
+      [this] {
+        program_.windows.food_menu.reset();
+        ShowDayPartItems();
+        UpdateCommands();
+      },
+      Qt::QueuedConnection);
+}
+
+void MainWindow::ShowDayPartItems() {
+  const auto& menu = program_.windows.food_menu;
+  for (QAction* const action : day_part_actions_) {
+    action->setVisible(menu.has_value());
+    action->setEnabled(menu && menu->day_parts);
+  }
+}
+
+void MainWindow::PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) {
+  program_.windows.food_menu = enabled;
+  ShowDayPartItems();
+  UpdateCommands();
+  mnu_opties_->popup({place.x, place.y});
 }
 
 QToolBar* MainWindow::BuildToolbar(const char* name, std::span<const ButtonRow> rows) {
@@ -200,6 +236,7 @@ void MainWindow::Set_Taal() {
     SetActionTexts(entry.action, texts[entry.row->caption],
                    TipOf(program_, entry.row->command, std::nullopt));
   }
+  SetDayPartTexts(day_part_actions_, texts);
   Toolbar_quickscreens_->setAccessibleName(ToQt(texts[main_text::kQuickToolbarName]));
   menu_toolbar_->setAccessibleName(ToQt(texts[main_text::kToolbarName]));
   area_->setAccessibleName(ToQt(texts[main_text::kChildAreaName]));

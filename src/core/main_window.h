@@ -37,6 +37,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void OpenSettings() override;
   void ShowItem(std::string_view tag, std::string_view line) override;
   void OpenNewFood() override;
+  void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) override;
   void ShowSplash() override;
   void ShowAbout() override;
 
@@ -70,6 +71,8 @@ class MainWindow : public QMainWindow, public CoreView {
   void OpenFirstMenu();
   QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
   void AddDropDown(QToolButton* button, Command drop_down);
+  void BuildFoodMenu();
+  void ShowDayPartItems();
   void BuildStatusBar();
   void LayStatusBar();
   void BuildDataButton();
@@ -81,6 +84,9 @@ class MainWindow : public QMainWindow, public CoreView {
   Program& program_;
   QMdiArea* area_;
   std::vector<MenuEntry> menus_;
+  QMenu* mnu_opties_ = nullptr;
+  // Entries of mnu_opties that are there only while it stands open for a row of a food list.
+  std::array<QAction*, 3> day_part_actions_{};
   std::vector<ItemAction> item_actions_;
   std::vector<ButtonAction> button_actions_;
   std::vector<DropDownAction> drop_down_actions_;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "core/geometry.h"
 #include "core/store.h"
@@ -58,6 +59,30 @@ struct FoodListsView : WindowView {
   virtual void Toon_Standaardlijst() = 0;
   virtual void Populate_Food_List_Custom() = 0;
   virtual void Populate_Food_List_Favo() = 0;
+  virtual void Populate_Food_List_Internet() {}
+  // What the menu of the main window asks for; each acts on the list that shows.
+  virtual void CORE_show_info_mnu() {}
+  virtual void CORE_Add_To_Favo() {}
+  virtual void CORE_New_Item() {}
+  virtual void CORE_Del_Item() {}
+  virtual void AddSelectedToDay(DayPart) {}
+};
+
+// Which entries of the main window's food menu may be chosen while it stands open for a row of a
+// food list; the last for all three day parts.
+struct FoodMenu {
+  bool del = false;
+  bool add = false;
+  bool info = false;
+  bool favourite = false;
+  bool day_parts = false;
+  bool operator==(const FoodMenu&) const = default;
+};
+
+// A place on the screen, in device-independent pixels.
+struct ScreenPlace {
+  int x = 0;
+  int y = 0;
 };
 
 // Totals of the whole day in the order of the requirements: kilojoules and kilocalories, then
@@ -105,6 +130,8 @@ struct CoreView {
   virtual void ShowItem(std::string_view tag, std::string_view line) = 0;
   // Shows the dialog for a new food modally; returns when it is gone.
   virtual void OpenNewFood() = 0;
+  // Opens the food menu beside a row of a food list, with these entries enabled; returns at once.
+  virtual void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) = 0;
   // Shows the splash, which ends by itself; returns at once.
   virtual void ShowSplash() = 0;
   // Shows the About window modally; returns when it is gone.
@@ -128,6 +155,8 @@ struct OpenWindows {
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
   std::array<bool, 3> totals_shown{};
+  // In force while the food menu stands open for a row of a food list.
+  std::optional<FoodMenu> food_menu;
 
   [[nodiscard]] ConsumptionView*& Consumption(DayPart part) {
     return consumption[static_cast<std::size_t>(part)];

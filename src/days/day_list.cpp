@@ -1,6 +1,7 @@
 #include "days/day_list.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <utility>
 
@@ -148,20 +149,23 @@ std::vector<DayRow> ReadDays(Program& program, const std::function<bool()>& over
 bool ClickHeading(DayListSort& sort, std::size_t column) {
   if (column < BrowseColumn::kWeight) return false;
   sort.column = column;
-  sort.order = sort.order == SortOrder::descending ? SortOrder::ascending : SortOrder::descending;
+  sort.order = Flipped(sort.order);
   return true;
 }
 
-std::vector<std::size_t> SortRows(std::vector<DayRow>& rows, const DayListSort& sort) {
-  std::vector<std::size_t> places(rows.size());
-  std::iota(places.begin(), places.end(), std::size_t{0});
+std::vector<std::uint32_t> SortRows(std::vector<DayRow>& rows, const DayListSort& sort) {
+  std::vector<std::uint32_t> places(rows.size());
+  std::iota(places.begin(), places.end(), std::uint32_t{0});
   if (!sort.column) return places;
   std::vector<double> values;
-  for (const DayRow& row : rows) values.push_back(ReadStoredNumber(row.cells[*sort.column]));
-  places = OrderByWholePart(values, sort.order);
+  values.reserve(rows.size());
+  for (const DayRow& row : rows) {
+    values.push_back(std::floor(ReadStoredNumber(row.cells[*sort.column])));
+  }
+  places = OrderByWholeValue(values, sort.order);
   std::vector<DayRow> sorted;
   sorted.reserve(rows.size());
-  for (const std::size_t place : places) sorted.push_back(std::move(rows[place]));
+  for (const std::uint32_t place : places) sorted.push_back(std::move(rows[place]));
   rows = std::move(sorted);
   return places;
 }

@@ -9,7 +9,8 @@
 #include <vector>
 
 #include "core/program.h"
-#include "core/sorting.h"
+#include "core/column_sort.h"
+#include "core/exchange_sort.h"
 
 namespace kelvora {
 
@@ -56,7 +57,7 @@ struct DayListSort {
 bool ClickHeading(DayListSort& sort, std::size_t column);
 
 // Puts the rows in the order of `sort`; returns the place that each row had before.
-std::vector<std::size_t> SortRows(std::vector<DayRow>& rows, const DayListSort& sort);
+std::vector<std::uint32_t> SortRows(std::vector<DayRow>& rows, const DayListSort& sort);
 
 // The row that is opened: the one in focus if it is selected, else the first selected one.
 [[nodiscard]] std::optional<std::size_t> RowToOpen(const std::vector<std::size_t>& selected,

@@ -154,7 +154,7 @@ void DayTable::SortByHeading(int column) {
   const std::vector<std::size_t> selected = SelectedRows();
   const std::optional<std::size_t> in_focus = FocusedRow();
   std::vector<std::size_t> places_now(rows_.size());
-  const std::vector<std::size_t> places_before = SortRows(rows_, sort_);
+  const std::vector<std::uint32_t> places_before = SortRows(rows_, sort_);
   for (std::size_t i = 0; i < places_before.size(); ++i) places_now[places_before[i]] = i;
   ShowModel();
   std::vector<std::size_t> selected_now;

@@ -56,12 +56,6 @@ void RefreshWindow(Program& program, DayPart part) {
   if (window != nullptr) window->Refresh_Consumpties();
 }
 
-void RefreshDragSource(Program& program) {
-  for (const DayPart part : kDayParts) {
-    if (RoutingCodeOf(part) == program.day.drag_source) RefreshWindow(program, part);
-  }
-}
-
 // What `print` makes, or nothing: filling a list passes over an amount that no number can hold, so
 // that its row can still be seen and removed.
 template <class Print>
@@ -222,6 +216,12 @@ Text BeginConsumptionDrag(Program& program, DayPart part, const TextList& produc
   Text payload(kKillMarker);
   for (const std::string_view product : products) (payload += KeyOf(product)) += kLineEnd;
   return payload;
+}
+
+void RefreshDragSource(Program& program) {
+  for (const DayPart part : kDayParts) {
+    if (RoutingCodeOf(part) == program.day.drag_source) RefreshWindow(program, part);
+  }
 }
 
 bool DropOnDayPart(Program& program, DayPart part, std::string_view payload) {

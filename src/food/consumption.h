@@ -84,6 +84,9 @@ void Item_Verwijder(Program& program, DayPart part, const TextList& products);
 // The payload of a drag that begins in this part's list; sets the drag source.
 [[nodiscard]] Text BeginConsumptionDrag(Program& program, DayPart part, const TextList& products);
 
+// Refreshes the window in which the running drag began, if it is open.
+void RefreshDragSource(Program& program);
+
 // A drop on this part's list; its window then shows the last row selected. False if the list was
 // above the limit: nothing changed then. A part of the payload that is no line, having no field, or
 // no key adds and moves nothing.

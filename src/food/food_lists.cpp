@@ -18,9 +18,11 @@ using namespace lists_text;
 constexpr std::string_view kExtension = ".dat";
 constexpr std::size_t kMaxDraggedRows = 10;
 
-// Headings of the nutrient column, in the order of Priority.
+// Headings of the nutrient column and their tips, in the order of Priority.
 constexpr std::array kNutrientHeadings = {kColumnKj,   kColumnKcal,  kColumnFatU,
                                           kColumnFatS, kColumnCarbs, kColumnProtein};
+constexpr std::array kNutrientTips = {kTipColumnKj,   kTipColumnKcal,  kTipColumnFatU,
+                                      kTipColumnFatS, kTipColumnCarbs, kTipColumnProtein};
 
 bool ShowsOunces(const Program& program) {
   return program.settings[Setting::opt_gramoz] == "1";
@@ -42,11 +44,15 @@ const TextList& FoodLists::SourceOf(FoodView view) const {
   return temp_internet_;
 }
 
+std::string_view FoodLists::LineAt(FoodView view, std::size_t row) const {
+  return SourceOf(view)[NumberOf(view, row)];
+}
+
 Text FoodLists::Cell(FoodView view, std::size_t row, std::size_t column) const {
-  const std::string_view line = SourceOf(view)[row];
+  const std::string_view line = LineAt(view, row);
   switch (column) {
     case 0:
-      return std::to_string(row + 1);
+      return std::to_string(NumberOf(view, row) + 1);
     case 1:
       return Text(FieldOf(line, FoodField::kProduct));
     case 2:
@@ -82,6 +88,10 @@ std::array<Text, kFoodColumns> FoodLists::Headings() const {
           texts[kNutrientHeadings[priority]]};
 }
 
+const Text& FoodLists::NutrientTip() const {
+  return program_.texts[kNutrientTips[static_cast<std::size_t>(PriorityOfUser(program_))]];
+}
+
 TextList FoodLists::Categories() const {
   TextList categories;
   for (const std::string_view file : program_.store.lst_categorien) {
@@ -96,6 +106,7 @@ void FoodLists::Collect(std::string_view code, Wanted wanted) {
   program_.Guard(code, [&] {
     program_.platform.pointer.ShowWait();
     temp_zoeken_.Clear();
+    OrderOf(FoodView::standard).numbers.clear();
     for (const TextList* list : {&program_.store.Default_list, &program_.store.Custom_list}) {
       temp_zoeken_.AddSharedLines(*list, wanted);
     }
@@ -105,6 +116,7 @@ void FoodLists::Collect(std::string_view code, Wanted wanted) {
 
 std::optional<Text> FoodLists::Toon_Standaardlijst() {
   temp_zoeken_.Clear();
+  OrderOf(FoodView::standard).numbers.clear();
   if (program_.store.Default_list.Empty()) return std::nullopt;
   return ChooseCategory(Categories()[0]);
 }
@@ -130,7 +142,8 @@ bool FoodLists::Zoek_In_Lijsten(std::string_view text) {
 Text FoodLists::AvailableText(FoodView view) const {
   const std::size_t count =
       view == FoodView::standard ? program_.store.Default_list.Count() : Count(view);
-  return std::to_string(count) + " " + program_.texts[kAvailable];
+  return std::to_string(count) + " " +
+         program_.texts[view == FoodView::internet ? kFoundOnInternet : kAvailable];
 }
 
 Text FoodLists::ResultsText() const {
@@ -143,7 +156,7 @@ Text FoodLists::DragPayload(FoodView view, const std::vector<std::size_t>& rows)
     return {};
   }
   Text payload(kAddMarker);
-  for (const std::size_t row : rows) payload.append(SourceOf(view)[row]) += kLineEnd;
+  for (const std::size_t row : rows) payload.append(LineAt(view, row)) += kLineEnd;
   return payload;
 }
 

@@ -1,7 +1,9 @@
-// The lists that food comes from: what they show, how they are searched and what a drag takes out
-// of them. The food lists window draws this and holds nothing itself.
+// The lists that food comes from: what they show, how they are searched and sorted, and what a
+// drag takes out of them. The food lists window draws this and holds nothing itself.
 //
-// A row's number is the place of its line in the source list; a drag finds the line by it.
+// A row stands for the line of its number in the source list, whatever the sort; rows count from 0
+// here. Populating a view puts its rows in the order of the lines again. Which way the next click
+// on a heading sorts outlives that. food_list_commands.h holds what changes the lists.
 #pragma once
 
 #include <array>
@@ -9,13 +11,23 @@
 #include <string_view>
 #include <vector>
 
+#include "core/column_sort.h"
 #include "core/program.h"
 
 namespace kelvora {
 
 enum class FoodView { standard, own, favourites, internet };
+inline constexpr std::array kFoodViews = {FoodView::standard, FoodView::own, FoodView::favourites,
+                                          FoodView::internet};
 
 inline constexpr std::size_t kFoodColumns = 5;
+
+// By which column a view is sorted.
+struct ColumnOrder {
+  std::size_t column = 0;
+  SortOrder order = SortOrder::ascending;
+  bool operator==(const ColumnOrder&) const = default;
+};
 
 class FoodLists {
  public:
@@ -23,11 +35,34 @@ class FoodLists {
 
   // The lines that a view shows; of `temp_zoeken` for the standard list.
   [[nodiscard]] std::size_t Count(FoodView view) const { return SourceOf(view).Count(); }
+  // The line of a row; "" beyond the end.
+  [[nodiscard]] std::string_view LineAt(FoodView view, std::size_t row) const;
+  // A line by its number, counted from 0, as the source list stands now.
+  [[nodiscard]] std::string_view LineOfNumber(FoodView view, std::size_t number) const {
+    return SourceOf(view)[number];
+  }
 
-  // The text of one cell; column 0 holds the row's number. Made anew at each call.
+  // The text of one cell; column 0 holds the line's number. Made anew at each call.
   [[nodiscard]] Text Cell(FoodView view, std::size_t row, std::size_t column) const;
 
   [[nodiscard]] std::array<Text, kFoodColumns> Headings() const;
+  // The tool tip of the last heading, the only one that has one.
+  [[nodiscard]] const Text& NutrientTip() const;
+
+  // Puts the rows in the order of the lines. Returns the row to be selected: the first whose
+  // Product was last clicked, in whatever view.
+  std::optional<std::size_t> Populate(FoodView view);
+
+  // A click on the heading of a column.
+  void SortByColumn(FoodView view, std::size_t column);
+  // How the rows stand; nothing while they stand in the order of the lines.
+  [[nodiscard]] std::optional<ColumnOrder> ShownOrder(FoodView view) const;
+
+  // The numbers of the lines of rows, and where lines stand now, from top to bottom.
+  [[nodiscard]] std::vector<std::size_t> NumbersOf(FoodView view,
+                                                   const std::vector<std::size_t>& rows) const;
+  [[nodiscard]] std::vector<std::size_t> RowsOf(FoodView view,
+                                                std::vector<std::size_t> numbers) const;
 
   // The categories as shown, without their extension.
   [[nodiscard]] TextList Categories() const;
@@ -48,7 +83,7 @@ class FoodLists {
   // gives false.
   bool Zoek_In_Lijsten(std::string_view text);
 
-  // The second panel of the status bar for what was last listed.
+  // The second panel of the status bar: how many a view has, and what a search found.
   [[nodiscard]] Text AvailableText(FoodView view) const;
   [[nodiscard]] Text ResultsText() const;
 
@@ -59,14 +94,27 @@ class FoodLists {
   Text last_clicked;
 
  private:
+  // How the rows of a view stand, and what its headings were clicked for last.
+  struct Order {
+    std::vector<std::uint32_t> numbers;  // of the lines, row by row; empty for their own order
+    std::optional<ColumnOrder> last_click;
+    SortOrder next_by_value = SortOrder::ascending;
+  };
+
   [[nodiscard]] const TextList& SourceOf(FoodView view) const;
+  [[nodiscard]] const Order& OrderOf(FoodView view) const;
+  [[nodiscard]] Order& OrderOf(FoodView view);
+  [[nodiscard]] std::size_t NumberOf(FoodView view, std::size_t row) const;
   [[nodiscard]] Text WeightCell(std::string_view line) const;
   [[nodiscard]] Text NutrientCell(std::string_view line) const;
+  [[nodiscard]] static SortOrder NextOrder(Order& view_order, std::size_t column);
+  [[nodiscard]] std::vector<std::uint32_t> SortedRows(FoodView view, const ColumnOrder& by) const;
   template <class Wanted>
   void Collect(std::string_view code, Wanted wanted);
 
   Program& program_;
   TextList temp_zoeken_, temp_internet_;
+  std::array<Order, kFoodViews.size()> orders_;
 };
 
 }  // namespace kelvora

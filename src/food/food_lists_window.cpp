@@ -1,14 +1,17 @@
 #include "food/food_lists_window.h"
 
-#include <QActionGroup>
-#include <QFocusEvent>
-#include <QTimer>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "core/program.h"
+#include "food/food_list_commands.h"
+#include "food/food_rows_panel.h"
 #include "language/lists_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
+#include "storage/food_files.h"
 
 namespace kelvora {
 namespace {
@@ -16,47 +19,28 @@ namespace {
 using namespace lists_text;
 
 constexpr int kProductColumn = 1;
-constexpr int kUnitWidth = PixelsOfTwips(1500);
-constexpr int kAmountWidth = PixelsOfTwips(1000);
-constexpr int kRestWidth = PixelsOfTwips(1500 + 1000 + 1000 + 360);
-constexpr int kIconSize = 24;
+constexpr int kProgressWidth = 90;
 
 // The four views, in the order of their buttons.
 struct ViewRow {
-  FoodView view;
   const char* table_name;
-  const char* icon;
-  TextId caption;
   TextId status;
+  TextId drop_tip;
 };
 constexpr std::array kViews = {
-    ViewRow{FoodView::standard, "LV_browse_zoeken", "list-standard", kButtonStandard,
-            kStatusStandard},
-    ViewRow{FoodView::own, "LV_browse_eigen", "list-own", kButtonOwn, kStatusOwn},
-    ViewRow{FoodView::favourites, "LV_browse_favo", "list-favourites", kButtonFavourites,
-            kStatusFavourites},
-    ViewRow{FoodView::internet, "LV_browse_internet", "list-internet", kButtonInternet,
-            kStatusInternet},
+    ViewRow{"LV_browse_zoeken", kStatusStandard, kDropRemoves},
+    ViewRow{"LV_browse_eigen", kStatusOwn, kDropRemoves},
+    ViewRow{"LV_browse_favo", kStatusFavourites, kDropAddsFavourite},
+    ViewRow{"LV_browse_internet", kStatusInternet, kDropRemoves},
 };
 
 const ViewRow& RowOf(FoodView view) {
   return kViews[static_cast<std::size_t>(view)];
 }
 
-// The box holds the name of the category most of the time: what is typed takes its place.
-class SearchBox : public QLineEdit {
- public:
-  using QLineEdit::QLineEdit;
-
- protected:
-  void focusInEvent(QFocusEvent* event) override {
-    QLineEdit::focusInEvent(event);
-    // A window that comes back to the front keeps what was being typed.
-    if (event->reason() != Qt::MouseFocusReason) return;
-    // After the click that brings the focus, which puts the cursor somewhere.
-    QTimer::singleShot(0, this, &QLineEdit::selectAll);
-  }
-};
+ScreenPlace PlaceOf(QPoint point) {
+  return {point.x(), point.y()};
+}
 
 }  // namespace
 
@@ -67,24 +51,12 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
       lists_(program) {
   NameWidget(this, "KV_tb_lijsten");
   BuildToolbar();
-  BuildSearchPanel();
+  BuildSearch();
   BuildViews();
+  BuildFoodButtons();
   BuildStatusBar();
-
-  auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(Toolbar_);
-  layout->addWidget(Pic_zoek_);
-  auto* const list = new QVBoxLayout;
-  list->setContentsMargins(4, 2, 4, 2);
-  list->addWidget(stack_);
-  layout->addLayout(list, 1);
-  layout->addWidget(StatusBar_);
-
+  LayOut();
   Set_Taal();
-  Populate_Food_List_Custom();
-  Populate_Food_List_Favo();
   ShowView(FoodView::standard);
   Toon_Standaardlijst();
 }
@@ -95,76 +67,90 @@ void FoodListsWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FoodListsWindow::BuildToolbar() {
-  Toolbar_ = new QToolBar(this);
-  NameWidget(Toolbar_, "Toolbar");
-  Toolbar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  Toolbar_->setIconSize({kIconSize, kIconSize});
-  auto* const group = new QActionGroup(this);
-  for (const ViewRow& row : kViews) {
-    const auto place = static_cast<std::size_t>(row.view);
-    QAction* const action = Toolbar_->addAction(IconNamed(row.icon), QString());
-    const QString name = QStringLiteral("Toolbar_%1").arg(place + 1);
-    action->setObjectName(name + QStringLiteral("_action"));
-    action->setCheckable(true);
-    Toolbar_->widgetForAction(action)->setObjectName(name);
-    group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, view = row.view] { ShowView(view); });
-    view_actions_[place] = action;
-  }
-  // The food server has no search yet.
-  view_actions_[static_cast<std::size_t>(FoodView::internet)]->setEnabled(false);
+  Toolbar_ = new FoodListsToolbar(program_.settings[Setting::chk_internet] != "0", this);
+  connect(Toolbar_, &FoodListsToolbar::ViewChosen, this, &FoodListsWindow::ShowView);
+  connect(Toolbar_, &FoodListsToolbar::NewFoodChosen, this, &FoodListsWindow::CORE_New_Item);
+  connect(Toolbar_, &FoodListsToolbar::CopyChosen, this,
+          [this] { CopyOwnListToDatabases(program_); });
+  connect(Toolbar_, &FoodListsToolbar::ServerChosen, this, [this](bool english) {
+    ChooseServer(program_, english ? "1" : "0");
+    ShowServer();
+  });
 }
 
-void FoodListsWindow::BuildSearchPanel() {
-  Pic_zoek_ = new QWidget(this);
-  NameWidget(Pic_zoek_, "Pic_zoek");
-  auto* const layout = new QVBoxLayout(Pic_zoek_);
-  layout->setContentsMargins(8, 6, 8, 6);
-  layout->setSpacing(3);
-  txt_catuitleg_ = NewLabel(Pic_zoek_, "txt_catuitleg");
-  combo_cat_ = new QComboBox(Pic_zoek_);
-  NameWidget(combo_cat_, "combo_cat");
-  txt_zoekuitleg_ = NewLabel(Pic_zoek_, "txt_zoekuitleg");
-  txt_zoekuitleg_->setWordWrap(true);
-  txt_zoeken_ = new SearchBox(Pic_zoek_);
-  NameWidget(txt_zoeken_, "txt_zoeken");
-  txt_zoeken_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
-  txt_catuitleg_->setBuddy(combo_cat_);
-  txt_zoekuitleg_->setBuddy(txt_zoeken_);
-  layout->addWidget(txt_catuitleg_);
-  layout->addWidget(combo_cat_);
-  layout->addSpacing(3);
-  layout->addWidget(txt_zoekuitleg_);
-  layout->addWidget(txt_zoeken_);
-
-  connect(combo_cat_, &QComboBox::textActivated, this, [this](const QString& category) {
-    txt_zoeken_->setText(ToQt(lists_.ChooseCategory(FromQt(category))));
-    ShowResults();
-  });
-  connect(txt_zoeken_, &QLineEdit::textEdited, this, [this](const QString& text) {
+void FoodListsWindow::BuildSearch() {
+  Pic_zoek_ = new FoodSearchPanel(this);
+  Pic_internet_ = new InternetSearchPanel(this);
+  QLineEdit* const search = &Pic_zoek_->Search();
+  connect(&Pic_zoek_->Categories(), &QComboBox::textActivated, this,
+          [this, search](const QString& category) {
+            search->setText(ToQt(lists_.ChooseCategory(FromQt(category))));
+            ShowResults();
+          });
+  connect(search, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (text.isEmpty()) return Toon_Standaardlijst();
     lists_.SearchPrefix(FromQt(text));
     ShowResults();
   });
-  connect(txt_zoeken_, &QLineEdit::returnPressed, this, [this] {
-    if (lists_.Zoek_In_Lijsten(FromQt(txt_zoeken_->text()))) ShowResults();
+  connect(search, &QLineEdit::returnPressed, this, [this, search] {
+    if (lists_.Zoek_In_Lijsten(FromQt(search->text()))) ShowResults();
   });
 }
 
 void FoodListsWindow::BuildViews() {
   stack_ = new QStackedWidget(this);
-  for (const ViewRow& row : kViews) {
-    auto* const table = new FoodTable(row.table_name, stack_);
-    table->setDragDropMode(QAbstractItemView::DragOnly);
-    table->drag_payload = [this, view = row.view](const std::vector<std::size_t>& rows) {
-      return rows.empty() ? Text() : lists_.DragPayload(view, rows);
-    };
-    connect(table, &FoodTable::RowClicked, this, [this, view = row.view](int clicked) {
-      lists_.last_clicked = lists_.Cell(view, static_cast<std::size_t>(clicked), kProductColumn);
-    });
+  for (const FoodView view : kFoodViews) {
+    auto* const table = new FoodTable(RowOf(view).table_name, stack_);
+    table->horizontalHeader()->setSortIndicatorShown(true);
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
     stack_->addWidget(table);
-    tables_[static_cast<std::size_t>(row.view)] = table;
+    tables_[static_cast<std::size_t>(view)] = table;
+    ConnectView(view, table);
   }
+  day_part_menu_ = new QMenu(this);
+  day_part_menu_->setObjectName(QStringLiteral("mnu_day_parts"));
+  day_part_actions_ =
+      AddDayPartActions(day_part_menu_, [this](DayPart part) { AddSelectedToDay(part); });
+}
+
+void FoodListsWindow::ConnectView(FoodView view, FoodTable* table) {
+  table->drag_payload = [this, view](const std::vector<std::size_t>& rows) {
+    return rows.empty() ? Text() : lists_.DragPayload(view, rows);
+  };
+  table->takes = [view](const Text& payload) { return TakesDrop(view, payload); };
+  table->drop = [this, view](const Text& payload) { DropOnFoodView(program_, view, payload); };
+  connect(table, &FoodTable::RowClicked, this, [this, view](int row) { RememberRow(view, row); });
+  // A row that the arrow keys select counts as clicked.
+  connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          [this, view, table](const QModelIndex& index) {
+            if (index.isValid() && table->selectionModel()->isRowSelected(index.row())) {
+              RememberRow(view, index.row());
+            }
+          });
+  connect(table, &QAbstractItemView::doubleClicked, this, [this, view](const QModelIndex& index) {
+    ShowDetails(program_, lists_, view, static_cast<std::size_t>(index.row()));
+  });
+  connect(table, &FoodTable::DeletePressed, this, [this, view] { DeleteSelected(view); });
+  connect(table, &FoodTable::EnterPressed, this, [this, view] { AskDayPart(view); });
+  connect(table, &QWidget::customContextMenuRequested, this, [this, view, table](QPoint place) {
+    OpenMenu(view, table->viewport()->mapToGlobal(place));
+  });
+  connect(table->horizontalHeader(), &QHeaderView::sectionClicked, this,
+          [this, view](int column) { Sort(view, static_cast<std::size_t>(column)); });
+}
+
+void FoodListsWindow::BuildFoodButtons() {
+  const auto button = [this](const char* name, const char* icon) {
+    auto* const made = new QPushButton(IconNamed(icon), QString(), this);
+    NameWidget(made, name);
+    made->setAutoDefault(false);
+    return made;
+  };
+  Pic_toevoegen_ = button("Pic_toevoegen", "item-add");
+  Pic_opties_ = button("Pic_opties", "item-info");
+  connect(Pic_toevoegen_, &QPushButton::clicked, this, &FoodListsWindow::CORE_New_Item);
+  connect(Pic_opties_, &QPushButton::clicked, this,
+          [this] { OpenMenu(View(), Pic_opties_->mapToGlobal(Pic_opties_->rect().topLeft())); });
 }
 
 void FoodListsWindow::BuildStatusBar() {
@@ -175,6 +161,39 @@ void FoodListsWindow::BuildStatusBar() {
   panels_[0]->setMinimumWidth(PixelsOfTwips(1800));
   StatusBar_->addWidget(panels_[0]);
   StatusBar_->addWidget(panels_[1], 1);
+  ProgressBar_ = new QProgressBar(StatusBar_);
+  NameWidget(ProgressBar_, "ProgressBar");
+  ProgressBar_->setFixedWidth(kProgressWidth);
+  ProgressBar_->setTextVisible(false);
+  StatusBar_->addPermanentWidget(ProgressBar_);
+  ProgressBar_->hide();
+}
+
+void FoodListsWindow::LayOut() {
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(Toolbar_);
+  layout->addWidget(Pic_zoek_);
+  layout->addWidget(Pic_internet_);
+  auto* const add = new QHBoxLayout;
+  add->setContentsMargins(8, 2, 8, 2);
+  add->addWidget(Pic_toevoegen_);
+  add->addStretch();
+  layout->addLayout(add);
+  auto* const list = new QVBoxLayout;
+  list->setContentsMargins(4, 2, 4, 2);
+  list->addWidget(stack_);
+  layout->addLayout(list, 1);
+  auto* const options = new QHBoxLayout;
+  options->setContentsMargins(4, 2, 4, 2);
+  options->addStretch();
+  options->addWidget(Pic_opties_);
+  layout->addLayout(options);
+  layout->addWidget(StatusBar_);
+  setTabOrder(Pic_toevoegen_, tables_.front());
+  for (std::size_t i = 1; i < tables_.size(); ++i) setTabOrder(tables_[i - 1], tables_[i]);
+  setTabOrder(tables_.back(), Pic_opties_);
 }
 
 void FoodListsWindow::CloseWindow() {
@@ -184,90 +203,186 @@ void FoodListsWindow::CloseWindow() {
 void FoodListsWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
   setWindowTitle(ToQt(texts[kTitle]));
-  for (const ViewRow& row : kViews) {
-    const auto place = static_cast<std::size_t>(row.view);
-    // The captions carry blanks at their end, which would push them off the middle of a button.
-    view_actions_[place]->setText(ToQt(texts[row.caption]).trimmed());
-    tables_[place]->setAccessibleName(ToQt(texts[row.status]));
+  Toolbar_->Set_Taal(texts);
+  Pic_zoek_->Set_Taal(texts);
+  Pic_internet_->Set_Taal(texts);
+  Pic_toevoegen_->setText(ToQt(texts[kAddPanel]));
+  Pic_opties_->setText(ToQt(texts[kOptionsPanel]));
+  SetDayPartTexts(day_part_actions_, texts);
+  ProgressBar_->setAccessibleName(ToQt(texts[kProgress]));
+  for (const FoodView view : kFoodViews) {
+    TableOf(view).setAccessibleName(ToQt(texts[RowOf(view).status]));
+    TableOf(view).setToolTip(ToQt(texts[RowOf(view).drop_tip]));
+    Populate(view, Scroll::keep);
   }
-  txt_catuitleg_->setText(ToQt(texts[kSelectCategory]));
-  txt_zoekuitleg_->setText(ToQt(texts[kSearchHint]));
-  combo_cat_->setAccessibleName(ToQt(texts[kSelectCategory]));
-  txt_zoeken_->setAccessibleName(ToQt(texts[kSearchHint]));
-  for (const ViewRow& row : kViews) Populate(row.view);
+  SetEmptyTexts();
+  ShowServer();
   ShowStatus();
 }
 
+FoodView FoodListsWindow::View() const {
+  return static_cast<FoodView>(stack_->currentIndex());
+}
+
 void FoodListsWindow::ShowView(FoodView view) {
-  view_actions_[static_cast<std::size_t>(view)]->setChecked(true);
+  Toolbar_->Press(view);
   stack_->setCurrentWidget(&TableOf(view));
   Pic_zoek_->setVisible(view == FoodView::standard);
+  Pic_internet_->setVisible(view == FoodView::internet);
+  Pic_toevoegen_->setVisible(view == FoodView::own || view == FoodView::internet);
   results_shown_ = false;
   ShowStatus();
   SetColumnWidths(view);
 }
 
 void FoodListsWindow::ShowStatus() {
-  const auto view = static_cast<FoodView>(stack_->currentIndex());
-  panels_[0]->setText(ToQt(program_.texts[RowOf(view).status]));
-  panels_[1]->setText(ToQt(results_shown_ ? lists_.ResultsText() : lists_.AvailableText(view)));
+  panels_[0]->setText(ToQt(program_.texts[RowOf(View()).status]));
+  panels_[1]->setText(ToQt(results_shown_ ? lists_.ResultsText() : lists_.AvailableText(View())));
 }
 
-void FoodListsWindow::Populate(FoodView view) {
-  std::vector<TextTableModel::Column> columns;
-  const auto headings = lists_.Headings();
-  for (std::size_t i = 0; i < headings.size(); ++i) {
-    columns.push_back({headings[i], i >= 3 ? Qt::AlignRight : Qt::AlignLeft});
-  }
+void FoodListsWindow::ShowServer() {
+  Pic_internet_->Server().setText(ToQt(ServerText(program_)));
+  Toolbar_->ShowServer(UsesEnglishServer(program_));
+}
+
+void FoodListsWindow::SetEmptyTexts() {
+  const auto set = [this](FoodView view, OwnText text) {
+    TableOf(view).SetEmptyText(ToQt(OwnTextOf(program_.texts, text)));
+  };
+  set(FoodView::standard, OwnText::empty_results);
+  set(FoodView::own, OwnText::empty_own_list);
+  set(FoodView::favourites, OwnText::empty_favourites);
+}
+
+// Rows are made when they are drawn: the bar is full as soon as it is set.
+void FoodListsWindow::Populate(FoodView view, Scroll scroll) {
   FoodTable& table = TableOf(view);
-  table.Model().Show(
-      std::move(columns), lists_.Count(view),
-      [this, view](std::size_t row, std::size_t column) { return lists_.Cell(view, row, column); });
-  table.SelectRowsReading(kProductColumn, ToQt(lists_.last_clicked));
+  const int place = scroll == Scroll::keep ? table.verticalScrollBar()->value() : 0;
+  const auto count = static_cast<int>(lists_.Count(view));
+  program_.platform.pointer.ShowWait();
+  ProgressBar_->setRange(0, count);
+  ProgressBar_->setVisible(true);
+  const auto selected = lists_.Populate(view);
+  ShowFoodRows(table, lists_, view);
+  ProgressBar_->setValue(count);
+  table.verticalScrollBar()->setValue(place);
+  if (selected) table.SelectRow(static_cast<int>(*selected));
+  ProgressBar_->setVisible(false);
+  program_.platform.pointer.Restore();
   SetColumnWidths(view);
 }
 
-void FoodListsWindow::Populate_Food_List_Custom() {
-  Populate(FoodView::own);
+// The same lines stay selected, wherever they stand now.
+void FoodListsWindow::Sort(FoodView view, std::size_t column) {
+  FoodTable& table = TableOf(view);
+  const auto focus = table.RowInFocus();
+  const auto selected = lists_.NumbersOf(view, table.SelectedRows());
+  const auto in_focus =
+      lists_.NumbersOf(view, focus ? std::vector<std::size_t>{*focus} : std::vector<std::size_t>());
+  lists_.SortByColumn(view, column);
+  ShowFoodRows(table, lists_, view);
+  SetColumnWidths(view);
+  if (in_focus.empty()) return table.scrollToTop();
+  table.SelectRows(lists_.RowsOf(view, selected), lists_.RowsOf(view, in_focus).front());
 }
+
+void FoodListsWindow::Populate_Food_List_Custom() {
+  Populate(FoodView::own, Scroll::keep);
+  if (View() == FoodView::own) ShowStatus();
+}
+
 void FoodListsWindow::Populate_Food_List_Favo() {
-  Populate(FoodView::favourites);
+  Populate(FoodView::favourites, Scroll::keep);
+  if (View() == FoodView::favourites) ShowStatus();
+}
+
+void FoodListsWindow::Populate_Food_List_Internet() {
+  Populate(FoodView::internet, Scroll::to_top);
+  if (View() == FoodView::internet) ShowStatus();
 }
 
 void FoodListsWindow::Toon_Standaardlijst() {
   const TextList categories = lists_.Categories();
   const auto searched = lists_.Toon_Standaardlijst();
-  combo_cat_->clear();
+  QComboBox& shown = Pic_zoek_->Categories();
+  shown.clear();
   if (searched) {
-    for (const std::string_view category : categories) combo_cat_->addItem(ToQt(category));
-    combo_cat_->setCurrentIndex(0);
-    txt_zoeken_->setText(ToQt(*searched));
-    txt_zoeken_->selectAll();
+    for (const std::string_view category : categories) shown.addItem(ToQt(category));
+    shown.setCurrentIndex(0);
+    Pic_zoek_->Search().setText(ToQt(*searched));
+    Pic_zoek_->Search().selectAll();
   }
-  Populate(FoodView::standard);
+  Populate(FoodView::standard, Scroll::to_top);
   results_shown_ = false;
   ShowStatus();
 }
 
 void FoodListsWindow::ShowResults() {
-  Populate(FoodView::standard);
+  Populate(FoodView::standard, Scroll::to_top);
   results_shown_ = true;
   ShowStatus();
 }
 
+void FoodListsWindow::RememberRow(FoodView view, int row) {
+  lists_.last_clicked = lists_.Cell(view, static_cast<std::size_t>(row), kProductColumn);
+}
+
+void FoodListsWindow::DeleteSelected(FoodView view) {
+  DeleteRows(program_, lists_, view, TableOf(view).SelectedRows());
+}
+
+void FoodListsWindow::OpenMenu(FoodView view, QPoint place) {
+  OpenFoodMenu(program_, view, TableOf(view).SelectedRows().size(), PlaceOf(place));
+}
+
+void FoodListsWindow::CORE_show_info_mnu() {
+  const auto row = TableOf(View()).RowInFocus();
+  if (row) ShowDetails(program_, lists_, View(), *row);
+}
+
+void FoodListsWindow::CORE_Add_To_Favo() {
+  const auto row = TableOf(View()).RowInFocus();
+  if (row) AddRowToFavourites(program_, lists_, View(), *row);
+}
+
+void FoodListsWindow::CORE_New_Item() {
+  AddNewFood(program_, View());
+}
+
+void FoodListsWindow::CORE_Del_Item() {
+  const auto row = TableOf(View()).RowInFocus();
+  if (row) DeleteRows(program_, lists_, View(), {*row});
+}
+
+void FoodListsWindow::AskDayPart(FoodView view) {
+  FoodTable& table = TableOf(view);
+  if (!MayAddToDay(program_, lists_, view, table.SelectedRows())) return;
+  table.scrollTo(table.currentIndex());
+  const QRect row = table.visualRect(table.currentIndex());
+  day_part_menu_->popup(table.viewport()->mapToGlobal(row.bottomLeft()));
+  day_part_menu_->setActiveAction(day_part_actions_[static_cast<std::size_t>(last_day_part_)]);
+}
+
+void FoodListsWindow::AddSelectedToDay(DayPart part) {
+  last_day_part_ = part;
+  AddRowsToDay(program_, lists_, View(), TableOf(View()).SelectedRows(), part);
+}
+
+// Before there is any row the columns are laid out once; after that they follow the list only while
+// it has rows.
+void FoodListsWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  for (FoodTable* const table : tables_) LayFoodColumns(*table, stack_->width());
+}
+
 void FoodListsWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  for (const ViewRow& row : kViews) SetColumnWidths(row.view);
+  for (const FoodView view : kFoodViews) SetColumnWidths(view);
 }
 
 void FoodListsWindow::SetColumnWidths(FoodView view) {
   FoodTable& table = TableOf(view);
-  if (table.Model().rowCount() == 0) return;
-  table.setColumnHidden(0, true);
-  table.setColumnWidth(1, stack_->width() - kRestWidth);
-  table.setColumnWidth(2, kUnitWidth);
-  table.setColumnWidth(3, kAmountWidth);
-  table.setColumnWidth(4, kAmountWidth);
+  if (table.Model().rowCount() > 0) LayFoodColumns(table, stack_->width());
 }
 
 }  // namespace kelvora

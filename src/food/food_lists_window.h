@@ -1,20 +1,25 @@
 // The food lists window: the source of all food that is eaten. A picture of the lists that
-// food_lists.h fills; it passes typing, choices and drags on.
+// food_lists.h fills; what is chosen, dropped or deleted goes to food_list_commands.h.
+//
+// Besides the mouse: Enter on a list asks which day part the selected rows go to, with the one used
+// last under the cursor, so that Enter twice repeats it; the menu of a row has the same entries.
 #pragma once
 
 #include <array>
 
-#include <QAction>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QToolBar>
 #include <QWidget>
 
 #include "core/program.h"
+#include "food/day_part_menu_panel.h"
 #include "food/food_lists.h"
+#include "food/food_lists_toolbar_panel.h"
+#include "food/food_search_panel.h"
 #include "food/food_table_panel.h"
 
 namespace kelvora {
@@ -30,21 +35,42 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void Toon_Standaardlijst() override;
   void Populate_Food_List_Custom() override;
   void Populate_Food_List_Favo() override;
+  void Populate_Food_List_Internet() override;
+  void CORE_show_info_mnu() override;
+  void CORE_Add_To_Favo() override;
+  void CORE_New_Item() override;
+  void CORE_Del_Item() override;
+  void AddSelectedToDay(DayPart part) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  // Whether a list that is filled anew stays where it was scrolled to.
+  enum class Scroll { keep, to_top };
+
   void BuildToolbar();
-  void BuildSearchPanel();
+  void BuildSearch();
   void BuildViews();
+  void ConnectView(FoodView view, FoodTable* table);
+  void BuildFoodButtons();
   void BuildStatusBar();
+  void LayOut();
   void ShowView(FoodView view);
-  void Populate(FoodView view);
+  void Populate(FoodView view, Scroll scroll);
+  void Sort(FoodView view, std::size_t column);
   void SetColumnWidths(FoodView view);
+  void SetEmptyTexts();
   void ShowResults();
   void ShowStatus();
+  void ShowServer();
+  void RememberRow(FoodView view, int row);
+  void DeleteSelected(FoodView view);
+  void AskDayPart(FoodView view);
+  void OpenMenu(FoodView view, QPoint place);
+  [[nodiscard]] FoodView View() const;
   [[nodiscard]] FoodTable& TableOf(FoodView view) {
     return *tables_[static_cast<std::size_t>(view)];
   }
@@ -53,17 +79,19 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   OpenFlag<FoodListsView> open_flag_;
   FoodLists lists_;
   bool results_shown_ = false;  // the status tells how many were found, not how many there are
-  QToolBar* Toolbar_;
-  std::array<QAction*, 4> view_actions_;
-  QWidget* Pic_zoek_;
-  QLabel* txt_catuitleg_;
-  QComboBox* combo_cat_;
-  QLabel* txt_zoekuitleg_;
-  QLineEdit* txt_zoeken_;
+  DayPart last_day_part_ = DayPart::morning;
+  FoodListsToolbar* Toolbar_;
+  FoodSearchPanel* Pic_zoek_;
+  InternetSearchPanel* Pic_internet_;
+  QPushButton* Pic_toevoegen_;
+  QPushButton* Pic_opties_;
   QStackedWidget* stack_;
-  std::array<FoodTable*, 4> tables_;
+  std::array<FoodTable*, kFoodViews.size()> tables_;
+  QMenu* day_part_menu_;
+  DayPartActions day_part_actions_;
   QStatusBar* StatusBar_;
   std::array<QLabel*, 2> panels_;
+  QProgressBar* ProgressBar_;
 };
 
 }  // namespace kelvora

@@ -14,14 +14,6 @@
 #include "platform/qt/text.h"
 
 namespace kelvora {
-namespace {
-
-bool CarriesFood(const QMimeData* data) {
-  return data->hasText() && IsDragText(FromQt(data->text()));
-}
-
-}  // namespace
-
 FoodTable::FoodTable(const char* object_name, QWidget* parent) : QTableView(parent) {
   NameWidget(this, object_name);
   setModel(&model_);
@@ -47,17 +39,51 @@ FoodTable::FoodTable(const char* object_name, QWidget* parent) : QTableView(pare
           [this](const QModelIndex& index) { emit RowClicked(index.row()); });
 }
 
+// By the ranges of the selection: a list of a million rows may be selected as a whole.
 std::vector<std::size_t> FoodTable::SelectedRows() const {
   std::vector<std::size_t> rows;
-  for (const QModelIndex& index : selectionModel()->selectedRows()) {
-    rows.push_back(static_cast<std::size_t>(index.row()));
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+      rows.push_back(static_cast<std::size_t>(row));
+    }
   }
   std::ranges::sort(rows);
+  const auto repeated = std::ranges::unique(rows);
+  rows.erase(repeated.begin(), repeated.end());
   return rows;
 }
 
+std::optional<std::size_t> FoodTable::RowInFocus() const {
+  const int current = currentIndex().row();
+  if (current >= 0 && selectionModel()->isRowSelected(current)) {
+    return static_cast<std::size_t>(current);
+  }
+  const auto rows = SelectedRows();
+  return rows.empty() ? std::nullopt : std::optional(rows.front());
+}
+
+void FoodTable::SelectRows(const std::vector<std::size_t>& rows, std::size_t focus) {
+  QItemSelection selection;
+  const int last_column = model_.columnCount() - 1;
+  for (std::size_t first = 0, end = 0; first < rows.size(); first = end) {
+    for (end = first + 1; end < rows.size() && rows[end] == rows[end - 1] + 1;) ++end;
+    selection.append({model_.index(static_cast<int>(rows[first]), 0),
+                      model_.index(static_cast<int>(rows[end - 1]), last_column)});
+  }
+  const QModelIndex index = model_.index(static_cast<int>(focus), 1);
+  selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+  selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  scrollTo(index);
+}
+
+void FoodTable::SetEmptyText(const QString& text) {
+  if (empty_text_ == text) return;
+  empty_text_ = text;
+  viewport()->update();
+}
+
 void FoodTable::SelectRow(int row) {
-  // The first column is hidden, and the arrow keys go nowhere from there.
+  // The first column is hidden, and from a hidden cell the arrow keys lead nowhere.
   const QModelIndex index = model_.index(row, 1);
   selectionModel()->setCurrentIndex(
       index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -91,9 +117,15 @@ void FoodTable::startDrag(Qt::DropActions) {
 }
 
 void FoodTable::dragEnterEvent(QDragEnterEvent* event) {
-  if (!drop || !CarriesFood(event->mimeData())) return event->ignore();
+  if (!drop || !Takes(event->mimeData())) return event->ignore();
   event->acceptProposedAction();
   SetDropLight(true);
+}
+
+bool FoodTable::Takes(const QMimeData* data) const {
+  if (!data->hasText()) return false;
+  const Text payload = FromQt(data->text());
+  return takes ? takes(payload) : IsDragText(payload);
 }
 
 // What is dragged was looked at when it came over the list.
@@ -116,6 +148,7 @@ void FoodTable::dropEvent(QDropEvent* event) {
 void FoodTable::keyPressEvent(QKeyEvent* event) {
   const bool numeric_pad = event->modifiers().testFlag(Qt::KeypadModifier);
   if (event->key() == Qt::Key_Delete) return emit DeletePressed();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return emit EnterPressed();
   if (numeric_pad && event->key() == Qt::Key_Plus) return emit PlusPressed();
   if (numeric_pad && event->key() == Qt::Key_Minus) return emit MinusPressed();
   QTableView::keyPressEvent(event);
@@ -123,10 +156,19 @@ void FoodTable::keyPressEvent(QKeyEvent* event) {
 
 void FoodTable::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
+  if (model_.rowCount() == 0) DrawEmptyText();
   if (!drop_light_) return;
   QPainter painter(viewport());
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+}
+
+void FoodTable::DrawEmptyText() {
+  constexpr int kMargin = 12;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.drawText(viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
 }
 
 void FoodTable::SetDropLight(bool on) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QTableView>
@@ -21,20 +22,30 @@ class FoodTable : public QTableView {
 
   // The payload for the selected rows; empty when nothing may be dragged.
   std::function<Text(const std::vector<std::size_t>& rows)> drag_payload;
+  // Whether a payload over the list may be dropped; any of this program while not set.
+  std::function<bool(const Text& payload)> takes;
   // Takes a payload that was dropped.
   std::function<void(const Text& payload)> drop;
 
   [[nodiscard]] TextTableModel& Model() { return model_; }
+  // What an empty list says, in grey.
+  void SetEmptyText(const QString& text);
   // The numbers of the selected rows, from first to last.
   [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
   // Selects the rows whose cell in `column` reads `text`, and brings the first into view; nothing
   // is selected if there is none.
   void SelectRowsReading(int column, const QString& text);
   void SelectRow(int row);
+  // Selects these rows, given from first to last, and nothing else; `focus` becomes the current one
+  // and comes into view.
+  void SelectRows(const std::vector<std::size_t>& rows, std::size_t focus);
+  // The current row if it is selected, or else the first selected one.
+  [[nodiscard]] std::optional<std::size_t> RowInFocus() const;
 
  signals:
   void RowClicked(int row);
   void DeletePressed();
+  void EnterPressed();
   void PlusPressed();
   void MinusPressed();
 
@@ -49,9 +60,12 @@ class FoodTable : public QTableView {
 
  private:
   void SetDropLight(bool on);
+  [[nodiscard]] bool Takes(const QMimeData* data) const;
+  void DrawEmptyText();
 
   TextTableModel model_;
   bool drop_light_ = false;
+  QString empty_text_;
 };
 
 }  // namespace kelvora

@@ -28,6 +28,16 @@ constexpr std::array kRows = {
                "Haal één portie uit de dag"_w},
     OwnTextRow{OwnText::add_to_favourites, "Add to the favourites"_w,
                "Voeg toe aan de favorieten"_w},
+    OwnTextRow{OwnText::add_to_morning, "Add to the morning"_w, "Toevoegen aan de ochtend"_w},
+    OwnTextRow{OwnText::add_to_afternoon, "Add to the afternoon"_w, "Toevoegen aan de middag"_w},
+    OwnTextRow{OwnText::add_to_evening, "Add to the evening"_w, "Toevoegen aan de avond"_w},
+    OwnTextRow{OwnText::empty_own_list, "You have made no food items of your own yet."_w,
+               "Je hebt nog geen eigen voedingsmiddelen gemaakt."_w},
+    OwnTextRow{OwnText::empty_favourites,
+               "You have no favourites yet. Drag a consumption here to add one."_w,
+               "Je hebt nog geen favorieten. Sleep een consumptie hierheen."_w},
+    OwnTextRow{OwnText::empty_results, "No food items were found."_w,
+               "Er zijn geen voedingsmiddelen gevonden."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -13,14 +13,23 @@ enum class Language { english, dutch };
 [[nodiscard]] Language LanguageOf(const TextTables& texts);
 
 enum class OwnText {
-  not_here_yet,     // why a command is disabled that this version can't carry out
-  move_to_morning,  // entries of a menu on the foods of one part of the day
+  not_here_yet,  // why a command is disabled that this version can't carry out
+  // The menu of the foods of one part of the day.
+  move_to_morning,
   move_to_afternoon,
   move_to_evening,
   cut_foods,
   paste_foods,
   take_portion_out,
   add_to_favourites,
+  // What the rows of a food list can be added to.
+  add_to_morning,
+  add_to_afternoon,
+  add_to_evening,
+  // What an empty food list says.
+  empty_own_list,
+  empty_favourites,
+  empty_results,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -28,6 +37,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 8;
+inline constexpr int kOwnTextCount = 14;
 
 }  // namespace kelvora

@@ -102,6 +102,47 @@ TEST(Commands, EachIsEnabledFromItsStateOnWhereItIsServed) {
   EXPECT_FALSE(IsServed(Command::none));
 }
 
+// The food menu that stands open for a row decides for its four items and for nothing else.
+TEST(Commands, TheOpenFoodMenuDecidesForItsItems) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  const auto enabled = [&](Command command) { return CommandEnabled(test.program, command); };
+  test.program.windows.food_menu = FoodMenu{.info = true, .favourite = true};
+  EXPECT_FALSE(enabled(Command::mnu_item_del));
+  EXPECT_TRUE(enabled(Command::mnu_item_favo));
+  EXPECT_TRUE(enabled(Command::mnu_new));
+  test.program.windows.food_menu = FoodMenu{.del = true};
+  EXPECT_TRUE(enabled(Command::mnu_item_del));
+  EXPECT_FALSE(enabled(Command::mnu_item_favo));
+  test.program.windows.food_menu = FoodMenu{};
+  EXPECT_FALSE(enabled(Command::mnu_item_info));
+  EXPECT_FALSE(enabled(Command::mnu_item_voegtoe));
+  test.program.windows.food_menu.reset();
+  EXPECT_TRUE(enabled(Command::mnu_item_favo));
+}
+
+struct NotedLists : FoodListsView {
+  Text given;
+  void CloseWindow() override {}
+  void Set_Taal() override {}
+  void Toon_Standaardlijst() override {}
+  void Populate_Food_List_Custom() override {}
+  void Populate_Food_List_Favo() override {}
+  void CORE_Del_Item() override { given += "del "; }
+  void CORE_Add_To_Favo() override { given += "favo "; }
+};
+
+TEST(Commands, TheItemsOfFoodsGoToTheOpenFoodLists) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  NotedLists lists;
+  RunCommand(test.program, Command::mnu_item_del);
+  test.program.windows.lists = &lists;
+  RunCommand(test.program, Command::mnu_item_del);
+  RunCommand(test.program, Command::mnu_item_favo);
+  EXPECT_EQ(lists.given, "del favo ");
+}
+
 TEST(Commands, MenusNeedAUserOrADay) {
   for (const State state : kStates) {
     TestProgram test;

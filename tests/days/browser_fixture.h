@@ -13,7 +13,7 @@
 
 namespace kelvora {
 
-// What is laid down of a day file for a test.
+// What a test writes into a day file.
 struct Day {
   std::string_view date;
   std::string_view weekday = "Friday";

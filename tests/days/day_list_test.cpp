@@ -291,12 +291,12 @@ TEST_F(Browser, RowsAreSortedByTheWholePartOfWhatTheyShow) {
   };
   ASSERT_TRUE(ClickHeading(sort, BrowseColumn::kWeight));
   // 79, then the two of 80 in reverse, then 100.
-  EXPECT_EQ(SortRows(rows, sort), (std::vector<std::size_t>{1, 2, 0, 3}));
+  EXPECT_EQ(SortRows(rows, sort), (std::vector<std::uint32_t>{1, 2, 0, 3}));
   EXPECT_EQ(numbers(), "2314");
   EXPECT_EQ(rows[1].path, program.paths.FilesPath + "c.kvf");
   ASSERT_TRUE(ClickHeading(sort, BrowseColumn::kWeight));
   // Descending leaves the two of 80 as they stood.
-  EXPECT_EQ(SortRows(rows, sort), (std::vector<std::size_t>{3, 1, 2, 0}));
+  EXPECT_EQ(SortRows(rows, sort), (std::vector<std::uint32_t>{3, 1, 2, 0}));
   EXPECT_EQ(numbers(), "4312");
 }
 
@@ -304,7 +304,7 @@ TEST_F(Browser, AnUnsortedListStaysAsItIs) {
   AddDay("a.kvf", {.date = "01-03-04", .weight = "80"});
   AddDay("b.kvf", {.date = "02-03-04", .weight = "70"});
   std::vector<DayRow> rows = ReadDays(program);
-  EXPECT_EQ(SortRows(rows, {}), (std::vector<std::size_t>{0, 1}));
+  EXPECT_EQ(SortRows(rows, {}), (std::vector<std::uint32_t>{0, 1}));
   EXPECT_EQ(rows[0].file_name, "a.kvf");
 }
 

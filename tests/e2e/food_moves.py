@@ -3,7 +3,8 @@
 
 Drags foods from the list into the morning and from there into the afternoon, cuts and pastes one
 into the evening and moves it back, counts portions up and removes them, and makes one food of a
-whole morning. After each step the day is saved and its file read from outside, and so is the own
+whole morning. Foods go back to the food lists, which takes them out of the day, and onto the
+favourites. After each step the day is saved and its file read from outside, and so is the own
 list. The argument is the built program.
 """
 import csv
@@ -21,6 +22,7 @@ MORNING, AFTERNOON, EVENING = (800, 220), (800, 430), (800, 640)
 FIRST_ROWS = {"morning": (760, 175), "afternoon": (760, 378), "evening": (760, 582)}
 ROW_HEIGHT = 20
 COMBINE_MORNING = (671, 134)
+FOOD_LIST, STANDARD_LIST, FAVOURITES_LIST = (200, 500), (57, 150), (239, 150)
 
 # The amounts of a new food in the order of its fields, each with the decimals that are shown.
 AMOUNTS = [("gram", "1"), ("kj", "1"), ("kcal", "1"), ("protein", "1"), ("fat_u", "1"),
@@ -134,6 +136,23 @@ def combine(desktop, day, foods):
     assert len(pieces(line, FIELD_END)) == 12
 
 
+def drop_on_food_lists(desktop, day, foods):
+    desktop.click(row(1))
+    desktop.click(row(2), "shift")
+    desktop.drag(row(2), EVENING)
+    desktop.click(consumption("evening", 0))
+    desktop.drag(consumption("evening", 0), FOOD_LIST)
+    assert day.saved()[2] == [line_of(foods[2])], "the food is still in the day"
+    desktop.click(FAVOURITES_LIST)
+    desktop.click(consumption("evening", 0))
+    desktop.drag(consumption("evening", 0), FOOD_LIST)
+    desktop.keys("Return")  # the box that tells of it
+    favourites = read_food_file(day.user / "Databases" / "Favorites.dat")
+    assert favourites == [line_of(foods[2])], favourites
+    assert day.saved()[2] == [line_of(foods[2])], "a favourite leaves the day"
+    desktop.click(STANDARD_LIST)
+
+
 def main():
     program = Path(sys.argv[1]).resolve()
     with open(FOODS, encoding="utf-8", newline="") as table:
@@ -142,7 +161,8 @@ def main():
         day = Day(desktop, Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users", "Anna"))
         process = desktop.start(program, first_run=True)
         make_user_and_day(desktop)
-        for step in (move_by_mouse, move_by_keyboard, count_portions, combine):
+        for step in (move_by_mouse, move_by_keyboard, count_portions, combine,
+                     drop_on_food_lists):
             step(desktop, day, foods)
             print(step.__name__ + ": as it must be")
         end(desktop, process)

@@ -89,6 +89,79 @@ TEST_F(FoodListsTest, RowsShowNumberNameUnitWeightAndTheUsersNutrient) {
   EXPECT_EQ(lists.Headings()[3], "oz:");
 }
 
+// The six nutrients of one food: heading, tip and pattern of each.
+TEST_F(FoodListsTest, TheLastColumnFollowsThePriorityOfTheUser) {
+  store.Custom_list.Clear();
+  store.Custom_list.Add(LineOf({.product = "Mix",
+                                .kj = "1234,5",
+                                .kcal = "0.5",
+                                .protein = "2.4",
+                                .fat_u = "0.49",
+                                .fat_s = "",
+                                .carbs = "17.5 g"}));
+  const std::array<std::array<const char*, 4>, 6> rows = {{
+      {"0", "Kj.:", "1235", "Kilojoules of the portion"},
+      {"1", "Kcal.:", "1", "Kilocalories of the portion"},
+      {"2", "Fat (u).:", "0", "Unsaturated fat of the portion"},
+      {"3", "Fat (s).:", "0", "Saturated fat of the portion"},
+      {"4", "Carb.:", "18", "Carbohydrates of the portion"},
+      {"5", "Prot.:", "2", "Protein of the portion"},
+  }};
+  for (const auto& [priority, heading, cell, tip] : rows) {
+    test.program.profile[ProfileField::type_prioriteit] = priority;
+    EXPECT_EQ(lists.Headings()[4], heading);
+    EXPECT_EQ(lists.Cell(FoodView::own, 0, 4), cell);
+    EXPECT_EQ(lists.NutrientTip(), tip);
+  }
+}
+
+TEST_F(FoodListsTest, FoodsWithOddTextsAreShownAsTheyAre) {
+  const Text long_name(134, 'n');
+  store.Custom_list.Clear();
+  store.Custom_list.Add(LineOf({.product = ""}));
+  store.Custom_list.Add(LineOf({.product = long_name}));
+  store.Custom_list.Add(LineOf({.product = "Soup", .remark = "first\nsecond"}));
+  EXPECT_EQ(lists.Cell(FoodView::own, 0, 1), "");
+  EXPECT_EQ(lists.Cell(FoodView::own, 1, 1), long_name);
+  EXPECT_TRUE(lists.Zoek_In_Lijsten("SECOND"));
+  EXPECT_EQ(Names(), std::vector<Text>{"Soup"});
+  lists.SearchPrefix(long_name);
+  EXPECT_EQ(Names(), std::vector<Text>{long_name});
+  // A name that is empty is no name to be found again by.
+  lists.last_clicked = "";
+  EXPECT_EQ(lists.Populate(FoodView::own), std::nullopt);
+}
+
+TEST_F(FoodListsTest, EachViewTellsHowManyItHas) {
+  EXPECT_EQ(lists.AvailableText(FoodView::own), "1 food items available");
+  EXPECT_EQ(lists.AvailableText(FoodView::favourites), "0 food items available");
+  EXPECT_EQ(lists.AvailableText(FoodView::internet), "0 Food items found on internet");
+}
+
+TEST_F(FoodListsTest, TheSameNameInTwoCategoriesStandsTwiceAndEachRowDragsItsOwnLine) {
+  Add({.product = "Rye bread", .unit = "1 loaf", .db = "Fruit.dat"});
+  lists.SearchPrefix("RYE");
+  ASSERT_EQ(lists.Count(FoodView::standard), 2u);
+  EXPECT_EQ(lists.DragPayload(FoodView::standard, {0}),
+            "add-" + Text(store.Default_list[0]) + kLineEnd);
+  EXPECT_EQ(lists.DragPayload(FoodView::standard, {1}),
+            "add-" + Text(store.Default_list[3]) + kLineEnd);
+}
+
+TEST_F(FoodListsTest, ALineThatMatchesInBothListsIsListedTwice) {
+  store.Custom_list.Add(store.Default_list[2]);
+  EXPECT_TRUE(lists.Zoek_In_Lijsten("appel"));
+  EXPECT_EQ(Names(), (std::vector<Text>{"APPLE", "APPLE"}));
+}
+
+TEST_F(FoodListsTest, KeysThatMatchNothingListNothing) {
+  for (const char* text : {"quixotic", "\n", "\xBD\xBE", " Rye bread"}) {
+    lists.SearchPrefix(text);
+    EXPECT_TRUE(Names().empty()) << text;
+  }
+  EXPECT_EQ(lists.ResultsText(), "0 results found");
+}
+
 TEST_F(FoodListsTest, AnAmountBeyondAllRangesIsDrawnAsNothing) {
   const Text huge(400, '9');
   store.Custom_list.Add(LineOf({.product = "Huge", .gram = huge, .kj = huge}));

@@ -1,4 +1,4 @@
-// Files that are not as this program writes them: each reader gives its laid-down result, never
+// Files that are not as this program writes them: each reader gives its own result, never
 // crashes or waits, and takes no more memory than the file has bytes.
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -105,6 +105,7 @@ struct RecordingCore : CoreView {
   int settings_opened = 0;
   int new_foods_opened = 0;
   std::vector<std::pair<Text, Text>> items_shown;  // tag and line
+  std::vector<FoodMenu> food_menus;
   int toolbar_texts_set = 0;
   int splashes = 0;
   int abouts = 0;
@@ -121,6 +122,9 @@ struct RecordingCore : CoreView {
     items_shown.emplace_back(tag, line);
   }
   void OpenNewFood() override { ++new_foods_opened; }
+  void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace) override {
+    food_menus.push_back(enabled);
+  }
   void ShowSplash() override { ++splashes; }
   void ShowAbout() override { ++abouts; }
 };

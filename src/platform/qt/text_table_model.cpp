@@ -50,6 +50,7 @@ QVariant TextTableModel::headerData(int section, Qt::Orientation orientation, in
   if (orientation != Qt::Horizontal) return {};
   const Column& column = columns_[static_cast<std::size_t>(section)];
   if (role == Qt::DisplayRole) return ToQt(column.heading);
+  if (role == Qt::ToolTipRole) return ToQt(column.tip);
   if (role == Qt::TextAlignmentRole) return QVariant(column.alignment | Qt::AlignVCenter);
   return {};
 }

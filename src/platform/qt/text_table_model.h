@@ -20,6 +20,7 @@ class TextTableModel : public QAbstractTableModel {
   struct Column {
     Text heading;
     Qt::Alignment alignment = Qt::AlignLeft;
+    Text tip{};  // of the heading
   };
   using CellText = std::function<Text(std::size_t row, std::size_t column)>;
 

@@ -1,8 +1,5 @@
-#include "core/sorting.h"
+#include "core/exchange_sort.h"
 
-#include <algorithm>
-#include <cmath>
-#include <numeric>
 #include <utility>
 
 namespace kelvora {
@@ -24,17 +21,6 @@ std::vector<std::size_t> ExchangeSorted(const std::vector<double>& keys, const P
   std::vector<std::size_t> places;
   places.reserve(entries.size());
   for (const Entry& entry : entries) places.push_back(entry.place);
-  return places;
-}
-
-std::vector<std::size_t> OrderByWholePart(const std::vector<double>& values, SortOrder order) {
-  std::vector<double> whole(values.size());
-  std::ranges::transform(values, whole.begin(), [](double value) { return std::floor(value); });
-  std::vector<std::size_t> places(values.size());
-  std::iota(places.begin(), places.end(), std::size_t{0});
-  std::ranges::stable_sort(places,
-                           [&](std::size_t a, std::size_t b) { return whole[a] > whole[b]; });
-  if (order == SortOrder::ascending) std::ranges::reverse(places);
   return places;
 }
 

@@ -1,5 +1,5 @@
-// The orders that lists are put in, over numbers and places only: who sorts parses every key once,
-// and moves rows to the places that come back. The order of equal keys is part of each rule.
+// The exchange sort of the day lists, over numbers and places only: who sorts parses every key once
+// and moves rows to the places that come back. The order of equal keys is part of the rule.
 #pragma once
 
 #include <cstddef>
@@ -18,13 +18,5 @@ using Pause = std::function<bool()>;
 // in `keys`.
 [[nodiscard]] std::vector<std::size_t> ExchangeSorted(const std::vector<double>& keys,
                                                       const Pause& pause);
-
-enum class SortOrder { ascending, descending };
-
-// The order of the rows of a list by a column of numbers. Only the whole part of a value
-// counts: 1.2 and 1.9 are equal, and so are no reason to change places. Descending, equal rows stay
-// as they were; ascending is the very reverse of it. Returns places in `values`.
-[[nodiscard]] std::vector<std::size_t> OrderByWholePart(const std::vector<double>& values,
-                                                        SortOrder order);
 
 }  // namespace kelvora

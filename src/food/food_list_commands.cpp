@@ -1,0 +1,185 @@
+#include "food/food_list_commands.h"
+
+#include <array>
+
+#include "food/consumption.h"
+#include "food/drag_text.h"
+#include "internet/servers.h"
+#include "language/lists_texts.h"
+#include "nutrition/totals.h"
+#include "storage/folders.h"
+#include "storage/food_files.h"
+#include "storage/settings_file.h"
+
+namespace kelvora {
+namespace {
+
+// What the food menu offers in a view, and under which name its foods' details are shown.
+struct ViewRow {
+  std::string_view tag;
+  FoodMenu with_none;
+  FoodMenu with_one;
+};
+constexpr std::array kRows = {
+    ViewRow{"zoeken", {}, {.info = true, .favourite = true}},
+    ViewRow{"custom", {.add = true}, {.del = true, .add = true, .info = true, .favourite = true}},
+    ViewRow{"favo", {}, {.del = true, .info = true}},
+    ViewRow{"internet", {}, {.add = true, .info = true}},
+};
+
+const ViewRow& RowOf(FoodView view) {
+  return kRows[static_cast<std::size_t>(view)];
+}
+
+// The rest of a payload that begins with a marker must be longer to add favourites.
+constexpr std::size_t kShortestKeys = 6;
+
+bool IsOneFoodLine(std::string_view text) {
+  return text.find(kFieldEnd) != text.npos && text.find(kLineEnd) == text.npos;
+}
+
+// A name and its terminator. Anything shorter would fit lines of other foods too.
+bool IsKey(std::string_view part) {
+  return part.ends_with(kFieldEnd);
+}
+
+void RemoveFromDay(Program& program, std::string_view keys) {
+  for (const std::string_view key : PartsOf(keys)) {
+    if (!IsKey(key)) continue;
+    MoveConsumption(program.store, program.day.drag_source, key, kDeleteTarget);
+  }
+  RefreshDragSource(program);
+  Refresh_Totalen(program);
+}
+
+void AddKeysToFavourites(Program& program, std::string_view keys) {
+  if (keys.size() <= kShortestKeys) return;
+  for (const std::string_view key : PartsOf(keys)) {
+    if (IsKey(key)) Add_To_Favorites(program, key);
+  }
+}
+
+void TakeForeignFood(Program& program, std::string_view line) {
+  if (!IsOneFoodLine(line)) return;
+  program.store.Custom_list.Add(line);
+  Save_Custom(program, CustomFile(program.paths, program.paths.UserName));
+  if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Custom();
+}
+
+// Removes the last line that begins with `key` and returns it; "" if there is none.
+Text RemoveLast(TextList& list, std::string_view key) {
+  const auto found = list.FindLast(key);
+  if (!found) return {};
+  Text line(list[*found]);
+  list.Remove(*found);
+  return line;
+}
+
+void RemoveByNumber(KV_data& store, FoodView view, std::size_t number) {
+  if (view == FoodView::favourites) {
+    (void)RemoveLast(store.Favorites_list, Text(store.Favorites_list[number]));
+    return;
+  }
+  const Text key(store.Custom_list[number]);
+  const Text removed = RemoveLast(store.Custom_list, key);
+  const Text& favourite = key.empty() ? removed : key;
+  if (!favourite.empty()) (void)RemoveLast(store.Favorites_list, favourite);
+}
+
+}  // namespace
+
+bool TakesDrop(FoodView view, std::string_view payload) {
+  if (payload.starts_with(kKillMarker)) return true;
+  return view == FoodView::own && payload.starts_with(kForeignMarker);
+}
+
+void DropOnFoodView(Program& program, FoodView view, std::string_view payload) {
+  program.Guard("#F11-5", [&] {
+    Text rest(payload);
+    if (TakeMarker(rest, kKillMarker)) {
+      return view == FoodView::favourites ? AddKeysToFavourites(program, rest)
+                                          : RemoveFromDay(program, rest);
+    }
+    if (view == FoodView::own && TakeMarker(rest, kForeignMarker)) TakeForeignFood(program, rest);
+  });
+}
+
+void DeleteRows(Program& program, const FoodLists& lists, FoodView view,
+                const std::vector<std::size_t>& rows) {
+  if (rows.empty() || (view != FoodView::own && view != FoodView::favourites)) return;
+  program.Guard("#F11-6", [&] {
+    const Text user = program.paths.UserName;
+    for (const std::size_t number : lists.NumbersOf(view, rows)) {
+      RemoveByNumber(program.store, view, number);
+    }
+    if (view == FoodView::own) Save_Custom(program, CustomFile(program.paths, user));
+    Save_Favorites(program, FavoritesFile(program.paths, user));
+    FoodListsView* const window = program.windows.lists;
+    if (window == nullptr) return;
+    window->Populate_Food_List_Custom();
+    window->Populate_Food_List_Favo();
+  });
+}
+
+void ShowDetails(Program& program, const FoodLists& lists, FoodView view, std::size_t row) {
+  if (row >= lists.Count(view)) return;
+  program.windows.core->ShowItem(RowOf(view).tag, Text(lists.LineAt(view, row)));
+}
+
+void AddRowToFavourites(Program& program, const FoodLists& lists, FoodView view, std::size_t row) {
+  if (view != FoodView::standard && view != FoodView::own) return;
+  if (row >= lists.Count(view)) return;
+  // The whole line is the key, so that of two foods of one name the row's own is added.
+  Add_To_Favorites(program, Text(lists.LineAt(view, row)));
+}
+
+void AddNewFood(Program& program, FoodView view) {
+  if (view == FoodView::own || view == FoodView::internet) program.windows.core->OpenNewFood();
+}
+
+FoodMenu FoodMenuFor(const Program& program, FoodView view, std::size_t selected) {
+  if (selected > 1) return {};
+  FoodMenu menu = selected == 0 ? RowOf(view).with_none : RowOf(view).with_one;
+  menu.day_parts = selected == 1 && program.store.DayIsOpen();
+  return menu;
+}
+
+void OpenFoodMenu(Program& program, FoodView view, std::size_t selected, ScreenPlace place) {
+  using namespace lists_text;
+  if (selected > 1) {
+    return Tell(program, BoxIcon::warning,
+                JoinLines(program.texts, {kTooManySelected, kSelectOne}));
+  }
+  program.windows.core->PopUpFoodMenu(FoodMenuFor(program, view, selected), place);
+}
+
+bool MayAddToDay(Program& program, FoodLists& lists, FoodView view,
+                 const std::vector<std::size_t>& rows) {
+  if (!program.store.DayIsOpen() || rows.empty()) return false;
+  return !lists.DragPayload(view, rows).empty();
+}
+
+void AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
+                  const std::vector<std::size_t>& rows, DayPart part) {
+  if (!program.store.DayIsOpen() || rows.empty()) return;
+  const Text payload = lists.DragPayload(view, rows);
+  if (!payload.empty()) DropOnDayPart(program, part, payload);
+}
+
+void ChooseServer(Program& program, std::string_view choice) {
+  program.settings[Setting::opt_server] = choice;
+  Zet_Server_Adressen(program);
+  Save_Settings(program);
+  if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
+}
+
+bool UsesEnglishServer(const Program& program) {
+  return program.settings[Setting::opt_server] == "1";
+}
+
+const Text& ServerText(const Program& program) {
+  using namespace lists_text;
+  return program.texts[UsesEnglishServer(program) ? kEnglishDatabase : kDutchDatabase];
+}
+
+}  // namespace kelvora

@@ -1,0 +1,49 @@
+// The toolbar of the food lists window: one button a view, of which one is down, and the menus
+// that drop down from the own and the internet list. It only tells what was chosen.
+#pragma once
+
+#include <array>
+
+#include <QAction>
+#include <QToolBar>
+
+#include "food/food_lists.h"
+
+class QMenu;
+
+namespace kelvora {
+
+class FoodListsToolbar : public QToolBar {
+  Q_OBJECT
+
+ public:
+  // Without the internet its button is not there.
+  FoodListsToolbar(bool with_internet, QWidget* parent);
+
+  void Set_Taal(const TextTables& texts);
+  // Presses the button of the view; the menu of the own list goes with its view.
+  void Press(FoodView view);
+  // The entry of the food server in use is disabled.
+  void ShowServer(bool english);
+
+ signals:
+  void ViewChosen(kelvora::FoodView view);
+  void NewFoodChosen();
+  void CopyChosen();
+  void ServerChosen(bool english);
+
+ private:
+  QAction* AddEntry(QMenu* menu, const char* key, const char* icon);
+  QMenu* AddMenu(FoodView view);
+  void BuildOwnMenu();
+  void BuildServerMenu();
+
+  std::array<QAction*, kFoodViews.size()> buttons_{};
+  QMenu* own_menu_;
+  QAction* add_;
+  QAction* copy_;
+  QAction* dutch_;
+  QAction* english_;
+};
+
+}  // namespace kelvora

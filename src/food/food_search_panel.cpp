@@ -1,0 +1,99 @@
+#include "food/food_search_panel.h"
+
+#include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "language/lists_texts.h"
+#include "language/own_texts.h"
+#include "platform/qt/look.h"
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+using namespace lists_text;
+
+// The box holds the name of the category most of the time: what is typed takes its place.
+class SearchBox : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    // A window that comes back to the front keeps what was being typed.
+    if (event->reason() != Qt::MouseFocusReason) return;
+    // After the click that brings the focus, which puts the cursor somewhere.
+    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+  }
+};
+
+QVBoxLayout* NewPanelLayout(QWidget* panel) {
+  auto* const layout = new QVBoxLayout(panel);
+  layout->setContentsMargins(8, 6, 8, 6);
+  layout->setSpacing(3);
+  return layout;
+}
+
+// A caption above a box, and the name of the box for assistive tools.
+void SetCaption(QLabel* caption, QWidget* box, const Text& text) {
+  caption->setText(ToQt(text));
+  box->setAccessibleName(ToQt(text));
+}
+
+}  // namespace
+
+FoodSearchPanel::FoodSearchPanel(QWidget* parent) : QWidget(parent) {
+  NameWidget(this, "Pic_zoek");
+  txt_catuitleg_ = NewLabel(this, "txt_catuitleg");
+  combo_cat_ = new QComboBox(this);
+  NameWidget(combo_cat_, "combo_cat");
+  txt_zoekuitleg_ = NewLabel(this, "txt_zoekuitleg");
+  txt_zoekuitleg_->setWordWrap(true);
+  txt_zoeken_ = new SearchBox(this);
+  NameWidget(txt_zoeken_, "txt_zoeken");
+  txt_zoeken_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
+  txt_catuitleg_->setBuddy(combo_cat_);
+  txt_zoekuitleg_->setBuddy(txt_zoeken_);
+  QVBoxLayout* const layout = NewPanelLayout(this);
+  layout->addWidget(txt_catuitleg_);
+  layout->addWidget(combo_cat_);
+  layout->addSpacing(3);
+  layout->addWidget(txt_zoekuitleg_);
+  layout->addWidget(txt_zoeken_);
+}
+
+void FoodSearchPanel::Set_Taal(const TextTables& texts) {
+  SetCaption(txt_catuitleg_, combo_cat_, texts[kSelectCategory]);
+  SetCaption(txt_zoekuitleg_, txt_zoeken_, texts[kSearchHint]);
+  combo_cat_->setToolTip(ToQt(texts[kTipCategory]));
+  txt_zoeken_->setToolTip(ToQt(texts[kTipSearch]));
+}
+
+InternetSearchPanel::InternetSearchPanel(QWidget* parent) : QWidget(parent) {
+  NameWidget(this, "Pic_internet");
+  txt_internetzoektext_ = NewLabel(this, "txt_internetzoektext");
+  txt_internetzoektext_->setWordWrap(true);
+  txt_internet_ = new QLineEdit(this);
+  NameWidget(txt_internet_, "txt_internet");
+  txt_internet_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
+  txt_internet_->setEnabled(false);
+  txt_internetzoektext_->setBuddy(txt_internet_);
+  txt_server_ = NewLabel(this, "txt_server");
+  auto* const line = new QHBoxLayout;
+  line->setSpacing(8);
+  line->addWidget(txt_internet_, 1);
+  line->addWidget(txt_server_);
+  QVBoxLayout* const layout = NewPanelLayout(this);
+  layout->addWidget(txt_internetzoektext_);
+  layout->addLayout(line);
+}
+
+void InternetSearchPanel::Set_Taal(const TextTables& texts) {
+  SetCaption(txt_internetzoektext_, txt_internet_, texts[kInternetSearchHint]);
+  txt_internet_->setToolTip(ToQt(OwnTextOf(texts, OwnText::not_here_yet)));
+}
+
+}  // namespace kelvora

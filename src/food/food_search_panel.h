@@ -1,0 +1,48 @@
+// What stands above a food list: the search of the standard list with its categories, and that of
+// the internet list. They hold the boxes and their captions; the window acts on them.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+#include "language/tables.h"
+
+namespace kelvora {
+
+// Pic_zoek.
+class FoodSearchPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit FoodSearchPanel(QWidget* parent);
+  void Set_Taal(const TextTables& texts);
+
+  [[nodiscard]] QComboBox& Categories() { return *combo_cat_; }
+  [[nodiscard]] QLineEdit& Search() { return *txt_zoeken_; }
+
+ private:
+  QLabel* txt_catuitleg_;
+  QComboBox* combo_cat_;
+  QLabel* txt_zoekuitleg_;
+  QLineEdit* txt_zoeken_;
+};
+
+// Pic_internet. This version has no search on the food server yet: the box says so.
+class InternetSearchPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit InternetSearchPanel(QWidget* parent);
+  void Set_Taal(const TextTables& texts);
+
+  [[nodiscard]] QLabel& Server() { return *txt_server_; }
+
+ private:
+  QLabel* txt_internetzoektext_;
+  QLineEdit* txt_internet_;
+  QLabel* txt_server_;
+};
+
+}  // namespace kelvora
