@@ -14,27 +14,16 @@
 #include "platform/qt/text.h"
 
 namespace kelvora {
+
 FoodTable::FoodTable(const char* object_name, QWidget* parent) : QTableView(parent) {
   NameWidget(this, object_name);
   setModel(&model_);
-  setSelectionBehavior(QAbstractItemView::SelectRows);
-  setSelectionMode(QAbstractItemView::ExtendedSelection);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setAlternatingRowColors(true);
-  setShowGrid(false);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
-  setTabKeyNavigation(false);
+  MakeRowList(this);
   setDragEnabled(true);
   setAcceptDrops(true);
   setDragDropMode(QAbstractItemView::DragDrop);
   setDropIndicatorShown(false);
-  verticalHeader()->hide();
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setMinimumSectionSize(0);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(this, &QAbstractItemView::clicked, this,
           [this](const QModelIndex& index) { emit RowClicked(index.row()); });
 }

@@ -1,7 +1,9 @@
 #include "platform/qt/look.h"
 
 #include <QFont>
+#include <QHeaderView>
 #include <QLabel>
+#include <QTableView>
 #include <QWidget>
 
 #include "platform/qt/text.h"
@@ -33,6 +35,22 @@ QLabel* NewLabel(QWidget* parent, const QString& object_name) {
 
 int RowHeight(const QWidget& widget) {
   return widget.fontMetrics().height() + 6;
+}
+
+void MakeRowList(QTableView* table) {
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setAlternatingRowColors(true);
+  table->setShowGrid(false);
+  table->setWordWrap(false);
+  table->setCornerButtonEnabled(false);
+  table->setTabKeyNavigation(false);
+  table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  table->verticalHeader()->hide();
+  table->verticalHeader()->setDefaultSectionSize(RowHeight(*table));
+  table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table->horizontalHeader()->setHighlightSections(false);
 }
 
 void UseSmallLetters(QWidget* widget) {

@@ -9,6 +9,7 @@
 #include "core/geometry.h"
 
 class QLabel;
+class QTableView;
 class QWidget;
 
 namespace kelvora {
@@ -24,6 +25,10 @@ void NameWidget(QWidget* widget, const char* object_name);
 
 // How high the rows of a list of that widget's letters are.
 [[nodiscard]] int RowHeight(const QWidget& widget);
+
+// Makes a table a list of rows: whole rows, several at once, nothing typed, striped, as high as
+// RowHeight, with a heading that follows no selection.
+void MakeRowList(QTableView* table);
 
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
