@@ -53,7 +53,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_in_middag, Needs::day},
     CommandRow{Command::mnu_in_avond, Needs::day},
     NotServed(Command::mnu_in_notities, Needs::day),
-    NotServed(Command::mnu_item_info, Needs::user),
+    CommandRow{Command::mnu_item_info, Needs::user},
     NotServed(Command::mnu_item_voegtoe, Needs::user),
     CommandRow{Command::mnu_item_del, Needs::user},
     CommandRow{Command::mnu_item_favo, Needs::user},

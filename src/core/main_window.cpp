@@ -15,6 +15,7 @@
 #include "days/popup.h"
 #include "food/consumption_window.h"
 #include "food/day_part_menu_panel.h"
+#include "food/food_details_dialog.h"
 #include "food/food_lists_window.h"
 #include "language/main_texts.h"
 #include "platform/qt/look.h"
@@ -343,8 +344,11 @@ void MainWindow::OpenSettings() {
   if (program_.windows.properties == nullptr) ShowSettingsDialog(program_, this);
 }
 
-// The two places of the food dialogs, which this version does not have; their commands say so.
-void MainWindow::ShowItem(std::string_view, std::string_view) {}
+void MainWindow::ShowItem(std::string_view tag, std::string_view line) {
+  if (program_.windows.food_details == nullptr) ShowFoodDetailsDialog(program_, tag, line, this);
+}
+
+// The place of the dialog for a new food, which this version does not have; its commands say so.
 void MainWindow::OpenNewFood() {}
 
 void MainWindow::ShowSplash() {

@@ -69,12 +69,12 @@ TEST_F(FoodListsWindowTest, DeleteTakesTheSelectedRowsOfTheOwnListAndCountsAnew)
 
 TEST_F(FoodListsWindowTest, TheFoodMenuFollowsTheTableWhileItIsUp) {
   Open();
-  EXPECT_EQ(Enabled(), "1001");
+  EXPECT_EQ(Enabled(), "1011");
   Press(2);
   RightClick(List(2), 0);
   EXPECT_TRUE(FoodMenuWidget()->isVisible());
-  // Details and new foods are not served yet.
-  EXPECT_EQ(Enabled(), "1001");
+  // New foods are not served yet.
+  EXPECT_EQ(Enabled(), "1011");
   EXPECT_TRUE(Action("mnu_opties_morning")->isVisible());
   FoodMenuWidget()->close();
   QApplication::processEvents();
@@ -82,10 +82,10 @@ TEST_F(FoodListsWindowTest, TheFoodMenuFollowsTheTableWhileItIsUp) {
   EXPECT_EQ(program.windows.food_menu, std::nullopt);
   Press(1);
   RightClick(List(1), 0);
-  EXPECT_EQ(Enabled(), "0001");
+  EXPECT_EQ(Enabled(), "0011");
   FoodMenuWidget()->close();
   QApplication::processEvents();
-  EXPECT_EQ(Enabled(), "1001");
+  EXPECT_EQ(Enabled(), "1011");
 }
 
 TEST_F(FoodListsWindowTest, TheOptionsButtonActsForThePressedView) {

@@ -25,6 +25,7 @@
 #include "days/popup_window.h"
 #include "days/settings_dialog.h"
 #include "days/wizard_dialog.h"
+#include "food/food_details_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "language/own_texts.h"
@@ -79,6 +80,10 @@ bool IsUnitOfATotal(const Shown& shown) {
   static const std::set<QString> kUnits = {QStringLiteral("KjKcal"), QStringLiteral("g")};
   return shown.where.startsWith(QStringLiteral("lbl_nfo_")) &&
          kUnits.contains(Foreign(shown.text, kSquare));
+}
+bool IsShareOfABar(const Shown& shown) {
+  return shown.where.startsWith(QStringLiteral("pBar_")) &&
+         Foreign(shown.text, kSquare) == QStringLiteral("[%]");
 }
 bool IsNameOfTheProgram(const Shown& shown) {
   return shown.text.startsWith(QStringLiteral("Kelvora FOOD"));
@@ -142,7 +147,7 @@ std::vector<Shown> AllTexts(const QWidget& root) {
 std::size_t ExpectFromTables(const QWidget& root, const char* token) {
   const auto shown = AllTexts(root);
   for (const Shown& one : shown) {
-    if (IsUnitOfATotal(one) || IsNameOfTheProgram(one)) continue;
+    if (IsUnitOfATotal(one) || IsShareOfABar(one) || IsNameOfTheProgram(one)) continue;
     EXPECT_EQ(Foreign(one.text, token).toStdString(), "")
         << one.where.toStdString() << ": " << one.text.toStdString();
   }
@@ -218,6 +223,8 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(settings, kSquare), 60u);
   const WizardDialog wizard(program, nullptr);
   EXPECT_GT(ExpectFromTables(wizard, kSquare), 20u);
+  const FoodDetailsDialog details(program, "zoeken", program.store.Default_list[0], nullptr);
+  EXPECT_GT(ExpectFromTables(details, kSquare), 60u);
   const PopupWindow about(program, kAboutMode, nullptr);
   EXPECT_GT(ExpectFromTables(about, kSquare), 8u);
 }

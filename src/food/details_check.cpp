@@ -1,0 +1,51 @@
+#include "food/details_check.h"
+
+#include <algorithm>
+#include <span>
+
+#include "core/program.h"
+#include "food/food_values.h"
+#include "language/food_details_texts.h"
+
+namespace kelvora {
+namespace {
+
+using namespace food_details_text;
+
+// The boxes joined by "-": what the tests of the whole food look at.
+Text TestTextOf(const PortionBoxes& bVar) {
+  Text joined = bVar.front();
+  for (const Text& box : std::span(bVar).subspan(1)) (joined += '-') += box;
+  return joined;
+}
+
+}  // namespace
+
+std::optional<DetailsError> CheckDetails(const PortionBoxes& bVar, const ValueBoxes& oVar) {
+  const auto required = std::span(bVar).first(PortionBox::kGram + 1);
+  if (std::ranges::any_of(required, &IsIncompleteNumber)) return DetailsError::fields_missing;
+  if (HoldsDecimalMark(bVar[PortionBox::kGram])) return DetailsError::weight_not_whole;
+  if (std::ranges::any_of(oVar, &IsIncompleteNumber)) return DetailsError::values_missing;
+  const Text test_text = TestTextOf(bVar);
+  if (HoldsTerminator(test_text)) return DetailsError::illegal_characters;
+  if (test_text.size() > kMaxFoodLength) return DetailsError::too_much_data;
+  return std::nullopt;
+}
+
+Text TextOf(const TextTables& texts, DetailsError error) {
+  switch (error) {
+    case DetailsError::fields_missing:
+      return JoinLines(texts, {kFieldsMissing, kFillInFields});
+    case DetailsError::weight_not_whole:
+      return JoinLines(texts, {kWeightNotWhole, kChangeWeight});
+    case DetailsError::values_missing:
+      return JoinLines(texts, {kValuesMissing, kFillInValues, std::nullopt, kFillInZero});
+    case DetailsError::illegal_characters:
+      return JoinLines(texts, {kIllegalCharacters, kHalfNotAllowed, kRemoveCharacters});
+    case DetailsError::too_much_data:
+      return JoinLines(texts, {kTooMuchData, kShortenDescription, kTooMuchDataRemove});
+  }
+  return {};
+}
+
+}  // namespace kelvora

@@ -1,0 +1,27 @@
+// What the boxes of a food must hold before an edit of it ends: the tests in their order, and what
+// each tells the user. Pure; showing the box is the caller's.
+#pragma once
+
+#include <optional>
+
+#include "food/details_values.h"
+#include "language/tables.h"
+
+namespace kelvora {
+
+enum class DetailsError {
+  fields_missing,
+  weight_not_whole,
+  values_missing,
+  illegal_characters,
+  too_much_data,
+};
+
+// The first test that the boxes fail.
+[[nodiscard]] std::optional<DetailsError> CheckDetails(const PortionBoxes& bVar,
+                                                       const ValueBoxes& oVar);
+
+// The lines of the box for an error.
+[[nodiscard]] Text TextOf(const TextTables& texts, DetailsError error);
+
+}  // namespace kelvora
