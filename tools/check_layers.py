@@ -20,7 +20,7 @@ WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 TOP_OF_DAYS = {"wizard", "wizard_dialog"}
 TOP_OF_CORE = {"startup", "load_settings", "commands", "command_tables", "outside_commands", "main_window",
                "child_area_panel"}
-BOTTOM_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry"}
+BOTTOM_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry", "key_filter"}
 RANK_OF_FOLDER = {
     "platform": 1, "core": 2, "nutrition": 3, "storage": 3,
     "food": 4, "days": 4, "analysis": 4, "output": 4, "language": 4, "internet": 4,

@@ -54,7 +54,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_in_avond, Needs::day},
     NotServed(Command::mnu_in_notities, Needs::day),
     CommandRow{Command::mnu_item_info, Needs::user},
-    NotServed(Command::mnu_item_voegtoe, Needs::user),
+    CommandRow{Command::mnu_item_voegtoe, Needs::user},
     CommandRow{Command::mnu_item_del, Needs::user},
     CommandRow{Command::mnu_item_favo, Needs::user},
     NotServed(Command::mnu_uit_daguittreksel, Needs::day),
@@ -135,12 +135,6 @@ bool FoodMenuAllows(const Program& program, Command command) {
 // Lets the food lists act on the row in focus; without that window there is none.
 void GiveToFoodLists(Program& program, void (FoodListsView::*operation)()) {
   if (program.windows.lists != nullptr) (program.windows.lists->*operation)();
-}
-
-// Without the food lists there is no view whose button could stand against it.
-void AddNewFoodItem(Program& program) {
-  if (program.windows.lists == nullptr) return program.windows.core->OpenNewFood();
-  program.windows.lists->CORE_New_Item();
 }
 
 // The dialog in its mode for the open day; a day file with an empty header has nothing to change.
@@ -228,7 +222,7 @@ void RunCommand(Program& program, Command command) {
     case Command::mnu_item_info:
       return GiveToFoodLists(program, &FoodListsView::CORE_show_info_mnu);
     case Command::mnu_item_voegtoe:
-      return AddNewFoodItem(program);
+      return program.windows.core->OpenNewFood();
     case Command::mnu_item_del:
       return GiveToFoodLists(program, &FoodListsView::CORE_Del_Item);
     case Command::mnu_item_favo:

@@ -17,6 +17,7 @@
 #include "food/day_part_menu_panel.h"
 #include "food/food_details_dialog.h"
 #include "food/food_lists_window.h"
+#include "food/new_food_dialog.h"
 #include "language/main_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -348,8 +349,9 @@ void MainWindow::ShowItem(std::string_view tag, std::string_view line) {
   if (program_.windows.food_details == nullptr) ShowFoodDetailsDialog(program_, tag, line, this);
 }
 
-// The place of the dialog for a new food, which this version does not have; its commands say so.
-void MainWindow::OpenNewFood() {}
+void MainWindow::OpenNewFood() {
+  if (program_.windows.new_food == nullptr) ShowNewFoodDialog(program_, this);
+}
 
 void MainWindow::ShowSplash() {
   ShowPopup(program_, kSplashMode, this);

@@ -35,6 +35,8 @@ struct DayState {
   kelvora::DayDialogMode DayDialogMode = kelvora::DayDialogMode::new_day;
   // The Product of the row last clicked or changed in each consumption window.
   std::array<Text, 3> selected_names;
+  // The Product of the row last clicked in the food lists, or of the food last added to them.
+  Text last_clicked_food;
   // Routing code of the consumption window in which the running drag began.
   Text drag_source;
 };

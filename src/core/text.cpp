@@ -1,5 +1,7 @@
 #include "core/text.h"
 
+#include <algorithm>
+
 namespace kelvora {
 namespace {
 
@@ -52,6 +54,11 @@ Text ReplaceAll(std::string_view text, std::string_view what, std::string_view w
     from = at + what.size();
   }
   return result.append(text.substr(from));
+}
+
+std::string_view Trimmed(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 }  // namespace kelvora

@@ -117,4 +117,7 @@ template <TextLiteral Literal>
   return {Literal.bytes, Literal.size};
 }
 
+// `text` without the blanks around it.
+[[nodiscard]] std::string_view Trimmed(std::string_view text);
+
 }  // namespace kelvora

@@ -152,6 +152,7 @@ struct OpenWindows {
   WizardView* wizard = nullptr;
   WindowView* properties = nullptr;  // the settings dialog
   WindowView* export_html = nullptr;
+  WindowView* new_food = nullptr;  // the dialog for a new food
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
   std::array<bool, 3> totals_shown{};

@@ -39,10 +39,6 @@ constexpr std::array<DayField, kDayFieldCount> kFields = {{
     {"pg_14", &DayForm::pg_14, 500, KeyFilter::none, kRemarks},
 }};
 
-bool IsMark(char c) {
-  return c == ',' || c == '.';
-}
-
 // A box knows one kind of line break; files may hold others.
 Text WithPlainLineBreaks(std::string_view text) {
   return ReplaceAll(ReplaceAll(text, "\r\n", "\n"), "\r", "\n");
@@ -73,37 +69,6 @@ std::span<const DayField, kDayFieldCount> DayFields() {
 
 const DayField& FieldOfId(DayFieldId id) {
   return kFields[static_cast<std::size_t>(id)];
-}
-
-bool AcceptsWholeNumberKey(char key) {
-  return key >= '0' && key <= '9';
-}
-
-Text FilterWholeNumber(std::string_view typed) {
-  Text kept;
-  std::ranges::copy_if(typed, std::back_inserter(kept), &AcceptsWholeNumberKey);
-  return kept;
-}
-
-Text FilterDecimal(std::string_view typed, std::string_view separator) {
-  Text kept;
-  for (const char key : typed) {
-    if (AcceptsWholeNumberKey(key)) kept += key;
-    if (IsMark(key)) kept += separator;
-  }
-  return kept;
-}
-
-Text ApplyKeyFilter(KeyFilter filter, std::string_view typed, std::string_view separator) {
-  switch (filter) {
-    case KeyFilter::none:
-      break;
-    case KeyFilter::whole_number:
-      return FilterWholeNumber(typed);
-    case KeyFilter::decimal:
-      return FilterDecimal(typed, separator);
-  }
-  return Text(typed);
 }
 
 HeldText HoldToField(const DayField& field, std::string_view before_cursor,

@@ -8,6 +8,7 @@
 #include <span>
 #include <string_view>
 
+#include "core/key_filter.h"
 #include "core/program.h"
 
 namespace kelvora {
@@ -35,9 +36,6 @@ struct DayForm {
 // The unit system of the settings. Both imperial ones are typed in pounds, feet and inches.
 enum class UnitSystem { metric, imperial_us, imperial_uk };
 [[nodiscard]] UnitSystem UnitSystemOf(const Program& program);
-
-// What the keyboard may put into a text box.
-enum class KeyFilter { none, whole_number, decimal };
 
 // One text box: the part of the form that it shows and how much it takes.
 struct DayField {
@@ -74,17 +72,6 @@ inline constexpr std::size_t kDayFieldCount = 19;
 // The text boxes, in the order of DayFieldId.
 [[nodiscard]] std::span<const DayField, kDayFieldCount> DayFields();
 [[nodiscard]] const DayField& FieldOfId(DayFieldId id);
-
-// Whole numbers take digits and nothing else.
-[[nodiscard]] bool AcceptsWholeNumberKey(char key);
-[[nodiscard]] Text FilterWholeNumber(std::string_view typed);
-
-// Decimals take digits and the decimal separator, which "." and "," both become.
-[[nodiscard]] Text FilterDecimal(std::string_view typed, std::string_view separator);
-
-// What a box makes of a text that was typed or pasted into it.
-[[nodiscard]] Text ApplyKeyFilter(KeyFilter filter, std::string_view typed,
-                                  std::string_view separator);
 
 // A box's text as it may stand, and the place of the cursor in it.
 struct HeldText {

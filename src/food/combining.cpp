@@ -22,12 +22,6 @@ constexpr std::array<std::size_t, 8> kAmountOrder = {7, 0, 1, 4, 2, 3, 5, 6};
 
 using FoodFields = std::array<Text, FoodField::kRemark + 1>;
 
-Text Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == text.npos) return {};
-  return Text(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
 Text IngredientsOf(const std::vector<ConsumptionRow>& rows) {
   Text list;
   for (const ConsumptionRow& row : rows) {

@@ -31,7 +31,8 @@ struct ColumnOrder {
 
 class FoodLists {
  public:
-  explicit FoodLists(Program& program) : program_(program) {}
+  explicit FoodLists(Program& program)
+      : last_clicked(program.day.last_clicked_food), program_(program) {}
 
   // The lines that a view shows; of `temp_zoeken` for the standard list.
   [[nodiscard]] std::size_t Count(FoodView view) const { return SourceOf(view).Count(); }
@@ -91,7 +92,7 @@ class FoodLists {
   [[nodiscard]] Text DragPayload(FoodView view, const std::vector<std::size_t>& rows);
 
   // The Product of the row last clicked; all views share it.
-  Text last_clicked;
+  Text& last_clicked;
 
  private:
   // How the rows of a view stand, and what its headings were clicked for last.

@@ -4,7 +4,8 @@
 
 #include <QLineEdit>
 
-#include "days/day_settings.h"
+#include "core/key_filter.h"
+#include "platform/locale.h"
 
 namespace kelvora {
 

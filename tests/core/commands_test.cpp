@@ -202,6 +202,15 @@ TEST(Commands, TheProfileCommandWarnsAboutADayWithAnEmptyHeader) {
             "There is no file opened yet.\nMake a new file or open an existing file.");
 }
 
+TEST(Commands, ANewFoodNeedsAUserButNoDay) {
+  TestProgram test;
+  RunCommand(test.program, Command::mnu_item_voegtoe);
+  EXPECT_EQ(test.core.new_foods_opened, 0);
+  test.program.paths.UserName = "Anna";
+  RunCommand(test.program, Command::mnu_item_voegtoe);
+  EXPECT_EQ(test.core.new_foods_opened, 1);
+}
+
 TEST(Commands, ThePrintButtonItselfPointsToItsMenu) {
   TestProgram test;
   test.OpenDay("Anna");

@@ -47,5 +47,13 @@ TEST(Text, ReplaceAllReplacesEachFromTheLeft) {
   EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
 }
 
+TEST(Trimmed, TakesTheBlanksAroundATextOnly) {
+  EXPECT_EQ(Trimmed("  a b  "), "a b");
+  EXPECT_EQ(Trimmed("a"), "a");
+  EXPECT_EQ(Trimmed("   "), "");
+  EXPECT_EQ(Trimmed(""), "");
+  EXPECT_EQ(Trimmed("\ta\n"), "\ta\n");
+}
+
 }  // namespace
 }  // namespace kelvora

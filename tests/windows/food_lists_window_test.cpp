@@ -153,14 +153,14 @@ TEST_F(FoodListsWindowTest, NumbersStandOnTheRightAndTheNumberOfTheLineIsHidden)
   EXPECT_EQ(List(1)->columnWidth(3), 66);
 }
 
-TEST_F(FoodListsWindowTest, AMillionSelectedRowsAreCountedAtOnce) {
-  for (int i = 0; i < 1'000'000; ++i) store.Custom_list.Add("x\xBD");
+TEST_F(FoodListsWindowTest, ManySelectedRowsAreCountedAtOnce) {
+  for (int i = 0; i < 200'000; ++i) store.Custom_list.Add("x\xBD");
   Open();
   Press(2);
   QTest::keyClick(List(2), Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(List(2)->SelectedRows().size(), 1'000'003u);
+  EXPECT_EQ(List(2)->SelectedRows().size(), 200'003u);
   ClickHeading(List(2), 1);
-  EXPECT_EQ(List(2)->SelectedRows().size(), 1'000'003u);
+  EXPECT_EQ(List(2)->SelectedRows().size(), 200'003u);
 }
 
 }  // namespace

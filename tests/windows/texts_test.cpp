@@ -26,6 +26,7 @@
 #include "days/settings_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/new_food_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "language/own_texts.h"
@@ -227,6 +228,8 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(details, kSquare), 60u);
   const PopupWindow about(program, kAboutMode, nullptr);
   EXPECT_GT(ExpectFromTables(about, kSquare), 8u);
+  const NewFoodDialog new_food(program, nullptr);
+  EXPECT_GT(ExpectFromTables(new_food, kSquare), 80u);
 }
 
 TEST_F(WindowTexts, TheSplashShowsNothingOfItsOwnWhileItRuns) {
