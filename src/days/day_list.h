@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/program.h"
 #include "core/column_sort.h"
 #include "core/exchange_sort.h"
+#include "core/program.h"
 
 namespace kelvora {
 
