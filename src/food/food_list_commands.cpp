@@ -1,6 +1,7 @@
 #include "food/food_list_commands.h"
 
 #include <array>
+#include <unordered_set>
 
 #include "food/consumption.h"
 #include "food/drag_text.h"
@@ -52,10 +53,22 @@ void RemoveFromDay(Program& program, std::string_view keys) {
   Refresh_Totalen(program);
 }
 
+// The names of all foods that can become favourites; views into the lists.
+std::unordered_set<std::string_view> NamesOfFoods(const KV_data& store) {
+  std::unordered_set<std::string_view> names;
+  for (const TextList* const list : {&store.Default_list, &store.Custom_list}) {
+    for (const std::string_view line : *list) names.insert(line.substr(0, line.find(kFieldEnd)));
+  }
+  return names;
+}
+
 void AddKeysToFavourites(Program& program, std::string_view keys) {
   if (keys.size() <= kShortestKeys) return;
+  // A text from elsewhere may hold any number of keys that no food has; those cost no search.
+  const auto names = NamesOfFoods(program.store);
   for (const std::string_view key : PartsOf(keys)) {
-    if (IsKey(key)) Add_To_Favorites(program, key);
+    if (!IsKey(key) || !names.contains(key.substr(0, key.find(kFieldEnd)))) continue;
+    Add_To_Favorites(program, key);
   }
 }
 
