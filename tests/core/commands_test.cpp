@@ -221,26 +221,6 @@ TEST(Commands, ThePrintButtonItselfPointsToItsMenu) {
             "Select a print option with the 'pull down' menu.\nSeveral options are available.");
 }
 
-TEST(Commands, DropDownMenusHaveTheirEntriesInOrder) {
-  TestProgram test;
-  const auto captions = [&](Command drop_down) {
-    std::vector<Text> found;
-    for (const DropDownRow& row : RowsOfDropDown(drop_down)) {
-      found.push_back(test.program.texts[row.caption]);
-    }
-    return found;
-  };
-  EXPECT_EQ(captions(Command::print_drop_down),
-            (std::vector<Text>{"Print summary of this day", "Print travel form"}));
-  std::vector<Command> toggles;
-  for (const DropDownRow& row : RowsOfDropDown(Command::consumptions_drop_down)) {
-    toggles.push_back(row.command);
-  }
-  EXPECT_EQ(toggles, (std::vector<Command>{Command::mnu_in_ochtend, Command::mnu_in_middag,
-                                           Command::mnu_in_avond}));
-  EXPECT_TRUE(RowsOfDropDown(Command::mnu_new).empty());
-}
-
 TEST(Commands, TheFoodServerIsCalledByTheNameOfTheChosenService) {
   TestProgram test;
   const auto row = std::ranges::find(MainMenu(), "mnu_website_Etenlijn", &MenuRow::name);
@@ -326,72 +306,6 @@ TEST(Commands, EndingAsksOnlyAboutUnsavedChangesAndNoCancels) {
             "The current file has not been saved yet.\n"
             "Are you sure that you want to exit Kelvora FOOD?");
   EXPECT_EQ(test.boxes.shown[0].buttons, BoxButtons::yes_no);
-}
-
-TEST(Commands, TheMenuHasItsItemsAndSeparatorsInOrder) {
-  const std::vector<std::string_view> expected = {"mnu_bestand",
-                                                  "mnu_startupwizzard",
-                                                  "mnu_bar_10",
-                                                  "mnu_new",
-                                                  "mnu_browse",
-                                                  "mnu_bestand_opslaan",
-                                                  "mnu_bar_11",
-                                                  "mnu_exporteer",
-                                                  "mnu_exporteer_html",
-                                                  "mnu_exporteer_xml",
-                                                  "mnu_exporteer_dta",
-                                                  "mnu_bar_12",
-                                                  "mnu_properties",
-                                                  "mnu_file_properties",
-                                                  "mnu_bar_13",
-                                                  "mnu_printen",
-                                                  "mnu_print_dag",
-                                                  "mnu_print_reis",
-                                                  "mnu_bestand_sluiten",
-                                                  "mnu_consumpties",
-                                                  "mnu_in_ochtend",
-                                                  "mnu_in_middag",
-                                                  "mnu_in_avond",
-                                                  "mnu_bar_20",
-                                                  "mnu_in_notities",
-                                                  "mnu_opties",
-                                                  "mnu_item_info",
-                                                  "mnu_item_voegtoe",
-                                                  "mnu_item_del",
-                                                  "mnu_bar_30",
-                                                  "mnu_item_favo",
-                                                  "mnu_resultaten",
-                                                  "mnu_uit_daguittreksel",
-                                                  "mnu_uit_meerdaagsuittreksel",
-                                                  "mnu_tabellen",
-                                                  "mnu_voedingswaarde_tabel",
-                                                  "mnu_extra",
-                                                  "mnu_weegschaal",
-                                                  "mnu_website_Etenlijn",
-                                                  "mnu_bar_60",
-                                                  "mnu_reset_taal",
-                                                  "mnu_bar_61",
-                                                  "mnu_diagnose",
-                                                  "mnu_informatie",
-                                                  "mnu_help_index",
-                                                  "mnu_about",
-                                                  "mnu_bar_70",
-                                                  "mnu_website",
-                                                  "mnu_check_updates"};
-  std::vector<std::string_view> names;
-  for (const MenuRow& row : MainMenu()) {
-    if (row.kind != MenuKind::end_of_menu) names.push_back(row.name);
-  }
-  EXPECT_EQ(names, expected);
-}
-
-TEST(Commands, TheToolbarsHaveTheirButtonsByIndex) {
-  std::vector<int> indexes;
-  for (const ButtonRow& row : MenuToolbar()) indexes.push_back(row.index);
-  EXPECT_EQ(indexes, (std::vector<int>{2, 3, 4, 5, 7, 8, 10, 11, 13, 14, 15, 16, 18, 19, 20, 22}));
-  indexes.clear();
-  for (const ButtonRow& row : QuickToolbar()) indexes.push_back(row.index);
-  EXPECT_EQ(indexes, (std::vector<int>{2, 3, 5}));
 }
 
 TEST(Commands, StatusBarTellsVersionAndUser) {
