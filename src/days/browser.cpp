@@ -1,5 +1,6 @@
 #include "days/browser.h"
 
+#include "days/day_form.h"
 #include "days/open_day.h"
 #include "days/user_list.h"
 #include "language/browse_texts.h"
@@ -18,16 +19,15 @@ using namespace browse_text;
 // A weight of the profile with its unit; empty if there is none.
 Text WeightWithUnit(Program& program, const Text& kilograms) {
   if (kilograms.empty()) return {};
-  const Text& system = program.settings[Setting::opt_system];
-  const TextId unit = system == "1" ? kUnitPounds : system == "2" ? kUnitStones : kUnitKilogram;
+  constexpr std::array kUnits = {kUnitKilogram, kUnitPounds, kUnitStones};  // as UnitSystem
+  const TextId unit = kUnits[static_cast<std::size_t>(UnitSystemOf(program))];
   return BrowsedWeight(program, kilograms) + " " + program.texts[unit];
 }
 
 Text HeightWithUnit(Program& program, Text metres) {
   if (metres.empty()) return {};
   const UnitContext units = UnitsOf(program);
-  const Text& system = program.settings[Setting::opt_system];
-  if (system == "1" || system == "2") {
+  if (UnitSystemOf(program) != UnitSystem::metric) {
     const Text feet = Meter_To_Feet_Inch(metres, HeightPart::feet, units);
     return feet + "'" + Meter_To_Feet_Inch(metres, HeightPart::inches, units) + "''";
   }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/common.h"
+#include "days/day_form.h"
 #include "language/browse_texts.h"
 #include "nutrition/numbers.h"
 #include "nutrition/totals.h"
@@ -104,10 +105,11 @@ std::array<Text, BrowseColumn::kCount> BrowseHeadings(const Program& program) {
 Text BrowsedWeight(Program& program, Text kilograms) {
   const UnitContext units = UnitsOf(program);
   const Text separator = units.locale.DecimalSeparator();
-  const Text& system = program.settings[Setting::opt_system];
-  if (system == "1") kilograms = Kg_To_Lbs(kilograms, units);
-  if (system == "2") kilograms = Kg_To_Stones(kilograms, units);
-  return FormatNumber(ReadStoredNumber(kilograms), system == "2" ? "#0.0" : "#0.00", separator);
+  const UnitSystem system = UnitSystemOf(program);
+  if (system == UnitSystem::imperial_us) kilograms = Kg_To_Lbs(kilograms, units);
+  if (system == UnitSystem::imperial_uk) kilograms = Kg_To_Stones(kilograms, units);
+  return FormatNumber(ReadStoredNumber(kilograms),
+                      system == UnitSystem::imperial_uk ? "#0.0" : "#0.00", separator);
 }
 
 Text DateKeyOf(std::string_view stored_date) {

@@ -25,11 +25,6 @@ using namespace day_settings_text;
 constexpr int kSliderWidth = 160;
 constexpr int kBoxDigits = 7;
 
-// A caption in which "&" is a letter.
-QString Caption(const Text& text) {
-  return ToQt(text).replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
 }  // namespace
 
 DayTargetsPanel::DayTargetsPanel(Program& program, DayEditing& editing, QWidget* parent)
@@ -126,14 +121,14 @@ void DayTargetsPanel::AddSliderRow(QGroupBox* group, Target target) {
 
 void DayTargetsPanel::Set_Taal() {
   const TextTables& texts = program_.texts;
-  priority_->setTitle(Caption(texts[kPriority]));
+  priority_->setTitle(CaptionFrom(texts[kPriority]));
   priority_->setToolTip(ToQt(texts[kTipPriority]));
   for (QAbstractButton* const option : type_prioriteit_->buttons()) {
     const auto index = static_cast<std::size_t>(type_prioriteit_->id(option));
-    option->setText(Caption(texts[PriorityOptions()[index]]));
+    option->setText(CaptionFrom(texts[PriorityOptions()[index]]));
     option->setAccessibleName(ToQt(texts[PriorityOptions()[index]]));
   }
-  targets_->setTitle(Caption(texts[kTargets]));
+  targets_->setTitle(CaptionFrom(texts[kTargets]));
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const TargetSlider& row = TargetSliders()[i];
     const QString caption = ToQt(texts[row.caption]);
@@ -155,7 +150,7 @@ void DayTargetsPanel::Set_Taal() {
   Combo_default_->clear();
   for (const AgeGroup& group : AgeGroups()) Combo_default_->addItem(ToQt(texts[group.caption]));
   Combo_default_->setCurrentIndex(chosen);
-  chk_apply_->setText(Caption(texts[kApplyAutomatically]));
+  chk_apply_->setText(CaptionFrom(texts[kApplyAutomatically]));
   chk_apply_->setAccessibleName(ToQt(texts[kApplyAutomatically]));
   chk_apply_->setToolTip(ToQt(texts[kTipApply]));
 }

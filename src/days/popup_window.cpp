@@ -195,7 +195,7 @@ void PopupWindow::Set_Taal() {
   lbl_nfo_1_->setText(ToQt(lines.lbl_nfo_1));
   lbl_txt6_->setText(ToQt(texts[kInternet]));
   lbl_nfo_4_->setText(ToQt(lines.lbl_nfo_4));
-  cmd_annuleer_->setText(ToQt(texts[kClose]).replace(QLatin1Char('&'), QStringLiteral("&&")));
+  cmd_annuleer_->setText(CaptionFrom(texts[kClose]));
   cmd_annuleer_->setAccessibleName(ToQt(texts[kClose]));
 }
 

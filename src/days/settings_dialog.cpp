@@ -272,8 +272,7 @@ void SettingsDialog::Set_Taal() {
     QString shown = text;
     if (qobject_cast<QAbstractButton*>(caption.widget) != nullptr ||
         qobject_cast<QGroupBox*>(caption.widget) != nullptr) {
-      // "&" is a letter of our texts, not the mark of a shortcut.
-      shown.replace('&', QStringLiteral("&&"));
+      shown = CaptionFrom(texts[caption.text]);
       caption.widget->setAccessibleName(text);
     }
     caption.widget->setProperty(caption.property, shown);

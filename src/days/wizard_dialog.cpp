@@ -18,11 +18,6 @@ constexpr int kHeadingIconSize = 48;
 constexpr int kOptionIconSize = 32;
 constexpr int kWelcomeWidth = 380;
 
-// A caption in which "&" is a letter.
-QString Caption(const Text& text) {
-  return ToQt(text).replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
 QLabel* NewPicture(QWidget* parent, const QString& name, std::string_view icon, int size,
                    bool enabled) {
   QLabel* const picture = NewLabel(parent, name);
@@ -117,19 +112,19 @@ void WizardDialog::Set_Taal() {
   const TextTables& texts = program_.texts;
   setWindowTitle(ToQt(texts[kTitle]));
   lbl_welcome_->setText(ToQt(texts[kWelcome]));
-  choice_->setTitle(Caption(texts[kMakeChoice]));
+  choice_->setTitle(CaptionFrom(texts[kMakeChoice]));
   for (const WizardRow& row : WizardRows()) {
     QAbstractButton* const option = options_->button(static_cast<int>(row.option));
-    option->setText(Caption(texts[row.caption]));
+    option->setText(CaptionFrom(texts[row.caption]));
     option->setToolTip(ToQt(texts[row.tip]));
     option->setAccessibleName(ToQt(texts[row.caption]));
     option->setAccessibleDescription(ToQt(texts[row.explanation]));
     lines_[static_cast<std::size_t>(row.option)]->setText(ToQt(texts[row.explanation]));
   }
-  chk_wiz_->setText(Caption(texts[kShowWizard]));
-  cmd_opslaan_->setText(Caption(texts[kOk]));
+  chk_wiz_->setText(CaptionFrom(texts[kShowWizard]));
+  cmd_opslaan_->setText(CaptionFrom(texts[kOk]));
   cmd_opslaan_->setToolTip(ToQt(texts[kTipOk]));
-  cmd_annuleer_->setText(Caption(texts[kClose]));
+  cmd_annuleer_->setText(CaptionFrom(texts[kClose]));
   cmd_annuleer_->setToolTip(ToQt(texts[kTipClose]));
   for (QAbstractButton* const button :
        std::initializer_list<QAbstractButton*>{chk_wiz_, cmd_opslaan_, cmd_annuleer_}) {

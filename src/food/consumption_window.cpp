@@ -23,8 +23,7 @@ namespace ct = consumption_text;
 constexpr int kShownColumn = 1;  // the first one that is not hidden
 constexpr int kToolIconSize = 16;
 constexpr int kBarHeight = 24;
-constexpr int kRowMargin = 6;         // of the letters' height, as in all lists of foods
-constexpr int kLowRowMargin = 2;      // while both panels take their room
+constexpr int kLowRowMargin = 2;      // of a row's letters, while both panels take their room
 constexpr int kLeastListHeight = 38;  // the headings and one row
 constexpr int kPanelMargin = 2;       // above and below the letters of the status bar
 
@@ -239,19 +238,8 @@ void ConsumptionWindow::Refresh_Consumpties() {
 }
 
 void ConsumptionWindow::SelectRows(const std::vector<std::size_t>& rows) {
-  QItemSelection selection;
-  const TextTableModel& model = LV_consumpties_->Model();
-  for (const std::size_t row : rows) {
-    const QModelIndex index = model.index(static_cast<int>(row), kShownColumn);
-    selection.select(index, index);
-  }
-  QItemSelectionModel& selected = *LV_consumpties_->selectionModel();
-  selected.select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  if (rows.empty()) return;
-  const QModelIndex first = model.index(static_cast<int>(rows.front()), kShownColumn);
-  selected.setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-  LV_consumpties_->scrollTo(model.index(static_cast<int>(rows.back()), kShownColumn));
-  LV_consumpties_->scrollTo(first);
+  if (rows.empty()) return LV_consumpties_->clearSelection();
+  LV_consumpties_->SelectRows(rows, rows.front());
 }
 
 void ConsumptionWindow::SelectLastRow() {
@@ -275,8 +263,8 @@ void ConsumptionWindow::ShowPanels(ShownPanels panels) {
   Info_bar_->setVisible(panels.ToonInfo);
   Pic_SP_->setVisible(panels.ToonCombineer);
   LV_consumpties_->verticalHeader()->setDefaultSectionSize(
-      LV_consumpties_->fontMetrics().height() +
-      (panels.ToonCombineer ? kLowRowMargin : kRowMargin));
+      panels.ToonCombineer ? LV_consumpties_->fontMetrics().height() + kLowRowMargin
+                           : RowHeight(*LV_consumpties_));
   layout()->activate();
   KeepSelectedRowInView();
 }
@@ -338,11 +326,8 @@ TextList ConsumptionWindow::SelectedNames() const {
 }
 
 std::optional<Text> ConsumptionWindow::CurrentName() const {
-  const auto rows = LV_consumpties_->SelectedRows();
-  if (rows.empty()) return std::nullopt;
-  const auto current = static_cast<std::size_t>(LV_consumpties_->currentIndex().row());
-  const bool current_is_selected = std::ranges::find(rows, current) != rows.end();
-  return (*rows_)[current_is_selected ? current : rows.front()].product;
+  const auto row = LV_consumpties_->RowInFocus();
+  return row ? std::optional((*rows_)[*row].product) : std::nullopt;
 }
 
 }  // namespace kelvora

@@ -43,14 +43,6 @@ constexpr std::array<ValueTexts, kValueCount> kValues = {{
     {kCarbohydrates, kUnitGram, kPortionCarbohydrates, kPer100GramsCarbohydrates},
 }};
 
-// A locked box can be read and copied from; it looks like the page that it stands on.
-void Lock(QLineEdit* box, bool locked) {
-  box->setReadOnly(locked);
-  QPalette palette;
-  if (locked) palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  box->setPalette(palette);
-}
-
 // Shows a text from its beginning. A box that shows it already keeps its cursor.
 void Show(QLineEdit* box, const Text& text) {
   const QString shown = ToQt(text);
@@ -171,7 +163,7 @@ void FoodDetailsDialog::BuildPortion() {
     auto* const box = new QLineEdit(Frame_a_.page);
     box->setObjectName(QStringLiteral("bVar_%1").arg(place));
     box->setAlignment(Qt::AlignRight);
-    Lock(box, true);  // the values of a portion always follow from those per 100 grams
+    SetLocked(box, true);  // the values of a portion always follow from those per 100 grams
     bVar_[place] = box;
     AddValueRow(Frame_a_, value, box);
   }
@@ -318,8 +310,8 @@ void FoodDetailsDialog::ShowComposition() {
 
 void FoodDetailsDialog::ShowButtons() {
   const bool editing = details_.Bewerkmodus;
-  for (const auto box : kDescriptionBoxes) Lock(bVar_[box], !editing);
-  for (NumberBox* const box : oVar_) Lock(box, !editing);
+  for (const auto box : kDescriptionBoxes) SetLocked(bVar_[box], !editing);
+  for (NumberBox* const box : oVar_) SetLocked(box, !editing);
   const TextTables& texts = program_.texts;
   cmd_bewerk_->setText(ToQt(texts[details_.cmd_bewerk]));
   cmd_bewerk_->setToolTip(ToQt(texts[editing ? kTipFinishEditing : kTipEdit]));

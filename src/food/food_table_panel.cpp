@@ -79,21 +79,6 @@ void FoodTable::SelectRow(int row) {
   scrollTo(index);
 }
 
-void FoodTable::SelectRowsReading(int column, const QString& text) {
-  clearSelection();
-  bool first = true;
-  for (int row = 0; row < model_.rowCount(); ++row) {
-    const QModelIndex index = model_.index(row, column);
-    if (index.data().toString() != text) continue;
-    if (first) {
-      selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-      scrollTo(index);
-    }
-    first = false;
-    selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-  }
-}
-
 void FoodTable::startDrag(Qt::DropActions) {
   const Text payload = drag_payload ? drag_payload(SelectedRows()) : Text();
   if (payload.empty()) return;

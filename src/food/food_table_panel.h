@@ -32,9 +32,6 @@ class FoodTable : public QTableView {
   void SetEmptyText(const QString& text);
   // The numbers of the selected rows, from first to last.
   [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
-  // Selects the rows whose cell in `column` reads `text`, and brings the first into view; nothing
-  // is selected if there is none.
-  void SelectRowsReading(int column, const QString& text);
   void SelectRow(int row);
   // Selects these rows, given from first to last, and nothing else; `focus` becomes the current one
   // and comes into view.

@@ -59,14 +59,6 @@ void ShowIfOther(QLineEdit* box, const Text& shown) {
   if (text != box->text()) box->setText(text);
 }
 
-// A box that only shows looks like the paper it stands on.
-void MakeShowOnly(QLineEdit* box) {
-  box->setReadOnly(true);
-  QPalette palette = box->palette();
-  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  box->setPalette(palette);
-}
-
 }  // namespace
 
 NewFoodDialog::NewFoodDialog(Program& program, QWidget* parent)
@@ -269,7 +261,7 @@ QLineEdit* NewFoodDialog::AddPortionValue(QWidget* frame, std::size_t index) {
   box->setObjectName(Numbered("txt_d", index));
   box->setAlignment(Qt::AlignRight);
   SetBoxWidth(box);
-  MakeShowOnly(box);
+  SetLocked(box, true);
   captions_.push_back({box, kValueRows[index].caption, kNewFoodFrame});
   return box;
 }
@@ -298,10 +290,9 @@ void NewFoodDialog::Set_Taal() {
     if (auto* const label = qobject_cast<QLabel*>(widget)) {
       label->setText(text);
     } else if (auto* const group = qobject_cast<QGroupBox*>(widget)) {
-      group->setTitle(QString(text).replace('&', QStringLiteral("&&")));
+      group->setTitle(CaptionFrom(texts[text_id]));
     } else if (auto* const button = qobject_cast<QAbstractButton*>(widget)) {
-      // "&" is a letter of our texts, not the mark of a shortcut.
-      button->setText(QString(text).replace('&', QStringLiteral("&&")));
+      button->setText(CaptionFrom(texts[text_id]));
     }
     if (qobject_cast<QLabel*>(widget) == nullptr) {
       widget->setAccessibleName(frame ? ToQt(texts[*frame]) + " " + text : text);

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTableView>
 #include <QWidget>
 
@@ -64,9 +65,19 @@ void UseSmallLetters(QWidget* widget) {
   widget->setFont(font);
 }
 
+QString CaptionFrom(std::string_view text) {
+  return ToQt(text).replace('&', QStringLiteral("&&"));
+}
+
+void SetLocked(QLineEdit* box, bool locked) {
+  box->setReadOnly(locked);
+  QPalette palette;
+  if (locked) palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  box->setPalette(palette);
+}
+
 void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip) {
-  // "&" is a letter of our texts, not the mark of a shortcut.
-  action->setText(ToQt(caption).replace('&', QStringLiteral("&&")));
+  action->setText(CaptionFrom(caption));
   action->setToolTip(ToQt(tip.empty() ? caption : tip));
 }
 

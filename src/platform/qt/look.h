@@ -9,6 +9,7 @@
 #include "core/geometry.h"
 
 class QLabel;
+class QLineEdit;
 class QTableView;
 class QWidget;
 
@@ -32,6 +33,14 @@ void MakeRowList(QTableView* table);
 
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
+
+// A text as the caption of a menu, a button or a group, where "&" is a letter of it and not the
+// mark of a shortcut.
+[[nodiscard]] QString CaptionFrom(std::string_view text);
+
+// Locks a text box, or takes the lock off. A locked one can be read and copied from, and looks like
+// the page that it stands on.
+void SetLocked(QLineEdit* box, bool locked);
 
 // Gives an action its texts: caption, tool tip and the same for assistive tools.
 void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip);
