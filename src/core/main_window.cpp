@@ -234,6 +234,7 @@ void MainWindow::Give(Command command) {
 void MainWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
   SetMenuTitles();
+  for (const ItemAction& entry : item_actions_) SetItemTexts(entry);
   for (const DropDownAction& entry : drop_down_actions_) {
     SetActionTexts(entry.action, texts[entry.row->caption],
                    TipOf(program_, entry.row->command, std::nullopt));
@@ -249,10 +250,15 @@ void MainWindow::Set_Taal() {
   UpdateCommands();
 }
 
+void MainWindow::SetItemTexts(const ItemAction& entry) {
+  SetActionTexts(entry.action, CaptionOf(program_, *entry.row),
+                 TipOf(program_, entry.row->command, entry.row->tip));
+}
+
 void MainWindow::SetMenuTitles() {
   QString taken;
   for (const MenuEntry& entry : menus_) {
-    const QString title = ToQt(program_.texts[entry.caption]).replace('&', QStringLiteral("&&"));
+    const QString title = CaptionFrom(program_.texts[entry.caption]);
     const bool in_menu_bar = entry.menu->parentWidget() == menuBar();
     entry.menu->setTitle(in_menu_bar ? WithMnemonic(title, taken) : title);
   }
@@ -299,7 +305,8 @@ void MainWindow::UpdateCommands() {
   };
   for (const auto& [action, row] : item_actions_) {
     bring_in_step(action, row->command, CommandEnabled(program_, row->command));
-    SetActionTexts(action, CaptionOf(program_, *row), TipOf(program_, row->command, row->tip));
+    // Of all captions only this one follows the settings.
+    if (row->command == Command::mnu_website_Etenlijn) SetItemTexts({action, row});
   }
   for (const auto& [action, row] : drop_down_actions_) {
     bring_in_step(action, row->command, CommandEnabled(program_, row->command));

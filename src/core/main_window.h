@@ -67,6 +67,7 @@ class MainWindow : public QMainWindow, public CoreView {
   };
 
   void BuildMenu();
+  void SetItemTexts(const ItemAction& entry);
   void SetMenuTitles();
   void OpenFirstMenu();
   QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
