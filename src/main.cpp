@@ -4,8 +4,8 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include "core/main_window.h"
-#include "core/startup.h"
+#include "core/frame/main_window.h"
+#include "core/frame/startup.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qt_platform.h"
 

@@ -14,28 +14,26 @@ SRC = Path(__file__).resolve().parent.parent / "src"
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
 WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 
-# A file may include files of its own rank or a lower one. The text tables and their names are
-# data that every layer addresses; the whole of core but these top files lies below the rest; the
-# wizard, which gives commands, stands at the top as well.
-TOP_OF_DAYS = {"wizard", "wizard_dialog"}
-TOP_OF_CORE = {"startup", "load_settings", "commands", "command_tables", "outside_commands", "main_window",
-               "child_area_panel"}
-BOTTOM_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry", "key_filter"}
+# A file may include files of its own rank or a lower one. What holds nothing but data lies lowest:
+# text, the store, records, and the text tables with the names of their entries. The frame is on top,
+# and nobody but main.cpp and itself includes it.
+DATA_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry", "key_filter",
+                "command"}
 RANK_OF_FOLDER = {
     "platform": 1, "core": 2, "nutrition": 3, "storage": 3,
     "food": 4, "days": 4, "analysis": 4, "output": 4, "language": 4, "internet": 4,
 }
+FRAME = "core/frame/"
+TOP = 5
 
 
 def rank(path: str) -> int:
     folder, _, name = path.partition("/")
     stem = Path(name).stem
-    if folder == "core" and stem in BOTTOM_OF_CORE:
+    if path.startswith(FRAME) or path == "main.cpp":
+        return TOP
+    if folder == "core" and stem in DATA_OF_CORE:
         return 0
-    if folder == "core" and stem in TOP_OF_CORE or path == "main.cpp":
-        return 5
-    if folder == "days" and stem in TOP_OF_DAYS:
-        return 5
     if folder == "language" and (stem == "tables" or stem.endswith("_texts")):
         return 0
     if path.startswith("platform/qt/"):
@@ -49,7 +47,6 @@ def layer(path: str) -> str:
     if path.startswith("platform/qt/"):
         return "platform/qt"
     return "window" if WINDOW.search(path) else "logic"
-
 
 
 MAY_INCLUDE = {

@@ -6,6 +6,7 @@
 #include <array>
 #include <optional>
 
+#include "core/command.h"
 #include "core/geometry.h"
 #include "core/store.h"
 
@@ -123,6 +124,11 @@ struct CoreView {
   // Opens a window at its record; a dialog is shown modally and this returns when it is gone. A
   // window that the program does not have yet stays closed.
   virtual void OpenWindow(WindowId id) = 0;
+  // Shows the windows of a day in the arrangement that setting `chk_all_screens` asks for.
+  virtual void ArrangeWindows() = 0;
+  // Whether a command can be given now, and giving it; one that can't be given does nothing.
+  [[nodiscard]] virtual bool CommandEnabled(Command command) const = 0;
+  virtual void GiveCommand(Command command) = 0;
   // Shows the settings dialog modally; returns when it is gone.
   virtual void OpenSettings() = 0;
   // Shows the details of one food line, told apart by the tag of the list that it comes from:

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "core/arrangement.h"
 #include "days/day_form_check.h"
 #include "days/open_day.h"
 #include "days/targets.h"
@@ -260,7 +259,8 @@ bool ConfirmDay(Program& program, DayEditing& editing) {
 }
 
 void ArrangeAfterConfirming(Program& program, const DayEditing& editing) {
-  if (editing.mode == DayDialogMode::new_day) ApplyChosenArrangement(program);
+  CoreView* const core = program.windows.core;
+  if (editing.mode == DayDialogMode::new_day && core != nullptr) core->ArrangeWindows();
 }
 
 void CancelDay(Program& program, DayEditing& editing) {

@@ -1,6 +1,5 @@
 #include "days/open_day.h"
 
-#include "core/arrangement.h"
 #include "nutrition/totals.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
@@ -40,8 +39,10 @@ void ForgetFoodsOfUser(Program& program) {
 
 void AfterOpenDay(Program& program) {
   if (program.windows.browser != nullptr) program.windows.browser->CloseWindow();
-  if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
-  ApplyChosenArrangement(program);
+  if (CoreView* const core = program.windows.core) {
+    core->UpdateCommands();
+    core->ArrangeWindows();
+  }
   Refresh_Totalen(program);
   SetFileChanged(program, false);
 }

@@ -33,7 +33,8 @@ std::span<const WizardRow, kWizardOptionCount> WizardRows() {
 }
 
 bool OptionEnabled(const Program& program, WizardOption option) {
-  return CommandEnabled(program, CommandOf(option));
+  const CoreView* const core = program.windows.core;
+  return core != nullptr && core->CommandEnabled(CommandOf(option));
 }
 
 bool WizardShownAtStart(const Program& program) {
@@ -43,8 +44,11 @@ bool WizardShownAtStart(const Program& program) {
 void Confirm(Program& program, std::optional<WizardOption> option, bool show_at_start) {
   program.settings[Setting::chk_wiz] = show_at_start ? "1" : "0";
   Save_Settings(program);
-  if (option) return RunCommand(program, CommandOf(*option));
-  if (program.windows.wizard != nullptr) program.windows.wizard->CloseWindow();
+  if (option) {
+    if (program.windows.core != nullptr) program.windows.core->GiveCommand(CommandOf(*option));
+  } else if (program.windows.wizard != nullptr) {
+    program.windows.wizard->CloseWindow();
+  }
 }
 
 }  // namespace kelvora

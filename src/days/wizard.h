@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "core/commands.h"
+#include "core/program.h"
 
 namespace kelvora {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "core/common.h"
-#include "core/environment.h"
 #include "food/details_check.h"
 #include "food/food_values.h"
 #include "language/food_details_texts.h"
+#include "nutrition/decimal_check.h"
 #include "nutrition/totals.h"
 #include "nutrition/units.h"
 #include "storage/folders.h"

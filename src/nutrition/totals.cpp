@@ -1,8 +1,8 @@
 #include "nutrition/totals.h"
 
 #include "core/common.h"
-#include "core/environment.h"
 #include "language/common_texts.h"
+#include "nutrition/decimal_check.h"
 #include "nutrition/numbers.h"
 
 namespace kelvora {

@@ -19,9 +19,9 @@ class Layers(unittest.TestCase):
         self.assertFalse(self.wrong("platform/qt/text.cpp", "<QString>"))
 
     def test_logic_may_not_include_a_window_or_the_qt_platform(self):
-        self.assertTrue(self.wrong("core/commands.cpp", '"food/consumption_window.h"'))
-        self.assertTrue(self.wrong("core/commands.cpp", '"platform/qt/text.h"'))
-        self.assertFalse(self.wrong("core/main_window.cpp", '"food/consumption_window.h"'))
+        self.assertTrue(self.wrong("core/frame/commands.cpp", '"food/consumption_window.h"'))
+        self.assertTrue(self.wrong("core/frame/commands.cpp", '"platform/qt/text.h"'))
+        self.assertFalse(self.wrong("core/frame/main_window.cpp", '"food/consumption_window.h"'))
 
     def test_the_qt_platform_may_not_include_a_window(self):
         self.assertTrue(self.wrong("platform/qt/look.cpp", '"food/consumption_window.h"'))
@@ -30,9 +30,20 @@ class Layers(unittest.TestCase):
         self.assertTrue(self.wrong("storage/day_file.cpp", '"food/consumption.h"'))
         self.assertTrue(self.wrong("core/program.h", '"storage/day_file.h"'))
         self.assertTrue(self.wrong("core/store.h", '"core/program.h"'))
-        self.assertTrue(self.wrong("days/open_day.cpp", '"core/startup.h"'))
+        self.assertTrue(self.wrong("days/open_day.cpp", '"core/frame/startup.h"'))
         self.assertFalse(self.wrong("food/consumption.cpp", '"storage/day_file.h"'))
         self.assertFalse(self.wrong("storage/day_file.cpp", '"language/common_texts.h"'))
+
+    def test_only_the_program_and_the_frame_know_the_frame(self):
+        for path in ("core/program.cpp", "days/wizard.h", "food/details.cpp", "nutrition/totals.cpp",
+                     "days/browser_dialog.cpp", "platform/qt/look.cpp"):
+            self.assertTrue(self.wrong(path, '"core/frame/commands.h"'), path)
+        for path in ("main.cpp", "core/frame/startup.cpp", "core/frame/main_window.cpp"):
+            self.assertFalse(self.wrong(path, '"core/frame/arrangement.h"'), path)
+
+    def test_the_bottom_knows_of_other_rooms_only_the_text_tables(self):
+        self.assertTrue(self.wrong("core/program.h", '"language/language_file.h"'))
+        self.assertFalse(self.wrong("core/program.h", '"language/tables.h"'))
 
     def test_a_room_may_not_know_the_window_of_another(self):
         self.assertTrue(self.wrong("days/browser_dialog.cpp", '"food/food_lists_window.h"'))

@@ -5,6 +5,8 @@
 #include <string>
 
 #include "core/common.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/commands.h"
 #include "language/built_in_texts.h"
 #include "nutrition/dates.h"
 #include "storage/folders.h"
@@ -63,7 +65,20 @@ std::string TemporaryFolder::Path(const std::string& name) const {
   return name.empty() ? path_.string() : (path_ / name).string();
 }
 
+void RecordingCore::ArrangeWindows() {
+  ApplyChosenArrangement(*program);
+}
+
+bool RecordingCore::CommandEnabled(Command command) const {
+  return kelvora::CommandEnabled(*program, command);
+}
+
+void RecordingCore::GiveCommand(Command command) {
+  RunCommand(*program, command);
+}
+
 TestProgram::TestProgram(Machine machine) {
+  core.program = &program;
   program.windows.core = &core;
   if (machine == Machine::bare) return;
   Make_Taal_English(program.texts);

@@ -97,8 +97,10 @@ struct TemporaryFolders : Folders {
   std::string ProgramFolder() const override { return home.Path("program"); }
 };
 
-// The main window as the logic sees it; windows open nothing but a note.
+// The main window as the logic sees it; windows open nothing but a note. Commands and arrangements
+// are the program's own.
 struct RecordingCore : CoreView {
+  Program* program = nullptr;  // whose commands it gives
   MainWindowSize size{15360, 11520, 480};
   std::vector<WindowId> opened;
   int updates = 0;
@@ -117,6 +119,9 @@ struct RecordingCore : CoreView {
   void UpdateCommands() override { ++updates; }
   MainWindowSize Size() const override { return size; }
   void OpenWindow(WindowId id) override { opened.push_back(id); }
+  void ArrangeWindows() override;
+  bool CommandEnabled(Command command) const override;
+  void GiveCommand(Command command) override;
   void OpenSettings() override { ++settings_opened; }
   void ShowItem(std::string_view tag, std::string_view line) override {
     items_shown.emplace_back(tag, line);

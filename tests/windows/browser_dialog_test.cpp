@@ -3,8 +3,8 @@
 
 #include <QTimer>
 
-#include "core/commands.h"
-#include "core/main_window.h"
+#include "core/frame/commands.h"
+#include "core/frame/main_window.h"
 #include "days/day_dialogs.h"
 #include "windows/browser_window.h"
 

@@ -14,8 +14,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "core/arrangement.h"
-#include "core/main_window.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/main_window.h"
 #include "food/consumption.h"
 #include "food/food_table_panel.h"
 #include "language/built_in_texts.h"

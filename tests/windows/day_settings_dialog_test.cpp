@@ -1,7 +1,7 @@
 // The dialog of a new day, as a user meets it: through names, keys and clicks.
-#include "core/commands.h"
 #include "core/common.h"
-#include "core/main_window.h"
+#include "core/frame/commands.h"
+#include "core/frame/main_window.h"
 #include "days/day_dialogs.h"
 #include "language/built_in_texts.h"
 #include "windows/day_settings_window.h"

@@ -1,7 +1,7 @@
 // What the details of one food look like, and how they come and go.
 #include <gtest/gtest.h>
 
-#include "core/main_window.h"
+#include "core/frame/main_window.h"
 #include "windows/food_details_window.h"
 
 namespace kelvora {

@@ -3,7 +3,7 @@
 
 #include <QUrl>
 
-#include "core/commands.h"
+#include "core/frame/commands.h"
 #include "windows/food_lists_user.h"
 
 namespace kelvora {

@@ -13,8 +13,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "core/arrangement.h"
-#include "core/main_window.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/main_window.h"
 #include "food/food_table_panel.h"
 #include "platform/qt/text.h"
 #include "support/test_program.h"

@@ -1,6 +1,6 @@
 // The main window itself: its commands as a user sees and gives them, its status bar, and the
 // programmers' window. Its child windows are tested in program_windows_test.cpp.
-#include "core/main_window.h"
+#include "core/frame/main_window.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +14,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "core/arrangement.h"
-#include "core/data_window.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/data_window.h"
 #include "language/built_in_texts.h"
 #include "language/main_texts.h"
 #include "platform/qt/text.h"

@@ -15,8 +15,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/commands.h"
-#include "core/main_window.h"
+#include "core/frame/commands.h"
+#include "core/frame/main_window.h"
 #include "food/new_food_dialog.h"
 #include "language/built_in_texts.h"
 #include "platform/qt/text.h"

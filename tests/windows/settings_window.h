@@ -10,8 +10,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/commands.h"
-#include "core/main_window.h"
+#include "core/frame/commands.h"
+#include "core/frame/main_window.h"
 #include "days/day_dialogs.h"
 #include "days/settings_dialog.h"
 #include "language/language_file.h"

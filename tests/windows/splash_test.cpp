@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/main_window.h"
+#include "core/frame/main_window.h"
 #include "days/popup_window.h"
 #include "platform/qt/qt_platform.h"
 #include "support/test_program.h"

@@ -5,7 +5,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/main_window.h"
+#include "core/frame/main_window.h"
 #include "days/day_dialogs.h"
 #include "days/popup_window.h"
 #include "days/wizard_dialog.h"

@@ -18,8 +18,8 @@
 #include <QTableView>
 #include <QTest>
 
-#include "core/arrangement.h"
-#include "core/main_window.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/main_window.h"
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
 #include "days/popup_window.h"

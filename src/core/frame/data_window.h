@@ -6,7 +6,7 @@
 #include <QListWidget>
 #include <QTableView>
 
-#include "core/data_members.h"
+#include "core/frame/data_members.h"
 #include "platform/qt/text_table_model.h"
 
 namespace kelvora {

@@ -1,4 +1,4 @@
-#include "core/load_settings.h"
+#include "core/frame/load_settings.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

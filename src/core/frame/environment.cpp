@@ -1,4 +1,4 @@
-#include "core/environment.h"
+#include "core/frame/environment.h"
 
 #include "language/common_texts.h"
 #include "language/main_texts.h"
@@ -24,14 +24,6 @@ void CheckScreenResolution(Program& program) {
       JoinLines(texts, {kResolutionAdvice, std::nullopt, kResolutionChange, kResolutionWhere});
   program.platform.boxes.Show(
       {.title = texts[main_text::kScreenWarningTitle], .text = text, .icon = BoxIcon::error});
-}
-
-void CheckDecimal(Program& program) {
-  if (program.platform.locale.DecimalSeparator() == program.StartSeparator) return;
-  const TextTables& texts = program.texts;
-  Tell(program, BoxIcon::error,
-       texts[kSeparatorChanged] + "\n" + texts[kSeparatorAtStart] + " " + program.StartSeparator +
-           "\n\n" + JoinLines(texts, {kCannotContinue, kDoNotSave, kCloseAndStart}));
 }
 
 void CheckSeparatorIsValid(Program& program) {

@@ -1,4 +1,4 @@
-#include "core/outside_commands.h"
+#include "core/frame/outside_commands.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

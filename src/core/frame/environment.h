@@ -8,9 +8,6 @@ namespace kelvora {
 // Warns below a screen width of 1024 pixels; the height never matters.
 void CheckScreenResolution(Program& program);
 
-// Warns if the locale's decimal separator is no longer the one of the start.
-void CheckDecimal(Program& program);
-
 // Warns if the decimal separator is neither "," nor ".".
 void CheckSeparatorIsValid(Program& program);
 

@@ -1,9 +1,9 @@
-#include "core/commands.h"
+#include "core/frame/commands.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 
-#include "core/arrangement.h"
+#include "core/frame/arrangement.h"
 #include "language/built_in_texts.h"
 #include "language/main_texts.h"
 #include "storage/record_file.h"

@@ -1,4 +1,4 @@
-#include "core/arrangement.h"
+#include "core/frame/arrangement.h"
 
 #include <gtest/gtest.h>
 

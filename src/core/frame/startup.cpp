@@ -1,13 +1,14 @@
-#include "core/startup.h"
+#include "core/frame/startup.h"
 
 #include <cmath>
 
-#include "core/arrangement.h"
-#include "core/environment.h"
-#include "core/load_settings.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/environment.h"
+#include "core/frame/load_settings.h"
 #include "days/wizard.h"
 #include "internet/servers.h"
 #include "language/language_file.h"
+#include "nutrition/decimal_check.h"
 #include "nutrition/numbers.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"

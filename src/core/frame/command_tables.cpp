@@ -1,7 +1,7 @@
 // The menu and the toolbars of the main window, row by row.
 #include <array>
 
-#include "core/commands.h"
+#include "core/frame/commands.h"
 #include "language/main_texts.h"
 
 namespace kelvora {

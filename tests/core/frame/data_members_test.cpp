@@ -1,4 +1,4 @@
-#include "core/data_members.h"
+#include "core/frame/data_members.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "core/startup.h"
+#include "core/frame/startup.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

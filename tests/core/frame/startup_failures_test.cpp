@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "core/startup.h"
+#include "core/frame/startup.h"
 #include "days/browser.h"
 #include "days/day_settings.h"
 #include "days/good_form.h"

@@ -1,4 +1,4 @@
-#include "core/environment.h"
+#include "core/frame/environment.h"
 
 #include <gtest/gtest.h>
 
@@ -26,22 +26,6 @@ TEST(Environment, ANarrowerScreenGetsOneHint) {
             "We recommend a screen resolution of 1024X768 for Kelvora FOOD.\n\n"
             "We recommend that you change your screen resolution.\n"
             "You can change the screen resolution in the windows configuration screen.");
-}
-
-TEST(Environment, AChangedSeparatorIsToldEachTimeUntilItIsChangedBack) {
-  TestProgram test;
-  test.locale.separator = ",";
-  CheckDecimal(test.program);
-  CheckDecimal(test.program);
-  ASSERT_EQ(test.boxes.shown.size(), 2u);
-  EXPECT_EQ(test.boxes.shown[0].text,
-            "The separation character of you computer has been changed!\n"
-            "When you started Kelvora FOOD the separation character was .\n\n"
-            "Kelvora FOOD cannot continue working.\n! DO NOT SAVE THE CURRENT FILE\n"
-            "! CLOSE THE PROGRAM AND START AGAIN");
-  test.locale.separator = ".";
-  CheckDecimal(test.program);
-  EXPECT_EQ(test.boxes.shown.size(), 2u);
 }
 
 TEST(Environment, OnlyPointAndCommaAreValidSeparators) {

@@ -1,4 +1,4 @@
-#include "core/child_area_panel.h"
+#include "core/frame/child_area_panel.h"
 
 #include <QCloseEvent>
 #include <QPainter>

@@ -11,7 +11,7 @@
 #include <QMdiArea>
 #include <QToolBar>
 
-#include "core/commands.h"
+#include "core/frame/commands.h"
 #include "core/views.h"
 
 class QMdiSubWindow;
@@ -34,6 +34,9 @@ class MainWindow : public QMainWindow, public CoreView {
   void UpdateCommands() override;
   [[nodiscard]] MainWindowSize Size() const override;
   void OpenWindow(WindowId id) override;
+  void ArrangeWindows() override;
+  [[nodiscard]] bool CommandEnabled(Command command) const override;
+  void GiveCommand(Command command) override;
   void OpenSettings() override;
   void ShowItem(std::string_view tag, std::string_view line) override;
   void OpenNewFood() override;
@@ -78,7 +81,6 @@ class MainWindow : public QMainWindow, public CoreView {
   void LayStatusBar();
   void BuildDataButton();
   void SetButtonTexts(const ButtonAction& entry);
-  void Give(Command command);
   void OpenConsumption(DayPart part, const char* icon);
   void OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum = {0, 0});
 

@@ -1,10 +1,10 @@
-#include "core/commands.h"
+#include "core/frame/commands.h"
 
 #include <algorithm>
 
-#include "core/arrangement.h"
 #include "core/common.h"
-#include "core/outside_commands.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/outside_commands.h"
 #include "days/open_day.h"
 #include "language/choose_language.h"
 #include "language/main_texts.h"

@@ -1,4 +1,4 @@
-#include "core/main_window.h"
+#include "core/frame/main_window.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -8,9 +8,10 @@
 #include <QStatusBar>
 #include <QToolButton>
 
-#include "core/child_area_panel.h"
 #include "core/common.h"
-#include "core/data_window.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/child_area_panel.h"
+#include "core/frame/data_window.h"
 #include "days/day_dialogs.h"
 #include "days/popup.h"
 #include "food/consumption_window.h"
@@ -103,7 +104,7 @@ void MainWindow::BuildMenu() {
         action->setCheckable(IsToggle(row.command));
         if (!row.shortcut.empty()) action->setShortcut(QKeySequence(QtName(row.shortcut)));
         connect(action, &QAction::triggered, this,
-                [this, command = row.command] { Give(command); });
+                [this, command = row.command] { GiveCommand(command); });
         item_actions_.push_back({action, &row});
         break;
       }
@@ -158,7 +159,8 @@ QToolBar* MainWindow::BuildToolbar(const char* name, std::span<const ButtonRow> 
     const QString button_name = QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row.index);
     action->setObjectName(button_name + QStringLiteral("_action"));
     action->setCheckable(row.command == Command::consumptions_drop_down || IsToggle(row.command));
-    connect(action, &QAction::triggered, this, [this, command = row.command] { Give(command); });
+    connect(action, &QAction::triggered, this,
+            [this, command = row.command] { GiveCommand(command); });
     auto* const button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
     button->setObjectName(button_name);
     if (!RowsOfDropDown(row.command).empty()) AddDropDown(button, row.command);
@@ -222,7 +224,7 @@ void MainWindow::BuildDataButton() {
   connect(shortcut, &QShortcut::activated, cmd_data, &QPushButton::click);
 }
 
-void MainWindow::Give(Command command) {
+void MainWindow::GiveCommand(Command command) {
   if (command == Command::mnu_bestand_sluiten) {
     close();
     return;
@@ -304,12 +306,12 @@ void MainWindow::UpdateCommands() {
     if (action->isCheckable()) action->setChecked(CommandIsDown(program_, command));
   };
   for (const auto& [action, row] : item_actions_) {
-    bring_in_step(action, row->command, CommandEnabled(program_, row->command));
+    bring_in_step(action, row->command, CommandEnabled(row->command));
     // Of all captions only this one follows the settings.
     if (row->command == Command::mnu_website_Etenlijn) SetItemTexts({action, row});
   }
   for (const auto& [action, row] : drop_down_actions_) {
-    bring_in_step(action, row->command, CommandEnabled(program_, row->command));
+    bring_in_step(action, row->command, CommandEnabled(row->command));
   }
   for (const auto& [action, button, row] : button_actions_) {
     bring_in_step(action, row->command, ButtonEnabled(program_, row->command));
@@ -346,6 +348,14 @@ void MainWindow::OpenWindow(WindowId id) {
     case WindowId::comparison:
       return;
   }
+}
+
+void MainWindow::ArrangeWindows() {
+  ApplyChosenArrangement(program_);
+}
+
+bool MainWindow::CommandEnabled(Command command) const {
+  return kelvora::CommandEnabled(program_, command);
 }
 
 void MainWindow::OpenSettings() {

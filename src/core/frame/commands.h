@@ -5,50 +5,10 @@
 #include <span>
 #include <string_view>
 
+#include "core/command.h"
 #include "core/program.h"
 
 namespace kelvora {
-
-// Named after the menu items; the last ones have a toolbar button only.
-enum class Command {
-  none,
-  mnu_startupwizzard,
-  mnu_new,
-  mnu_browse,
-  mnu_bestand_opslaan,
-  mnu_exporteer_html,
-  mnu_exporteer_xml,
-  mnu_exporteer_dta,
-  mnu_properties,
-  mnu_file_properties,
-  mnu_print_dag,
-  mnu_print_reis,
-  mnu_bestand_sluiten,
-  mnu_in_ochtend,
-  mnu_in_middag,
-  mnu_in_avond,
-  mnu_in_notities,
-  mnu_item_info,
-  mnu_item_voegtoe,
-  mnu_item_del,
-  mnu_item_favo,
-  mnu_uit_daguittreksel,
-  mnu_uit_meerdaagsuittreksel,
-  mnu_voedingswaarde_tabel,
-  mnu_weegschaal,
-  mnu_website_Etenlijn,
-  mnu_reset_taal,
-  mnu_diagnose,
-  mnu_help_index,
-  mnu_about,
-  mnu_website,
-  mnu_check_updates,
-  print_drop_down,
-  consumptions_drop_down,
-  quick_default,
-  quick_all,
-  quick_reset,
-};
 
 enum class MenuKind { menu, sub_menu, end_of_menu, item, separator };
 

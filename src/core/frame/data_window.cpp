@@ -1,4 +1,4 @@
-#include "core/data_window.h"
+#include "core/frame/data_window.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

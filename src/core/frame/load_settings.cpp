@@ -1,4 +1,4 @@
-#include "core/load_settings.h"
+#include "core/frame/load_settings.h"
 
 #include "language/common_texts.h"
 #include "language/language_file.h"

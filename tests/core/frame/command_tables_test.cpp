@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/commands.h"
+#include "core/frame/commands.h"
 #include "support/test_program.h"
 
 namespace kelvora {

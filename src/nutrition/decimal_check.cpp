@@ -1,0 +1,16 @@
+#include "nutrition/decimal_check.h"
+
+#include "language/common_texts.h"
+
+namespace kelvora {
+
+void CheckDecimal(Program& program) {
+  if (program.platform.locale.DecimalSeparator() == program.StartSeparator) return;
+  using namespace common_text;
+  const TextTables& texts = program.texts;
+  Tell(program, BoxIcon::error,
+       texts[kSeparatorChanged] + "\n" + texts[kSeparatorAtStart] + " " + program.StartSeparator +
+           "\n\n" + JoinLines(texts, {kCannotContinue, kDoNotSave, kCloseAndStart}));
+}
+
+}  // namespace kelvora
