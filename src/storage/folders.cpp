@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 constexpr int kApplicationData = 26;
 constexpr int kDocuments = 5;
 
-// What `wanted` takes of a folder, sorted by name without regard to case.
+// What `wanted` takes of a folder and is not hidden, sorted by name without regard to case.
 template <class Wanted>
 std::vector<FolderFile> EntriesIn(const std::string& path, Wanted wanted) {
   struct Entry {
@@ -24,8 +24,8 @@ std::vector<FolderFile> EntriesIn(const std::string& path, Wanted wanted) {
   std::error_code failure;
   for (fs::directory_iterator entry(path, failure), end; !failure && entry != end;
        entry.increment(failure)) {
-    if (!wanted(*entry)) continue;
     const std::string name_on_disk = entry->path().filename().string();
+    if (name_on_disk.starts_with('.') || !wanted(*entry)) continue;
     const Text name = TextFromUtf8(name_on_disk);
     entries.push_back({LowerCase(name), {name, path + name_on_disk}});
   }
@@ -114,29 +114,48 @@ void DeleteUserFolder(const Paths& paths, const std::string& path) {
 }
 
 std::string ProfileFile(const Paths& paths, std::string_view name) {
-  return UserFolder(paths, name) + "Profile/Profile.usr";
+  return ProfileFileIn(UserFolder(paths, name));
 }
 
 std::string CustomFile(const Paths& paths, std::string_view name) {
-  return UserFolder(paths, name) + "Databases/Custom.dat";
+  return CustomFileIn(UserFolder(paths, name));
 }
 
 std::string FavoritesFile(const Paths& paths, std::string_view name) {
-  return UserFolder(paths, name) + "Databases/Favorites.dat";
+  return FavoritesFileIn(UserFolder(paths, name));
 }
 
-TextList SubFoldersOf(const std::string& path) {
-  return NamesOf(EntriesIn(path, [](const fs::directory_entry& entry) {
+std::string ProfileFileIn(const std::string& folder) {
+  return folder + "Profile/Profile.usr";
+}
+
+std::string CustomFileIn(const std::string& folder) {
+  return folder + "Databases/Custom.dat";
+}
+
+std::string FavoritesFileIn(const std::string& folder) {
+  return folder + "Databases/Favorites.dat";
+}
+
+std::vector<FolderFile> FoldersWithPathsIn(const std::string& path) {
+  auto folders = EntriesIn(path, [](const fs::directory_entry& entry) {
     std::error_code ignored;
-    return entry.is_directory(ignored);
-  }));
+    return !entry.is_regular_file(ignored);
+  });
+  for (FolderFile& folder : folders) folder.path += '/';
+  return folders;
 }
 
 std::vector<FolderFile> FilesWithPathsIn(const std::string& path, std::string_view extension) {
   return EntriesIn(path, [extension](const fs::directory_entry& entry) {
     std::error_code ignored;
-    return entry.path().extension() == extension && !entry.is_directory(ignored);
+    return LowerCase(entry.path().extension().string()) == extension &&
+           !entry.is_directory(ignored);
   });
+}
+
+TextList SubFoldersOf(const std::string& path) {
+  return NamesOf(FoldersWithPathsIn(path));
 }
 
 TextList FilesIn(const std::string& path, std::string_view extension) {

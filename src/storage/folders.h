@@ -39,20 +39,27 @@ void DeleteUserFolder(const Paths& paths, const std::string& path);
 [[nodiscard]] std::string CustomFile(const Paths& paths, std::string_view name);
 [[nodiscard]] std::string FavoritesFile(const Paths& paths, std::string_view name);
 
-// The names of the sub-folders of `path`, sorted; none if it can't be read.
-[[nodiscard]] TextList SubFoldersOf(const std::string& path);
+// The same of a user's folder, whose path ends in "/".
+[[nodiscard]] std::string ProfileFileIn(const std::string& folder);
+[[nodiscard]] std::string CustomFileIn(const std::string& folder);
+[[nodiscard]] std::string FavoritesFileIn(const std::string& folder);
 
-// A file of a folder: its name as text, in which a character that Windows-1252 lacks is "?", and
-// its true path. Only the path leads to it for certain.
+// An entry of a folder: its name as text, in which a character that Windows-1252 lacks is "?", and
+// its true path. Only the path leads to it for certain; that of a folder ends in "/".
 struct FolderFile {
   Text name;
   std::string path;
 };
 
-// The files in `path`, which ends in "/", whose names end in `extension`, sorted by name without
-// regard to case; none if it can't be read. FilesIn gives their names only.
+// The entries of `path`, which ends in "/", sorted by name without regard to case; none if it can't
+// be read. Hidden ones, which begin with a dot, are passed over. Files are those whose names end in
+// `extension`, in capitals or not; given in small letters. What can't be read is listed too (a
+// pipe, a link that leads nowhere), so that its reader can say so; as a folder counts what is no
+// regular file. SubFoldersOf and FilesIn give the names only.
+[[nodiscard]] std::vector<FolderFile> FoldersWithPathsIn(const std::string& path);
 [[nodiscard]] std::vector<FolderFile> FilesWithPathsIn(const std::string& path,
                                                        std::string_view extension);
+[[nodiscard]] TextList SubFoldersOf(const std::string& path);
 [[nodiscard]] TextList FilesIn(const std::string& path, std::string_view extension);
 
 }  // namespace kelvora
