@@ -65,8 +65,8 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
   });
 }
 
-void SaveDay(Program& program) {
-  program.Guard("#FF1-9", [&] {
+bool SaveDay(Program& program) {
+  return program.Guard("#FF1-9", [&] {
     const KV_data& store = program.store;
     program.platform.pointer.ShowWait();
     if (!store.DayIsOpen()) return;  // meant: the next routine restores the pointer

@@ -22,9 +22,9 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
 void TakeDay(KV_data& store, const Rec_DayFile& record);
 [[nodiscard]] Rec_DayFile PackDay(const KV_data& store);
 
-// Writes the open day to its user's folder; does nothing with no day open. A failure shows
-// "#FF1-9", and the day stays changed.
-void SaveDay(Program& program);
+// Writes the open day to its user's folder; does nothing with no day open. False after a failure,
+// which shows "#FF1-9" and leaves the day changed.
+bool SaveDay(Program& program);
 
 // Empties the day and closes the windows that show it. Asks nothing and saves nothing.
 void CloseDay(Program& program);

@@ -29,9 +29,9 @@ void LoadUserList(Program& program, const std::string& path, std::string_view co
   });
 }
 
-void SaveUserList(Program& program, const std::string& path, std::string_view code,
+bool SaveUserList(Program& program, const std::string& path, std::string_view code,
                   const TextList& list) {
-  program.Guard(code, [&] {
+  return program.Guard(code, [&] {
     program.platform.pointer.ShowWait();
     WriteRecord(path, Rec_ListLine{{PackBlock(list)}});
     program.platform.pointer.Restore();
@@ -104,9 +104,10 @@ void Add_To_Favorites(Program& program, std::string_view key) {
       return;
     }
     store.Favorites_list.Add(*line);
-    Save_Favorites(program, FavoritesFile(program.paths, program.paths.UserName));
+    const bool saved =
+        Save_Favorites(program, FavoritesFile(program.paths, program.paths.UserName));
     if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Favo();
-    Tell(program, BoxIcon::information, program.texts[kFavouriteAdded]);
+    if (saved) Tell(program, BoxIcon::information, program.texts[kFavouriteAdded]);
   });
 }
 
@@ -125,12 +126,12 @@ void CopyOwnListToDatabases(Program& program) {
   });
 }
 
-void Save_Favorites(Program& program, const std::string& path) {
-  SaveUserList(program, path, "#FF1-4", program.store.Favorites_list);
+bool Save_Favorites(Program& program, const std::string& path) {
+  return SaveUserList(program, path, "#FF1-4", program.store.Favorites_list);
 }
 
-void Save_Custom(Program& program, const std::string& path) {
-  SaveUserList(program, path, "#FF1-5", program.store.Custom_list);
+bool Save_Custom(Program& program, const std::string& path) {
+  return SaveUserList(program, path, "#FF1-5", program.store.Custom_list);
 }
 
 }  // namespace kelvora

@@ -19,9 +19,9 @@ void Load_Databases(Program& program);
 void Load_Custom(Program& program, const std::string& path);
 void Load_Favorites(Program& program, const std::string& path);
 
-// Write the list of a user. A failure shows "#FF1-5" or "#FF1-4".
-void Save_Custom(Program& program, const std::string& path);
-void Save_Favorites(Program& program, const std::string& path);
+// Write the list of a user; true if it lies on the disk now. A failure shows "#FF1-5" or "#FF1-4".
+bool Save_Custom(Program& program, const std::string& path);
+bool Save_Favorites(Program& program, const std::string& path);
 
 // Adds the lines of a food file's image to `lines`. A `closing_field` that is not empty becomes one
 // more field of every line.

@@ -35,8 +35,8 @@ void Load_Profile(Program& program, const std::string& path) {
   });
 }
 
-void Save_Profile(Program& program, const std::string& path) {
-  program.Guard("#FF1-7", [&] {
+bool Save_Profile(Program& program, const std::string& path) {
+  return program.Guard("#FF1-7", [&] {
     WriteRecord(path, OnlyFieldsInUse(program.profile));
     UpdateStatusBar(program);
   });

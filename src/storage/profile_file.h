@@ -11,8 +11,9 @@ namespace kelvora {
 // failure later shows "#FF1-6".
 void Load_Profile(Program& program, const std::string& path);
 
-// Writes the working copy; the four spare strings stay empty. A failure shows "#FF1-7".
-void Save_Profile(Program& program, const std::string& path);
+// Writes the working copy, the four spare strings empty; true if it lies on the disk now. A failure
+// shows "#FF1-7".
+bool Save_Profile(Program& program, const std::string& path);
 
 // The working copy of someone who has not filled in anything yet: all of the person empty, usual
 // targets of an adult.

@@ -63,8 +63,9 @@ void FallBackOnDefaultLanguage(Program& program) {
   if (!FileExists(program.paths.LanguagePath + Utf8FromText(language))) language = kDefaultLanguage;
 }
 
-void Save_Settings(Program& program) {
-  program.Guard("#FF1-0", [&] { WriteRecord(program.paths.SettingsFile, program.settings); });
+bool Save_Settings(Program& program) {
+  return program.Guard("#FF1-0",
+                       [&] { WriteRecord(program.paths.SettingsFile, program.settings); });
 }
 
 }  // namespace kelvora

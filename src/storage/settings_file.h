@@ -15,7 +15,8 @@ void Apply_Default_Settings(Program& program);
 // Chooses "default.lsf" if the language file of the settings is gone.
 void FallBackOnDefaultLanguage(Program& program);
 
-// Writes the file. A failure shows "#FF1-0"; the settings in memory stay valid.
-void Save_Settings(Program& program);
+// Writes the file; true if it lies on the disk now. A failure shows "#FF1-0"; the settings in
+// memory stay valid.
+bool Save_Settings(Program& program);
 
 }  // namespace kelvora

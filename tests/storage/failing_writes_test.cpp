@@ -23,7 +23,7 @@ constexpr std::string_view kFile = "05032004140709.kvf";
 struct Writer {
   const char* name;
   std::string_view box_ends_with;
-  void (*save)(Program&);
+  bool (*save)(Program&);  // whether it says that the file was written
   std::string (*path)(const Program&);
 };
 
@@ -35,22 +35,29 @@ std::string LanguagePath(const Program& program) {
   return program.paths.LanguagePath + "Mine.lsf";
 }
 
+// Says nothing by itself; what it shows tells.
+bool SaveLanguage(Program& program) {
+  auto& shown = dynamic_cast<RecordingBoxes&>(program.platform.boxes).shown;
+  const std::size_t before = shown.size();
+  Save_Language_File(program, LanguagePath(program));
+  return shown.size() == before;
+}
+
 const std::array kWriters = {
     Writer{"Day", "Brelux CODE:#FF1-9", &SaveDay,
            [](const Program& p) { return p.paths.FilesPath + std::string(kFile); }},
     Writer{"Settings", "Brelux CODE:#FF1-0", &Save_Settings,
            [](const Program& p) { return p.paths.SettingsFile; }},
     Writer{"Profile", "Brelux CODE:#FF1-7",
-           [](Program& p) { Save_Profile(p, ProfileFile(p.paths, "Anna")); },
+           [](Program& p) { return Save_Profile(p, ProfileFile(p.paths, "Anna")); },
            [](const Program& p) { return ProfileFile(p.paths, "Anna"); }},
     Writer{"Custom", "Brelux CODE:#FF1-5",
-           [](Program& p) { Save_Custom(p, CustomFile(p.paths, "Anna")); },
+           [](Program& p) { return Save_Custom(p, CustomFile(p.paths, "Anna")); },
            [](const Program& p) { return CustomFile(p.paths, "Anna"); }},
     Writer{"Favorites", "Brelux CODE:#FF1-4",
-           [](Program& p) { Save_Favorites(p, FavoritesFile(p.paths, "Anna")); },
+           [](Program& p) { return Save_Favorites(p, FavoritesFile(p.paths, "Anna")); },
            [](const Program& p) { return FavoritesFile(p.paths, "Anna"); }},
-    Writer{"Language", "Mine.lsf", [](Program& p) { Save_Language_File(p, LanguagePath(p)); },
-           &LanguagePath},
+    Writer{"Language", "Mine.lsf", &SaveLanguage, &LanguagePath},
 };
 
 // Makes a fault, in force until the result is gone.
@@ -74,7 +81,7 @@ class FailingWrite : public testing::TestWithParam<Writer> {
     // As short as a language file can be: the tables of this program fill many thousand bytes.
     program.texts = {};
     SetFileChanged(program, true);
-    GetParam().save(program);
+    EXPECT_TRUE(GetParam().save(program));
     whole = ReadFile(path());
     SetFileChanged(program, true);
     box_count = test.boxes.shown.size();
@@ -100,7 +107,7 @@ class FailingWrite : public testing::TestWithParam<Writer> {
   }
 
   void SaveAgainAndCompare() {
-    GetParam().save(test.program);
+    EXPECT_TRUE(GetParam().save(test.program));
     EXPECT_EQ(test.boxes.shown.size(), box_count);
     EXPECT_EQ(ReadFile(path()), whole);
     EXPECT_EQ(test.program.day.FileChanged, GetParam().name != std::string_view("Day"));
@@ -111,7 +118,7 @@ class FailingWrite : public testing::TestWithParam<Writer> {
     for (std::size_t bytes = 0; bytes < whole.size(); ++bytes) {
       {
         const auto in_force = fault(bytes);
-        GetParam().save(test.program);
+        EXPECT_FALSE(GetParam().save(test.program));
       }
       CheckAfterFailure("after " + std::to_string(bytes) + " bytes");
       ASSERT_FALSE(std::filesystem::exists(path())) << bytes;
@@ -138,7 +145,7 @@ TEST_P(FailingWrite, AFileThatTheSystemLimitsToAnyNumberOfBytes) {
 TEST_P(FailingWrite, AClosingThatFails) {
   {
     const InjectedFault fault({.close_fails = true});
-    GetParam().save(test.program);
+    EXPECT_FALSE(GetParam().save(test.program));
   }
   CheckAfterFailure("close");
   EXPECT_FALSE(std::filesystem::exists(path()));
@@ -148,7 +155,7 @@ TEST_P(FailingWrite, AClosingThatFails) {
 TEST_P(FailingWrite, ADeleteThatFailsLeavesTheOldFileWhole) {
   {
     const InjectedFault fault({.delete_fails = true});
-    GetParam().save(test.program);
+    EXPECT_FALSE(GetParam().save(test.program));
   }
   CheckAfterFailure("delete");
   EXPECT_EQ(ReadFile(path()), whole);
@@ -173,7 +180,7 @@ TEST_P(FailingWrite, AWriteProtectedFileStaysAsItIs) {
 TEST_P(FailingWrite, AFolderInThePlaceOfTheFile) {
   std::filesystem::remove(path());
   std::filesystem::create_directory(path());
-  GetParam().save(test.program);
+  EXPECT_FALSE(GetParam().save(test.program));
   CheckAfterFailure("folder");
   EXPECT_TRUE(std::filesystem::is_directory(path()));
   std::filesystem::remove(path());
@@ -184,7 +191,7 @@ TEST_P(FailingWrite, AFolderInThePlaceOfTheFile) {
 TEST_P(FailingWrite, APipeInThePlaceOfTheFile) {
   std::filesystem::remove(path());
   ASSERT_EQ(mkfifo(path().c_str(), 0600), 0);
-  GetParam().save(test.program);
+  EXPECT_FALSE(GetParam().save(test.program));
   CheckAfterFailure("pipe");
   std::filesystem::remove(path());
   SaveAgainAndCompare();
@@ -193,7 +200,7 @@ TEST_P(FailingWrite, APipeInThePlaceOfTheFile) {
 TEST_P(FailingWrite, AFolderThatIsGone) {
   const std::filesystem::path folder = std::filesystem::path(path()).parent_path();
   std::filesystem::rename(folder, folder.string() + " away");
-  GetParam().save(test.program);
+  EXPECT_FALSE(GetParam().save(test.program));
   CheckAfterFailure("no folder");
   std::filesystem::rename(folder.string() + " away", folder);
   SaveAgainAndCompare();

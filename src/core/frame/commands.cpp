@@ -214,7 +214,8 @@ void RunCommand(Program& program, Command command) {
     case Command::mnu_browse:
       return program.windows.core->OpenWindow(WindowId::browser);
     case Command::mnu_bestand_opslaan:
-      return SaveDay(program);
+      SaveDay(program);
+      return;
     case Command::mnu_properties:
       return program.windows.core->OpenSettings();
     case Command::mnu_file_properties:
