@@ -20,6 +20,9 @@ is hard to see.  Each file is one category; what is checked, and why:
   nutrients do not weigh more than the portion; the energy follows from
   protein, fat and carbohydrate (4, 9 and 4 kcal per gram) within 15 kcal or
   20 %; there is not more sodium than pure salt holds.
+* Salt: a pulse that was boiled at home has next to no sodium, one out of a
+  tin has; what is called smoked, salted or pickled has, what is called
+  unsalted has not.
 * Exceptions: alcohol, fibre and polyols break the energy rule rightly.  Such
   foods are named with the reason in energy_exceptions.tsv.  An entry for a
   food that does not exist, or that meets the rule, is a violation too, so
@@ -69,6 +72,15 @@ FORM_NAMES = {
     WHOLE: "a whole number", ONE_DECIMAL: "a number with at most one decimal",
     THREE_DECIMALS: "a number with at most three decimals"}
 
+# Words in a name that tell how much sodium there is, in grams per 100 grams.
+PULSES = {"beans", "chickpeas", "lentils", "peas"}
+AT_HOME = {"boiled", "cooked", "raw", "steamed"}
+MOST_SODIUM_AT_HOME = Decimal("0.03")
+LEAST_SODIUM_TINNED = Decimal("0.1")
+SALTED = {"pickled", "salted", "smoked"}
+LEAST_SODIUM_SALTED = Decimal("0.2")
+MOST_SODIUM_UNSALTED = Decimal("0.05")
+
 # Slips that were made before, with what is right.  Dutch writes a compound as
 # one word, and an English habit parts it.
 MISSPELT = {
@@ -85,9 +97,10 @@ RULES = {
     "characters", "number form", "name length", "name capital", "spelling",
     "unit length", "group", "name twice", "order", "weight", "zero energy",
     "energy ratio", "nutrient weight", "energy sum", "sodium",
-    "category missing", "category ending", "category characters",
-    "food count", "category count", "exception form", "exception twice",
-    "exception unknown", "exception unneeded"}
+    "sodium of pulses", "sodium of salted", "category missing",
+    "category ending", "category characters", "food count", "category count",
+    "exception form", "exception twice", "exception unknown",
+    "exception unneeded"}
 
 Violation = namedtuple("Violation", "file line rule what")
 Food = namedtuple("Food", "file line category fields numbers")
@@ -257,6 +270,39 @@ def check_weight(report, food):
                    f"{n['sodium']} g sodium in {n['gram']} g")
 
 
+def words_of(food):
+    """The words of the name, in small letters."""
+    return set(re.findall(r"\w+", food.fields["name"].casefold()))
+
+
+def is_pulse(food):
+    """Whether the food is a pulse, eaten as such or as a vegetable."""
+    return (food.category == "Pulses"
+            or food.category == "Vegetables" and bool(words_of(food) & PULSES))
+
+
+def check_salt(report, food):
+    n, words = food.numbers, words_of(food)
+    if n["gram"] <= 0:
+        return
+    sodium = 100 * n["sodium"] / n["gram"]
+
+    def demand(holds, rule, what):
+        if not holds:
+            report.add(food.file, food.line, rule,
+                       f"{sodium:.3f} g sodium in 100 g, but it is {what}")
+
+    if is_pulse(food) and "tinned" in words:
+        demand(sodium >= LEAST_SODIUM_TINNED, "sodium of pulses", "tinned")
+    elif is_pulse(food) and words & AT_HOME:
+        demand(sodium <= MOST_SODIUM_AT_HOME, "sodium of pulses",
+               "not out of a tin")
+    if words & SALTED:
+        demand(sodium >= LEAST_SODIUM_SALTED, "sodium of salted", "salted")
+    if "unsalted" in words:
+        demand(sodium <= MOST_SODIUM_UNSALTED, "sodium of salted", "unsalted")
+
+
 def check_ratio(report, food):
     kj, kcal = food.numbers["kj"], food.numbers["kcal"]
     if kcal == 0:
@@ -292,6 +338,7 @@ def check_food(report, food, exceptions):
     check_text(report, food)
     if food.numbers is not None:
         check_weight(report, food)
+        check_salt(report, food)
         check_ratio(report, food)
         check_energy_sum(report, food, exceptions)
 
@@ -444,11 +491,11 @@ class Sample:
         return "".join("\t".join(r) + "\n" for r in rows).encode("utf-8")
 
 
-def setting(**values):
+def setting(category=Sample.CATEGORY, **values):
     """A case that gives one food other values."""
     def change(sample):
         for column, value in values.items():
-            sample.set(column, value)
+            sample.set(column, value, category=category)
     return change
 
 
@@ -566,6 +613,16 @@ CASES = [
      setting(kj="67", kcal="16", protein="0", fat_u="0", fat_s="0",
              carbs="0"), set()),
     ("sodium", "more than salt holds", setting(sodium="40.001"), set()),
+    ("sodium of pulses", "boiled beans with a tin's sodium",
+     setting("Pulses", name="Food 05, cooked", sodium="0.031"), set()),
+    ("sodium of pulses", "beans of a tin without sodium",
+     setting("Pulses", name="Food 05, tinned", sodium="0.099"), set()),
+    ("sodium of pulses", "boiled peas among the vegetables",
+     setting("Vegetables", name="Food 05, peas, boiled"), set()),
+    ("sodium of salted", "smoked without sodium",
+     setting(name="Food 05, smoked", sodium="0.199"), set()),
+    ("sodium of salted", "unsalted with sodium",
+     setting(name="Food 05, unsalted", sodium="0.051"), set()),
     ("category missing", "one file less", drop_category, set()),
     ("category ending", "ends with another", add_category("Smoked fish"),
      set()),
@@ -599,6 +656,16 @@ EDGES = [
     ("energy 20 kcal too high", setting(carbs="16", fat_s="1")),
     ("energy 20 kcal too low", setting(carbs="6", fat_s="1")),
     ("sodium of salt", setting(sodium="40")),
+    ("sodium of boiled beans",
+     setting("Pulses", name="Food 05, cooked", sodium="0.03")),
+    ("sodium of tinned beans",
+     setting("Pulses", name="Food 05, tinned", sodium="0.1")),
+    ("sodium of a cooked vegetable",
+     setting("Vegetables", name="Food 05, cooked")),
+    ("sodium of a salted food",
+     setting(name="Food 05, salted", sodium="0.2")),
+    ("sodium of an unsalted food",
+     setting(name="Food 05, unsalted", sodium="0.05")),
     ("40 characters", setting(name="Food 05 " + 32 * "x")),
     ("14 characters", setting(unit="1 medium glass")),
     ("accents", setting(remark="cr\u00e8me br\u00fbl\u00e9e")),
