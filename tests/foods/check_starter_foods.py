@@ -23,10 +23,14 @@ is hard to see.  Each file is one category; what is checked, and why:
 * Salt: a pulse that was boiled at home has next to no sodium, one out of a
   tin has; what is called smoked, salted or pickled has, what is called
   unsalted has not.
+* State: a fish, a piece of meat or a pulse says in its name whether it is
+  raw, cooked, smoked and the like: a third of the weight, and with it the
+  figures, depends on it.
 * Exceptions: alcohol, fibre and polyols break the energy rule rightly.  Such
-  foods are named with the reason in energy_exceptions.tsv.  An entry for a
-  food that does not exist, or that meets the rule, is a violation too, so
-  that the list cannot hide later mistakes.
+  foods are named with the reason in energy_exceptions.tsv; foods that are
+  sold in one state only stand in plain_foods.tsv.  An entry for a food that
+  does not exist, or that meets the rule, is a violation too, so that the
+  lists cannot hide later mistakes.
 * The whole: at least 350 foods in at least 12 categories, all the expected
   categories present, and no category name that is the ending of another one.
 
@@ -48,7 +52,8 @@ from pathlib import Path
 COLUMNS = ["name", "unit", "gram", "kj", "kcal", "protein", "fat_u", "fat_s",
            "carbs", "sodium", "group", "remark"]
 EXCEPTION_COLUMNS = ["category", "name", "reason"]
-REASONS = {"alcohol", "fibre", "polyols"}
+ENERGY_REASONS = {"alcohol", "fibre", "polyols"}
+PLAIN_REASONS = {"dish", "ready to eat"}
 EXPECTED_CATEGORIES = [
     "Bread", "Breakfast cereals", "Cakes and biscuits", "Cheese", "Dairy",
     "Dishes", "Drinks", "Eggs", "Fats and oils", "Fish", "Fruit", "Meat",
@@ -71,6 +76,12 @@ NUMBER_FORMS = {
 FORM_NAMES = {
     WHOLE: "a whole number", ONE_DECIMAL: "a number with at most one decimal",
     THREE_DECIMALS: "a number with at most three decimals"}
+
+# The categories whose foods say their state, and the words that say it.
+STATED_CATEGORIES = {"Fish", "Meat", "Pulses"}
+STATES = {"baked", "boiled", "braised", "cooked", "fried", "grilled", "pickled",
+          "poached", "raw", "roast", "roasted", "salted", "smoked", "steamed",
+          "stewed", "tinned"}
 
 # Words in a name that tell how much sodium there is, in grams per 100 grams.
 PULSES = {"beans", "chickpeas", "lentils", "peas"}
@@ -97,10 +108,10 @@ RULES = {
     "characters", "number form", "name length", "name capital", "spelling",
     "unit length", "group", "name twice", "order", "weight", "zero energy",
     "energy ratio", "nutrient weight", "energy sum", "sodium",
-    "sodium of pulses", "sodium of salted", "category missing",
-    "category ending", "category characters", "food count", "category count",
-    "exception form", "exception twice", "exception unknown",
-    "exception unneeded"}
+    "sodium of pulses", "sodium of salted", "state",
+    "category missing", "category ending", "category characters",
+    "food count", "category count", "exception form", "exception twice",
+    "exception unknown", "exception unneeded"}
 
 Violation = namedtuple("Violation", "file line rule what")
 Food = namedtuple("Food", "file line category fields numbers")
@@ -176,8 +187,8 @@ def read_numbers(report, file, line, fields):
     return numbers if len(numbers) == len(NUMBER_FORMS) else None
 
 
-def read_exceptions(report, file, data):
-    """The exceptions as {(category, name): line}."""
+def read_exceptions(report, file, data, reasons):
+    """The exceptions of one rule as {(category, name): line}."""
     if data is None:
         report.add(file, 1, "exception form", "the file is missing")
         return {}
@@ -193,10 +204,10 @@ def read_exceptions(report, file, data):
                        f"{len(values)} fields, 3 expected")
             continue
         category, name, reason = values
-        if reason not in REASONS:
+        if reason not in reasons:
             report.add(file, number, "exception form",
                        f"reason {reason!r} is none of "
-                       + ", ".join(sorted(REASONS)))
+                       + ", ".join(sorted(reasons)))
         if (category, name) in exceptions:
             report.add(file, number, "exception twice",
                        f"{category}, {name} is listed twice")
@@ -334,8 +345,22 @@ def check_energy_sum(report, food, exceptions):
                    f"{energy_from_nutrients(food.numbers)}")
 
 
-def check_food(report, food, exceptions):
+def says_state(food):
+    """Whether the name tells what was done to the food, where it has to."""
+    return (food.category not in STATED_CATEGORIES and not is_pulse(food)
+            or bool(words_of(food) & STATES))
+
+
+def check_state(report, food, plain):
+    name = food.fields["name"]
+    if (food.category, name) not in plain and not says_state(food):
+        report.add(food.file, food.line, "state",
+                   f"{name} does not say whether it is raw, cooked or else")
+
+
+def check_food(report, food, exceptions, plain):
     check_text(report, food)
+    check_state(report, food, plain)
     if food.numbers is not None:
         check_weight(report, food)
         check_salt(report, food)
@@ -395,31 +420,33 @@ def check_categories(report, files, folder):
                            f"category name ends with category {other}")
 
 
-def check_exceptions(report, file, exceptions, foods):
+def check_exceptions(report, file, exceptions, foods, meets):
     by_key = {(food.category, food.fields["name"]): food for food in foods}
     for key, line in exceptions.items():
         food = by_key.get(key)
         if food is None:
             report.add(file, line, "exception unknown",
                        f"there is no food {key[1]} in {key[0]}")
-        elif food.numbers is not None and meets_energy_sum(food.numbers):
+        elif meets(food):
             report.add(file, line, "exception unneeded",
-                       f"{key[1]} in {key[0]} meets the energy rule")
+                       f"{key[1]} in {key[0]} meets the rule")
 
 
 Result = namedtuple("Result", "violations foods categories exceptions")
 
 
-def check(files, exception_data, folder="foods",
-          exception_file="energy_exceptions.tsv"):
-    """Checks {file name: bytes} and the bytes of the exception list."""
+def check(files, energy_data, plain_data, folder="foods",
+          energy_file="energy_exceptions.tsv", plain_file="plain_foods.tsv"):
+    """Checks {file name: bytes} and the bytes of the two exception lists."""
     report = Report()
-    exceptions = read_exceptions(report, exception_file, exception_data)
+    exceptions = read_exceptions(report, energy_file, energy_data,
+                                 ENERGY_REASONS)
+    plain = read_exceptions(report, plain_file, plain_data, PLAIN_REASONS)
     all_foods = []
     for file, data in files.items():
         foods = read_foods(report, file, data)
         for food in foods:
-            check_food(report, food, exceptions)
+            check_food(report, food, exceptions, plain)
         check_file(report, foods)
         all_foods += foods
     check_names(report, all_foods)
@@ -427,25 +454,31 @@ def check(files, exception_data, folder="foods",
     if len(all_foods) < MIN_FOODS:
         report.add(folder, 0, "food count",
                    f"{len(all_foods)} foods, at least {MIN_FOODS} expected")
-    check_exceptions(report, exception_file, exceptions, all_foods)
+    check_exceptions(
+        report, energy_file, exceptions, all_foods,
+        lambda food: food.numbers is not None and meets_energy_sum(food.numbers))
+    check_exceptions(report, plain_file, plain, all_foods, says_state)
     return Result(report.violations, len(all_foods), len(files),
-                  len(exceptions))
+                  len(exceptions) + len(plain))
 
 
 def print_result(result):
     for violation in result.violations:
         print(f"{violation.file}:{violation.line}: {violation.what}")
     print(f"{result.foods} foods in {result.categories} categories, "
-          f"{result.exceptions} energy exceptions, "
+          f"{result.exceptions} exceptions, "
           f"{len(result.violations)} violations")
     return 1 if result.violations else 0
 
 
-def check_folder(folder, exception_path):
+def check_folder(folder, lists):
+    """Checks the tables in one folder, the exception lists in another."""
     files = {str(path): path.read_bytes()
              for path in sorted(folder.glob("*.tsv"))}
-    data = exception_path.read_bytes() if exception_path.is_file() else None
-    return print_result(check(files, data, str(folder), str(exception_path)))
+    paths = [lists / "energy_exceptions.tsv", lists / "plain_foods.tsv"]
+    data = [path.read_bytes() if path.is_file() else None for path in paths]
+    return print_result(check(files, *data, str(folder),
+                              *(str(path) for path in paths)))
 
 
 # ------------------------------------------------------------------ self-test
@@ -455,6 +488,7 @@ class Sample:
 
     CATEGORY = "Cheese"
     WINE = "Wine, beer and spirits"
+    PLAIN = "Food 06, of meat"
 
     def __init__(self):
         self.rows = {}
@@ -467,12 +501,16 @@ class Sample:
         self.set("fat_u", "0", category=self.WINE)
         self.exceptions = [EXCEPTION_COLUMNS[:],
                            [self.WINE, self.name(5, self.WINE), "alcohol"]]
+        self.plain = [EXCEPTION_COLUMNS[:],
+                      ["Meat", self.PLAIN, "ready to eat"]]
+        self.set("name", self.PLAIN, row=6, category="Meat")
         self.rewrite = lambda data: data
 
     @classmethod
     def name(cls, number, category):
         tail = "" if category == cls.CATEGORY else f" {category}"
-        return f"Food {number:02}{tail}"
+        state = ", fried" if category in STATED_CATEGORIES else ""
+        return f"Food {number:02}{tail}{state}"
 
     def set(self, column, value, row=5, category=CATEGORY):
         self.rows[category][row][COLUMNS.index(column)] = value
@@ -483,8 +521,8 @@ class Sample:
         broken = f"{self.CATEGORY}.tsv"
         if broken in files:
             files[broken] = self.rewrite(files[broken])
-        data = self.exceptions and self.encode(self.exceptions)
-        return check(files, data)
+        return check(files, *(rows and self.encode(rows)
+                              for rows in (self.exceptions, self.plain)))
 
     @staticmethod
     def encode(rows):
@@ -532,7 +570,7 @@ def shorten_files(sample):
 def drop_category(sample):
     del sample.rows[Sample.CATEGORY]
     sample.rows["Fish"] += [
-        [f"Food {i}"] + sample.rows["Fish"][1][1:] for i in range(17, 33)]
+        [f"Food {i}, fried"] + sample.rows["Fish"][1][1:] for i in range(17, 33)]
 
 
 def drop_last_line_end(sample):
@@ -543,8 +581,16 @@ def add_exception(*fields):
     return lambda sample: sample.exceptions.append(list(fields))
 
 
+def add_plain(*fields):
+    return lambda sample: sample.plain.append(list(fields))
+
+
 def drop_exceptions(sample):
     sample.exceptions = None
+
+
+def drop_plain(sample):
+    sample.plain = None
 
 
 def rename_exception_header(sample):
@@ -623,6 +669,11 @@ CASES = [
      setting(name="Food 05, smoked", sodium="0.199"), set()),
     ("sodium of salted", "unsalted with sodium",
      setting(name="Food 05, unsalted", sodium="0.051"), set()),
+    ("state", "fish without a state", setting("Fish", name="Food 05, of fish"), set()),
+    ("state", "a word that only ends like a state",
+     setting("Meat", name="Food 05, overcooked"), set()),
+    ("state", "beans among the vegetables",
+     setting("Vegetables", name="Food 05, beans"), set()),
     ("category missing", "one file less", drop_category, set()),
     ("category ending", "ends with another", add_category("Smoked fish"),
      set()),
@@ -634,6 +685,9 @@ CASES = [
     ("category count", "11 files", keep_categories(11),
      {"category missing", "food count"}),
     ("exception form", "no such file", drop_exceptions, {"energy sum"}),
+    ("exception form", "no list of plain foods", drop_plain, {"state"}),
+    ("exception form", "reason of the other list",
+     lambda sample: sample.plain[1].__setitem__(2, "alcohol"), set()),
     ("exception form", "other header", rename_exception_header, set()),
     ("exception form", "two fields",
      add_exception("Cheese", "Food 05"), set()),
@@ -646,6 +700,12 @@ CASES = [
      add_exception("Cheese", "Food 99", "fibre"), set()),
     ("exception unneeded", "meets the rule",
      add_exception("Cheese", "Food 05", "fibre"), set()),
+    ("exception unknown", "no such plain food",
+     add_plain("Fish", "Food 99", "dish"), set()),
+    ("exception unneeded", "plain food that says its state",
+     add_plain("Fish", Sample.name(5, "Fish"), "dish"), set()),
+    ("exception unneeded", "plain food that need not say its state",
+     add_plain("Cheese", "Food 05", "dish"), set()),
 ]
 
 # Values on the very edge of a rule, which have to pass.
@@ -666,6 +726,7 @@ EDGES = [
      setting(name="Food 05, salted", sodium="0.2")),
     ("sodium of an unsalted food",
      setting(name="Food 05, unsalted", sodium="0.05")),
+    ("no state of a vegetable", setting("Vegetables", name="Food 05, of some kind")),
     ("40 characters", setting(name="Food 05 " + 32 * "x")),
     ("14 characters", setting(unit="1 medium glass")),
     ("accents", setting(remark="cr\u00e8me br\u00fbl\u00e9e")),
@@ -705,9 +766,8 @@ def main():
     parser.add_argument("folder", nargs="?", type=Path,
                         help="the folder of the *.tsv files")
     parser.add_argument("--exceptions", type=Path,
-                        default=Path(__file__).with_name(
-                            "energy_exceptions.tsv"),
-                        help="the list of energy exceptions")
+                        default=Path(__file__).parent,
+                        help="the folder of the exception lists")
     parser.add_argument("--self-test", action="store_true",
                         help="show that every rule is able to fail")
     arguments = parser.parse_args()
