@@ -16,6 +16,9 @@ is hard to see.  Each file is one category; what is checked, and why:
 * Text: names of at most 40 characters that begin with a capital, units of at
   most 14 characters, one group for a whole file, no name twice in any
   category, foods in alphabetical order, no slip that was made before.
+* Search: a remark is a list of what people look for, parted by a comma and a
+  blank, nothing in it twice.  Plant drinks may not be sold as milk and are
+  looked for as milk all the same, so that their remarks hold both words.
 * Sense: kJ and kcal tell the same energy (4.1 to 4.3 kJ per kcal); the
   nutrients do not weigh more than the portion; the energy follows from
   protein, fat and carbohydrate (4, 9 and 4 kcal per gram) within 15 kcal or
@@ -92,6 +95,10 @@ SALTED = {"pickled", "salted", "smoked"}
 LEAST_SODIUM_SALTED = Decimal("0.2")
 MOST_SODIUM_UNSALTED = Decimal("0.05")
 
+# The plants whose drinks are called milk at home, English and Dutch.
+PLANT_MILKS = {"almond": "amandel", "coconut": "kokos", "oat": "haver",
+               "rice": "rijst", "soya": "soja"}
+
 # Slips that were made before, with what is right.  Dutch writes a compound as
 # one word, and an English habit parts it.
 MISSPELT = {
@@ -106,7 +113,7 @@ MISSPELT = {
 RULES = {
     "encoding", "line ends", "header", "columns", "empty", "spaces",
     "characters", "number form", "name length", "name capital", "spelling",
-    "unit length", "group", "name twice", "order", "weight", "zero energy",
+    "search words", "unit length", "group", "name twice", "order", "weight", "zero energy",
     "energy ratio", "nutrient weight", "energy sum", "sodium",
     "sodium of pulses", "sodium of salted", "state",
     "category missing", "category ending", "category characters",
@@ -268,6 +275,21 @@ def check_text(report, food):
                    f"unit has {len(unit)} characters, at most {MAX_UNIT}")
 
 
+def check_search_words(report, food):
+    name = food.fields["name"].casefold()
+    remark = food.fields["remark"].casefold()
+    words = remark.split(", ")
+    if len(set(words)) < len(words) or any("," in word for word in words):
+        report.add(food.file, food.line, "search words",
+                   f"remark {remark!r} is no list of different words")
+    for english, dutch in PLANT_MILKS.items():
+        if name.startswith(f"{english} drink"):
+            for word in (f"{dutch}drink", f"{dutch}melk", f"{english} milk"):
+                if word not in remark:
+                    report.add(food.file, food.line, "search words",
+                               f"remark of {name} lacks {word!r}")
+
+
 def check_weight(report, food):
     n = food.numbers
     if n["gram"] <= 0:
@@ -360,6 +382,7 @@ def check_state(report, food, plain):
 
 def check_food(report, food, exceptions, plain):
     check_text(report, food)
+    check_search_words(report, food)
     check_state(report, food, plain)
     if food.numbers is not None:
         check_weight(report, food)
@@ -529,11 +552,11 @@ class Sample:
         return "".join("\t".join(r) + "\n" for r in rows).encode("utf-8")
 
 
-def setting(category=Sample.CATEGORY, **values):
+def setting(category=Sample.CATEGORY, row=5, **values):
     """A case that gives one food other values."""
     def change(sample):
         for column, value in values.items():
-            sample.set(column, value, category=category)
+            sample.set(column, value, row, category)
     return change
 
 
@@ -636,6 +659,17 @@ CASES = [
     ("spelling", "English slip", setting(name="Food 05, Shaslik"), set()),
     ("spelling", "Dutch compound apart",
      setting(remark="Jong belegen kaas"), set()),
+    ("search words", "plant drink without its Dutch milk",
+     setting(row=16, name="Oat drink", remark="haverdrink, oat milk"), set()),
+    ("search words", "plant drink without its English milk",
+     setting(row=16, name="Oat drink", remark="haverdrink, havermelk"),
+     set()),
+    ("search words", "plant drink without its name in the shop",
+     setting(row=16, name="Oat drink", remark="havermelk, oat milk"), set()),
+    ("search words", "same word twice",
+     setting(remark="haverdrank, Haverdrank"), set()),
+    ("search words", "comma without a blank",
+     setting(remark="haverdrank,havermelk"), set()),
     ("unit length", "15 characters", setting(unit="1 serving spoon"), set()),
     ("group", "other group", setting(group="Dairy"), set()),
     ("name twice", "same name", setting(name="Food 04"), set()),
@@ -727,6 +761,9 @@ EDGES = [
     ("sodium of an unsalted food",
      setting(name="Food 05, unsalted", sodium="0.05")),
     ("no state of a vegetable", setting("Vegetables", name="Food 05, of some kind")),
+    ("search words of a plant drink",
+     setting(row=16, name="Oat drink",
+             remark="ongezoete haverdrink, havermelk, oat milk")),
     ("40 characters", setting(name="Food 05 " + 32 * "x")),
     ("14 characters", setting(unit="1 medium glass")),
     ("accents", setting(remark="cr\u00e8me br\u00fbl\u00e9e")),
