@@ -29,6 +29,9 @@ is hard to see.  Each file is one category; what is checked, and why:
 * State: a fish, a piece of meat or a pulse says in its name whether it is
   raw, cooked, smoked and the like: a third of the weight, and with it the
   figures, depends on it.
+* Ranges: known_ranges.tsv tells for staple foods, and for those that were
+  wrong once, between which amounts per 100 grams public composition tables
+  put them.
 * Exceptions: alcohol, fibre and polyols break the energy rule rightly.  Such
   foods are named with the reason in energy_exceptions.tsv; foods that are
   sold in one state only stand in plain_foods.tsv.  An entry for a food that
@@ -38,7 +41,7 @@ is hard to see.  Each file is one category; what is checked, and why:
   categories present, and no category name that is the ending of another one.
 
 What it cannot see: whether the Dutch name is the right word, and whether a
-number that fits the rules is the right number.
+number that fits the rules and has no range is the right number.
 
 Each violation is printed as "file:line: what"; the last line gives counts.
 The exit status is 1 when there is any violation.
@@ -55,6 +58,7 @@ from pathlib import Path
 COLUMNS = ["name", "unit", "gram", "kj", "kcal", "protein", "fat_u", "fat_s",
            "carbs", "sodium", "group", "remark"]
 EXCEPTION_COLUMNS = ["category", "name", "reason"]
+RANGE_COLUMNS = ["category", "name", "nutrient", "least", "most"]
 ENERGY_REASONS = {"alcohol", "fibre", "polyols"}
 PLAIN_REASONS = {"dish", "ready to eat"}
 EXPECTED_CATEGORIES = [
@@ -76,15 +80,19 @@ NUMBER_FORMS = {
     "gram": WHOLE, "kj": WHOLE, "kcal": WHOLE, "protein": ONE_DECIMAL,
     "fat_u": ONE_DECIMAL, "fat_s": ONE_DECIMAL, "carbs": ONE_DECIMAL,
     "sodium": THREE_DECIMALS}
+# What a range may be given for, as columns that are added.
+NUTRIENTS = {"kcal": ["kcal"], "protein": ["protein"],
+             "fat": ["fat_u", "fat_s"], "carbs": ["carbs"],
+             "sodium": ["sodium"]}
 FORM_NAMES = {
     WHOLE: "a whole number", ONE_DECIMAL: "a number with at most one decimal",
     THREE_DECIMALS: "a number with at most three decimals"}
 
 # The categories whose foods say their state, and the words that say it.
 STATED_CATEGORIES = {"Fish", "Meat", "Pulses"}
-STATES = {"baked", "boiled", "braised", "cooked", "fried", "grilled", "pickled",
-          "poached", "raw", "roast", "roasted", "salted", "smoked", "steamed",
-          "stewed", "tinned"}
+STATES = {"baked", "boiled", "braised", "cooked", "fried", "grilled",
+          "pickled", "poached", "raw", "roast", "roasted", "salted", "smoked",
+          "steamed", "stewed", "tinned"}
 
 # Words in a name that tell how much sodium there is, in grams per 100 grams.
 PULSES = {"beans", "chickpeas", "lentils", "peas"}
@@ -113,12 +121,13 @@ MISSPELT = {
 RULES = {
     "encoding", "line ends", "header", "columns", "empty", "spaces",
     "characters", "number form", "name length", "name capital", "spelling",
-    "search words", "unit length", "group", "name twice", "order", "weight", "zero energy",
-    "energy ratio", "nutrient weight", "energy sum", "sodium",
+    "search words", "unit length", "group", "name twice", "order", "weight",
+    "zero energy", "energy ratio", "nutrient weight", "energy sum", "sodium",
     "sodium of pulses", "sodium of salted", "state",
     "category missing", "category ending", "category characters",
     "food count", "category count", "exception form", "exception twice",
-    "exception unknown", "exception unneeded"}
+    "exception unknown", "exception unneeded", "range", "range form",
+    "range unknown"}
 
 Violation = namedtuple("Violation", "file line rule what")
 Food = namedtuple("Food", "file line category fields numbers")
@@ -220,6 +229,34 @@ def read_exceptions(report, file, data, reasons):
                        f"{category}, {name} is listed twice")
         exceptions.setdefault((category, name), number)
     return exceptions
+
+
+def read_ranges(report, file, data):
+    """The ranges as rows of RANGE_COLUMNS and the line."""
+    if data is None:
+        report.add(file, 1, "range form", "the file is missing")
+        return []
+    lines = split_lines(report, file, data) or []
+    if not lines or lines[0] != "\t".join(RANGE_COLUMNS):
+        report.add(file, 1, "range form",
+                   "header is not " + ", ".join(RANGE_COLUMNS))
+    ranges = []
+    for number, line in enumerate(lines[1:], 2):
+        values = line.split("\t")
+        if len(values) != len(RANGE_COLUMNS):
+            report.add(file, number, "range form",
+                       f"{len(values)} fields, {len(RANGE_COLUMNS)} expected")
+            continue
+        category, name, nutrient, *bounds = values
+        if (nutrient not in NUTRIENTS
+                or not all(THREE_DECIMALS.fullmatch(b) for b in bounds)
+                or Decimal(bounds[0]) > Decimal(bounds[1])):
+            report.add(file, number, "range form",
+                       f"{nutrient} from {bounds[0]} to {bounds[1]}")
+            continue
+        ranges.append((category, name, nutrient, *map(Decimal, bounds),
+                       number))
+    return ranges
 
 
 def category_of(file):
@@ -359,6 +396,10 @@ def meets_energy_sum(numbers):
     return abs(kcal - energy_from_nutrients(numbers)) <= allowed
 
 
+def adds_up(food):
+    return food.numbers is not None and meets_energy_sum(food.numbers)
+
+
 def check_energy_sum(report, food, exceptions):
     excepted = (food.category, food.fields["name"]) in exceptions
     if not excepted and not meets_energy_sum(food.numbers):
@@ -455,12 +496,29 @@ def check_exceptions(report, file, exceptions, foods, meets):
                        f"{key[1]} in {key[0]} meets the rule")
 
 
-Result = namedtuple("Result", "violations foods categories exceptions")
+def check_ranges(report, file, ranges, foods):
+    by_key = {(food.category, food.fields["name"]): food for food in foods}
+    for category, name, nutrient, least, most, line in ranges:
+        food = by_key.get((category, name))
+        if food is None:
+            report.add(file, line, "range unknown",
+                       f"there is no food {name} in {category}")
+        elif food.numbers is not None and food.numbers["gram"] > 0:
+            amount = (100 * sum(food.numbers[c] for c in NUTRIENTS[nutrient])
+                      / food.numbers["gram"])
+            if not least <= amount <= most:
+                report.add(food.file, food.line, "range",
+                           f"{amount:.4g} {nutrient} in 100 g of {name}, "
+                           f"{least} to {most} expected")
 
 
-def check(files, energy_data, plain_data, folder="foods",
-          energy_file="energy_exceptions.tsv", plain_file="plain_foods.tsv"):
-    """Checks {file name: bytes} and the bytes of the two exception lists."""
+Result = namedtuple("Result", "violations foods categories exceptions ranges")
+
+
+def check(files, energy_data, plain_data, range_data, folder="foods",
+          energy_file="energy_exceptions.tsv", plain_file="plain_foods.tsv",
+          range_file="known_ranges.tsv"):
+    """Checks {file name: bytes} and the bytes of the three lists."""
     report = Report()
     exceptions = read_exceptions(report, energy_file, energy_data,
                                  ENERGY_REASONS)
@@ -477,28 +535,29 @@ def check(files, energy_data, plain_data, folder="foods",
     if len(all_foods) < MIN_FOODS:
         report.add(folder, 0, "food count",
                    f"{len(all_foods)} foods, at least {MIN_FOODS} expected")
-    check_exceptions(
-        report, energy_file, exceptions, all_foods,
-        lambda food: food.numbers is not None and meets_energy_sum(food.numbers))
+    check_exceptions(report, energy_file, exceptions, all_foods, adds_up)
     check_exceptions(report, plain_file, plain, all_foods, says_state)
+    ranges = read_ranges(report, range_file, range_data)
+    check_ranges(report, range_file, ranges, all_foods)
     return Result(report.violations, len(all_foods), len(files),
-                  len(exceptions) + len(plain))
+                  len(exceptions) + len(plain), len(ranges))
 
 
 def print_result(result):
     for violation in result.violations:
         print(f"{violation.file}:{violation.line}: {violation.what}")
     print(f"{result.foods} foods in {result.categories} categories, "
-          f"{result.exceptions} exceptions, "
+          f"{result.exceptions} exceptions, {result.ranges} ranges, "
           f"{len(result.violations)} violations")
     return 1 if result.violations else 0
 
 
 def check_folder(folder, lists):
-    """Checks the tables in one folder, the exception lists in another."""
+    """Checks the tables in one folder by the lists in another."""
     files = {str(path): path.read_bytes()
              for path in sorted(folder.glob("*.tsv"))}
-    paths = [lists / "energy_exceptions.tsv", lists / "plain_foods.tsv"]
+    paths = [lists / "energy_exceptions.tsv", lists / "plain_foods.tsv",
+             lists / "known_ranges.tsv"]
     data = [path.read_bytes() if path.is_file() else None for path in paths]
     return print_result(check(files, *data, str(folder),
                               *(str(path) for path in paths)))
@@ -517,8 +576,8 @@ class Sample:
         self.rows = {}
         for category in EXPECTED_CATEGORIES:
             self.rows[category] = [COLUMNS[:]] + [
-                [self.name(i, category), "1 slice", "100", "418", "100", "5", "3",
-                 "2", "9", "0.1", category, f"voedsel {i:02}"]
+                [self.name(i, category), "1 slice", "100", "418", "100", "5",
+                 "3", "2", "9", "0.1", category, f"voedsel {i:02}"]
                 for i in range(1, 17)]
         self.set("carbs", "0", category=self.WINE)
         self.set("fat_u", "0", category=self.WINE)
@@ -527,6 +586,8 @@ class Sample:
         self.plain = [EXCEPTION_COLUMNS[:],
                       ["Meat", self.PLAIN, "ready to eat"]]
         self.set("name", self.PLAIN, row=6, category="Meat")
+        self.ranges = [RANGE_COLUMNS[:],
+                       ["Meat", self.name(4, "Meat"), "fat", "5", "5"]]
         self.rewrite = lambda data: data
 
     @classmethod
@@ -545,7 +606,8 @@ class Sample:
         if broken in files:
             files[broken] = self.rewrite(files[broken])
         return check(files, *(rows and self.encode(rows)
-                              for rows in (self.exceptions, self.plain)))
+                              for rows in (self.exceptions, self.plain,
+                                           self.ranges)))
 
     @staticmethod
     def encode(rows):
@@ -593,7 +655,8 @@ def shorten_files(sample):
 def drop_category(sample):
     del sample.rows[Sample.CATEGORY]
     sample.rows["Fish"] += [
-        [f"Food {i}, fried"] + sample.rows["Fish"][1][1:] for i in range(17, 33)]
+        [f"Food {i}, fried"] + sample.rows["Fish"][1][1:]
+        for i in range(17, 33)]
 
 
 def drop_last_line_end(sample):
@@ -606,6 +669,18 @@ def add_exception(*fields):
 
 def add_plain(*fields):
     return lambda sample: sample.plain.append(list(fields))
+
+
+def add_range(*fields):
+    return lambda sample: sample.ranges.append(list(fields))
+
+
+def drop_ranges(sample):
+    sample.ranges = None
+
+
+def rename_range_header(sample):
+    sample.ranges[0][2] = "column"
 
 
 def drop_exceptions(sample):
@@ -703,7 +778,8 @@ CASES = [
      setting(name="Food 05, smoked", sodium="0.199"), set()),
     ("sodium of salted", "unsalted with sodium",
      setting(name="Food 05, unsalted", sodium="0.051"), set()),
-    ("state", "fish without a state", setting("Fish", name="Food 05, of fish"), set()),
+    ("state", "fish without a state",
+     setting("Fish", name="Food 05, of fish"), set()),
     ("state", "a word that only ends like a state",
      setting("Meat", name="Food 05, overcooked"), set()),
     ("state", "beans among the vegetables",
@@ -740,6 +816,24 @@ CASES = [
      add_plain("Fish", Sample.name(5, "Fish"), "dish"), set()),
     ("exception unneeded", "plain food that need not say its state",
      add_plain("Cheese", "Food 05", "dish"), set()),
+    ("range", "too little",
+     add_range("Cheese", "Food 05", "kcal", "100.1", "110"), set()),
+    ("range", "too much", add_range("Cheese", "Food 05", "carbs", "8", "8.9"),
+     set()),
+    ("range", "more in a smaller portion",
+     setting("Meat", 4, gram="50"), set()),
+    ("range form", "no such file", drop_ranges, set()),
+    ("range form", "other header", rename_range_header, set()),
+    ("range form", "four fields", add_range("Cheese", "Food 05", "fat", "5"),
+     set()),
+    ("range form", "unknown nutrient",
+     add_range("Cheese", "Food 05", "fibre", "0", "100"), set()),
+    ("range form", "decimal comma",
+     add_range("Cheese", "Food 05", "fat", "4,9", "5"), set()),
+    ("range form", "bounds in the wrong order",
+     add_range("Cheese", "Food 05", "fat", "6", "4"), set()),
+    ("range unknown", "no such food",
+     add_range("Cheese", "Food 99", "fat", "0", "100"), set()),
 ]
 
 # Values on the very edge of a rule, which have to pass.
@@ -760,10 +854,13 @@ EDGES = [
      setting(name="Food 05, salted", sodium="0.2")),
     ("sodium of an unsalted food",
      setting(name="Food 05, unsalted", sodium="0.05")),
-    ("no state of a vegetable", setting("Vegetables", name="Food 05, of some kind")),
+    ("no state of a vegetable",
+     setting("Vegetables", name="Food 05, of some kind")),
     ("search words of a plant drink",
      setting(row=16, name="Oat drink",
              remark="ongezoete haverdrink, havermelk, oat milk")),
+    ("amounts on the bounds",
+     add_range("Cheese", "Food 05", "carbs", "9", "9")),
     ("40 characters", setting(name="Food 05 " + 32 * "x")),
     ("14 characters", setting(unit="1 medium glass")),
     ("accents", setting(remark="cr\u00e8me br\u00fbl\u00e9e")),
@@ -802,9 +899,8 @@ def main():
         description="Check the starter foods.")
     parser.add_argument("folder", nargs="?", type=Path,
                         help="the folder of the *.tsv files")
-    parser.add_argument("--exceptions", type=Path,
-                        default=Path(__file__).parent,
-                        help="the folder of the exception lists")
+    parser.add_argument("--lists", type=Path, default=Path(__file__).parent,
+                        help="the folder of the exceptions and ranges")
     parser.add_argument("--self-test", action="store_true",
                         help="show that every rule is able to fail")
     arguments = parser.parse_args()
@@ -813,7 +909,7 @@ def main():
         return self_test()
     if arguments.folder is None or not arguments.folder.is_dir():
         parser.error("name the folder of the *.tsv files")
-    return check_folder(arguments.folder, arguments.exceptions)
+    return check_folder(arguments.folder, arguments.lists)
 
 
 if __name__ == "__main__":
