@@ -10,21 +10,25 @@
 #include <system_error>
 #include <utility>
 
+#include "core/action_log.h"
 #include "platform/boxes.h"
 
 namespace kelvora {
 
-// What a failure box needs: where to show it and the first line in the language of the moment.
+// What a failure box needs: where to show it, the first line in the language of the moment, and
+// what has been told already.
 struct FailureBox {
   Boxes& boxes;
   const Text& opening_line;
+  ActionLog* told = nullptr;
 };
 
-// Shows the box: the opening line, an empty line, the system's words, and the code.
+// Shows the box: the opening line, an empty line, the system's words, and the code. A code that the
+// running action of the user has shown already is not shown again.
 void ReportFailure(const FailureBox& box, std::string_view code, std::string_view description);
 
-// The system's own words for an escaped exception.
-[[nodiscard]] Text DescribeFailure(const std::exception& failure);
+// The system's own words for an escaped exception, whatever its type.
+[[nodiscard]] Text DescribeFailure(const std::exception_ptr& failure);
 
 // Ends a routine as the system would: with an error that the system has words for, in the user's
 // own language. A failure never carries words of this program.
@@ -36,8 +40,8 @@ bool WithFailurePath(const FailureBox& box, std::string_view code, Body&& body) 
   try {
     std::forward<Body>(body)();
     return true;
-  } catch (const std::exception& failure) {
-    ReportFailure(box, code, DescribeFailure(failure));
+  } catch (...) {
+    ReportFailure(box, code, DescribeFailure(std::current_exception()));
     return false;
   }
 }

@@ -11,7 +11,7 @@ constexpr const char* kNowhere = "/dev/null/";
 }  // namespace
 
 FailureBox Program::FailurePath() {
-  return {platform.boxes, texts[message_text::kErrorOccurred]};
+  return {platform.boxes, texts[message_text::kErrorOccurred], &actions};
 }
 
 void SetFileChanged(Program& program, bool changed) {
@@ -42,6 +42,11 @@ Text JoinLines(const TextTables& texts, std::initializer_list<std::optional<Text
     first = false;
   }
   return joined;
+}
+
+void EndProgram(Program& program) {
+  program.ending = true;
+  program.platform.events.End();
 }
 
 void Tell(Program& program, BoxIcon icon, Text text) {

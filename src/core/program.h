@@ -68,6 +68,8 @@ struct Program {
   LastRead last_read;
   ServerAddresses servers;
   Text StartSeparator;  // the decimal separator that the locale had at start
+  ActionLog actions;
+  bool ending = false;  // the main window is gone for good: nothing new begins
   Platform& platform;
 
   // Runs a routine's body under its own failure code.
@@ -94,6 +96,9 @@ void SetCurrentUser(Program& program, std::string_view name);
 // The texts of the tables joined as the lines of one box; an empty id gives an empty line.
 [[nodiscard]] Text JoinLines(const TextTables& texts,
                              std::initializer_list<std::optional<TextId>> lines);
+
+// Ends the program as soon as everything under way has returned. Asks nothing and saves nothing.
+void EndProgram(Program& program);
 
 // Shows a box with the program's title and an OK button.
 void Tell(Program& program, BoxIcon icon, Text text);

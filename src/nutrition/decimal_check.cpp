@@ -6,6 +6,8 @@ namespace kelvora {
 
 void CheckDecimal(Program& program) {
   if (program.platform.locale.DecimalSeparator() == program.StartSeparator) return;
+  // Windows that total the day one after the other need not say it each.
+  if (!program.actions.FirstTime("separator changed")) return;
   using namespace common_text;
   const TextTables& texts = program.texts;
   Tell(program, BoxIcon::error,

@@ -4,8 +4,8 @@
 namespace kelvora {
 
 struct ScreenSize {
-  int width = 0;   // device-independent pixels
-  int height = 0;  // device-independent pixels
+  int width = 0;   // pixels of the screen itself, whatever its scale
+  int height = 0;  // the same
 };
 
 class Screen {

@@ -32,6 +32,17 @@ TEST(FailurePath, EveryFailureOfTheProgramItselfHasTheSystemsWordsToo) {
             "An error occured.\n\nCannot allocate memory\nBrelux CODE:#FF1-9");
 }
 
+// Not everything that is thrown is an exception of the standard library.
+TEST(FailurePath, TakesWhateverIsThrown) {
+  TestProgram test;
+  EXPECT_FALSE(test.program.Guard("#FF1-9", [] { throw 7; }));
+  EXPECT_FALSE(test.program.Guard("#FF1-9", [] { throw "words"; }));
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "An error occured.\n\nState not recoverable\nBrelux CODE:#FF1-9");
+  EXPECT_EQ(test.boxes.shown[1].text, test.boxes.shown[0].text);
+}
+
 TEST(FailurePath, SaysNothingWhenNothingFails) {
   TestProgram test;
   EXPECT_TRUE(test.program.Guard("#FF1-9", [] {}));

@@ -49,7 +49,9 @@ struct FixedScreen : Screen {
 
 struct CountingEvents : Events {
   int yields = 0;
+  int ends = 0;
   void Yield() override { ++yields; }
+  void End() override { ++ends; }
 };
 
 // Opens and starts nothing but a note.

@@ -29,6 +29,7 @@ struct ActingEvents : Events {
     if (skipped-- > 0) return;
     if (const auto once = std::exchange(act, nullptr)) once();
   }
+  void End() override {}
 };
 
 class BrowserWindow : public testing::Test {

@@ -14,6 +14,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "platform/qt/guarded_application.h"
 #include "platform/qt/text.h"
 
 namespace kelvora {
@@ -60,6 +61,19 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
+// What closing a box without a choice answers.
+BoxAnswer SafeAnswerOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::ok:
+      return BoxAnswer::ok;
+    case BoxButtons::yes_no:
+      return BoxAnswer::no;
+    case BoxButtons::yes_no_cancel:
+      return BoxAnswer::cancel;
+  }
+  return BoxAnswer::ok;
+}
+
 QDateTime DateTimeOf(const LocalTime& time) {
   return {QDate(time.year, time.month, time.day), QTime(time.hour, time.minute, time.second)};
 }
@@ -71,6 +85,12 @@ std::string Standard(QStandardPaths::StandardLocation location) {
 }  // namespace
 
 BoxAnswer QtBoxes::Show(const Box& box) {
+  if (GuardedApplication::IsPainting()) {
+    // No window comes up in the middle of painting; it follows as soon as that is done.
+    QMetaObject::invokeMethod(
+        qApp, [box] { QtBoxes().Show(box); }, Qt::QueuedConnection);
+    return SafeAnswerOf(box.buttons);
+  }
   // A box during a long operation must be usable with a normal pointer.
   const bool waiting = QApplication::overrideCursor() != nullptr;
   if (waiting) QApplication::setOverrideCursor(Qt::ArrowCursor);
@@ -92,8 +112,10 @@ BoxAnswer QtBoxes::Show(const Box& box) {
       return BoxAnswer::no;
     case QMessageBox::Cancel:
       return BoxAnswer::cancel;
-    default:
+    case QMessageBox::Ok:
       return BoxAnswer::ok;
+    default:  // the program ended under it
+      return SafeAnswerOf(box.buttons);
   }
 }
 
@@ -150,7 +172,8 @@ LocalTime QtClock::Now() const {
 ScreenSize QtScreenSize::Size() const {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return {};
-  return {screen->size().width(), screen->size().height()};
+  const QSizeF pixels = QSizeF(screen->size()) * screen->devicePixelRatio();
+  return {qRound(pixels.width()), qRound(pixels.height())};
 }
 
 bool QtOpener::Open(const std::string& address) {
@@ -192,6 +215,10 @@ void QtEvents::Yield() {
   if (last_.elapsed() < kLeastMilliseconds) return;
   QCoreApplication::processEvents();
   last_.restart();
+}
+
+void QtEvents::End() {
+  QCoreApplication::exit();
 }
 
 }  // namespace kelvora

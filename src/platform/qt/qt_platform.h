@@ -52,6 +52,7 @@ class QtEvents : public Events {
  public:
   QtEvents() { last_.start(); }
   void Yield() override;
+  void End() override;
 
  private:
   QElapsedTimer last_;

@@ -1,5 +1,6 @@
 #include "platform/qt/text_table_model.h"
 
+#include "platform/qt/guarded_application.h"
 #include "platform/qt/text.h"
 
 namespace kelvora {
@@ -36,7 +37,7 @@ QVariant TextTableModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
-      return ToQt(cell_(row, column));
+      return Guarded([&] { return ToQt(cell_(row, column)); });
     case Qt::TextAlignmentRole:
       return QVariant(columns_[column].alignment | Qt::AlignVCenter);
     case Qt::DecorationRole:
