@@ -7,7 +7,7 @@
 
 namespace kelvora {
 
-// The names of all language files, sorted without regard to case.
+// The names of all language files that can be opened by them, sorted without regard to case.
 [[nodiscard]] TextList LanguageFileNames(const Paths& paths);
 
 // Loads the language file of that name, and lets the main window, the settings dialog and every
@@ -15,8 +15,10 @@ namespace kelvora {
 // changed.
 void ChooseLanguage(Program& program, std::string_view file_name);
 
-// Asks, and on a Yes deletes the three standard language files, makes them anew and loads the
-// language of the settings. A failure shows "#F4-16".
+// Asks, and on a Yes deletes the three standard language files, makes them anew, loads the language
+// of the settings and lets every open window take its captions anew. Says that all are repaired
+// when they are; a file that can't be deleted shows "#F4-16", one that can't be written its own
+// box.
 void RepairLanguageFiles(Program& program);
 
 }  // namespace kelvora

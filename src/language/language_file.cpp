@@ -5,6 +5,7 @@
 #include "core/common.h"
 #include "language/built_in_texts.h"
 #include "language/file_info_texts.h"
+#include "language/own_text_file.h"
 #include "storage/record_file.h"
 
 namespace kelvora {
@@ -12,18 +13,29 @@ namespace {
 
 struct StandardFile {
   const char* name;
-  void (*make)(TextTables&);
+  Language language;
 };
 
 constexpr std::array kStandardFiles = {
-    StandardFile{"English.lsf", &Make_Taal_English},
-    StandardFile{"Nederlands.lsf", &Make_Taal_Dutch},
-    StandardFile{"default.lsf", &Make_Taal_English},
+    StandardFile{"English.lsf", Language::english},
+    StandardFile{"Nederlands.lsf", Language::dutch},
+    StandardFile{"default.lsf", Language::english},
 };
 
-void ShowError(Program& program, std::string_view title, Text text) {
+// One box of a kind is enough, however many of the files meet the same cause.
+void ShowError(Program& program, std::string_view title, std::string_view words,
+               std::string_view path = {}) {
+  if (!program.actions.FirstTime(words)) return;
   program.platform.boxes.Show(
-      {.title = Text(title), .text = std::move(text), .icon = BoxIcon::error});
+      {.title = Text(title), .text = Text(words) + TextFromUtf8(path), .icon = BoxIcon::error});
+}
+
+void MakeTexts(TextTables& texts, Language language) {
+  if (language == Language::dutch) {
+    Make_Taal_Dutch(texts);
+  } else {
+    Make_Taal_English(texts);
+  }
 }
 
 // Lays the entries of one field over a table, from index `first` on.
@@ -35,6 +47,34 @@ void SplitTable(std::string_view field, TextTable table, std::size_t first, Text
     if (index > RangeOf(table).last) break;  // more entries than a table has are passed over
     texts[{table, index++}] = entry;
   }
+}
+
+// Writes one of the files of a language; false after the box of a failure.
+template <class Write>
+bool WriteOrTell(Program& program, const std::string& path, Write write) {
+  try {
+    write();
+    return true;
+  } catch (const std::exception&) {
+    ShowError(program, AppTitle, "An error occured while saving the languagefile", path);
+    return false;
+  }
+}
+
+bool SaveCompanion(Program& program, const std::string& path) {
+  return WriteOrTell(program, OwnTextFile(path), [&] { SaveOwnTexts(path, program.texts); });
+}
+
+// False if one of the two files had to be written and could not be.
+bool CheckStandardFile(Program& program, const StandardFile& file) {
+  const std::string path = program.paths.LanguagePath + file.name;
+  if (!FileExists(path) || Get_Language_Version(program, path) != VersionText) {
+    MakeTexts(program.texts, file.language);
+    return Save_Language_File(program, path);
+  }
+  if (OwnTextsAreCurrent(path)) return true;
+  program.texts.own = OwnTextsIn(file.language);
+  return SaveCompanion(program, path);
 }
 
 // The first record of a language file. Throws if there is none.
@@ -69,19 +109,17 @@ void Load_Language_File(Program& program, const std::string& path) {
   if (!FileExists(path)) return;
   try {
     SplitTables(ReadLanguage(path), program.texts);
+    LoadOwnTexts(path, program.texts);
   } catch (const std::exception&) {
     ShowError(program, "Error during loading #03",
               "Error during loading!\nThe language file could not be opened");
   }
 }
 
-void Save_Language_File(Program& program, const std::string& path) {
-  try {
-    WriteRecord(path, JoinTables(program.texts));
-  } catch (const std::exception&) {
-    ShowError(program, AppTitle,
-              "An error occured while saving the languagefile" + TextFromUtf8(path));
-  }
+bool Save_Language_File(Program& program, const std::string& path) {
+  const bool saved =
+      WriteOrTell(program, path, [&] { WriteRecord(path, JoinTables(program.texts)); });
+  return saved && SaveCompanion(program, path);
 }
 
 Text Get_Language_Version(Program& program, const std::string& path) {
@@ -92,21 +130,21 @@ Text Get_Language_Version(Program& program, const std::string& path) {
     SplitTable(ReadLanguage(path)[kTable], kTable, 1, program.texts);
     return program.texts[{kTable, file_info_text::kLanguageVersion.index + 1}];
   } catch (const std::exception&) {
-    ShowError(program, AppTitle,
-              "An error occured during language version retrieval in file " + TextFromUtf8(path));
+    ShowError(program, AppTitle, "An error occured during language version retrieval in file ",
+              path);
     return {};
   }
 }
 
-void Check_Language_Files(Program& program) {
-  program.Guard("#FF8-13", [&] {
-    for (const auto& [name, make] : kStandardFiles) {
-      const std::string path = program.paths.LanguagePath + name;
-      if (FileExists(path) && Get_Language_Version(program, path) == VersionText) continue;
-      make(program.texts);
-      Save_Language_File(program, path);
+bool Check_Language_Files(Program& program) {
+  const UserAction action(program.actions);
+  bool all_written = true;
+  const bool done = program.Guard("#FF8-13", [&] {
+    for (const StandardFile& file : kStandardFiles) {
+      all_written = CheckStandardFile(program, file) && all_written;
     }
   });
+  return done && all_written;
 }
 
 std::span<const std::string_view> StandardLanguageFiles() {
@@ -115,7 +153,20 @@ std::span<const std::string_view> StandardLanguageFiles() {
   return kNames;
 }
 
+void FillWithDefaultTexts(Program& program) {
+  program.texts = {};
+  Make_Taal_English(program.texts);
+  const std::string path = program.paths.LanguagePath + "default.lsf";
+  try {
+    SplitTables(ReadLanguage(path), program.texts);
+    LoadOwnTexts(path, program.texts);
+  } catch (const std::exception&) {
+    // The built-in texts are there.
+  }
+}
+
 void LoadChosenLanguage(Program& program) {
+  FillWithDefaultTexts(program);
   const Text& name = program.settings[Setting::Combo_taal];
   Load_Language_File(program, program.paths.LanguagePath + Utf8FromText(name));
 }

@@ -38,6 +38,16 @@ constexpr std::array kRows = {
                "Je hebt nog geen favorieten. Sleep een consumptie hierheen."_w},
     OwnTextRow{OwnText::empty_results, "No food items were found."_w,
                "Er zijn geen voedingsmiddelen gevonden."_w},
+    OwnTextRow{OwnText::folder_holds_other_data,
+               "There is other data of this user in the new folder already."_w,
+               "In de nieuwe map staan al andere gegevens van deze gebruiker."_w},
+    OwnTextRow{OwnText::folder_replace_question, "Do you want to replace it by the data of now?"_w,
+               "Wil je die vervangen door de gegevens van nu?"_w},
+    OwnTextRow{OwnText::folder_press_no,
+               "With 'No' it stays there, and you go on with it. No day is lost."_w,
+               "Met 'Nee' blijven ze staan en ga je daarmee verder. Er gaat geen dag verloren."_w},
+    OwnTextRow{OwnText::folder_from_now_on, "From now on your data is kept in the folder"_w,
+               "Vanaf nu staan je gegevens in de map"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {
@@ -53,7 +63,15 @@ Language LanguageOf(const TextTables& texts) {
 }
 
 Text OwnTextOf(const TextTables& texts, OwnText id) {
-  return OwnTextIn(LanguageOf(texts), id);
+  const auto place = static_cast<std::size_t>(id);
+  const bool translated = place < texts.own.size() && !texts.own[place].empty();
+  return translated ? texts.own[place] : OwnTextIn(Language::english, id);
+}
+
+std::vector<Text> OwnTextsIn(Language language) {
+  std::vector<Text> texts;
+  for (const OwnTextRow& row : kRows) texts.push_back(OwnTextIn(language, row.id));
+  return texts;
 }
 
 Text OwnTextIn(Language language, OwnText id) {

@@ -1,5 +1,6 @@
-// Texts that have no place in the numbered tables and stand in no language file. They follow the
-// language of the tables: Dutch beside the Dutch texts, English beside all others.
+// The program's own texts, which have no place in the numbered tables. They are a table of their
+// own, filled from the companion of the language file (own_text_file.h); a text that it lacks is
+// English.
 #pragma once
 
 #include "language/tables.h"
@@ -30,13 +31,21 @@ enum class OwnText {
   empty_own_list,
   empty_favourites,
   empty_results,
+  // Another users folder while the data of a user is open.
+  folder_holds_other_data,
+  folder_replace_question,
+  folder_press_no,
+  folder_from_now_on,  // the folder follows
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
 
+// All of them in one language, as they are part of the program.
+[[nodiscard]] std::vector<Text> OwnTextsIn(Language language);
+
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 14;
+inline constexpr int kOwnTextCount = 18;
 
 }  // namespace kelvora

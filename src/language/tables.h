@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
 #include "core/text.h"
 
@@ -60,6 +61,9 @@ struct TextId {
 
 struct TextTables {
   std::array<std::array<Text, 201>, kTextTableCount> entries;
+  // The program's own texts, which no numbered table has room for (own_texts.h). Short or empty
+  // where a language lacks them.
+  std::vector<Text> own;
 
   [[nodiscard]] Text& operator[](TextId id) {
     return entries[static_cast<std::size_t>(id.table)][id.index];

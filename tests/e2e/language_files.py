@@ -70,7 +70,9 @@ def main():
         assert process.wait(timeout=20) == 0, f"the program ended with {process.returncode}"
         folder = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Language")
         names = sorted(path.name for path in folder.iterdir())
-        assert names == ["English.lsf", "Nederlands.lsf", "default.lsf"], names
+        assert names == [
+            "English.lsf", "English.own", "Nederlands.lsf", "Nederlands.own", "default.lsf",
+            "default.own"], names
         english, dutch, default = (read_language_file(folder / name) for name in
                                    ("English.lsf", "Nederlands.lsf", "default.lsf"))
     # The files are made one after the other, each set over the one before. So the entry that the

@@ -2,11 +2,14 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "language/built_in_texts.h"
 #include "language/language_file.h"
 #include "language/main_texts.h"
+#include "language/own_texts.h"
 #include "storage/record_file.h"
+#include "support/file_faults.h"
 #include "support/test_program.h"
 
 namespace kelvora {
@@ -58,9 +61,9 @@ struct ListeningMultiDay : Listening<MultiDayView> {
   void Refresh_Meerdaagsuittreksel() override {}
 };
 
-class Language : public testing::Test {
+class LanguageOfTheWindows : public testing::Test {
  protected:
-  Language() {
+  LanguageOfTheWindows() {
     Check_Language_Files(test.program);
     Load_Language_File(test.program, Folder() + "English.lsf");
   }
@@ -71,7 +74,7 @@ class Language : public testing::Test {
   std::vector<std::string> notes;
 };
 
-TEST_F(Language, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder) {
+TEST_F(LanguageOfTheWindows, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder) {
   ListeningCore core(notes);
   Listening<WindowView> properties("properties", notes), details("details", notes),
       diary("diary", notes), comparison("comparison", notes), day_settings("day settings", notes),
@@ -107,14 +110,14 @@ TEST_F(Language, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder)
   EXPECT_EQ(test.program.settings[Setting::Combo_taal], "default.lsf");
 }
 
-TEST_F(Language, AClosedWindowIsNotReached) {
+TEST_F(LanguageOfTheWindows, AClosedWindowIsNotReached) {
   ListeningLists lists("lists", notes);
   test.program.windows.lists = &lists;
   ChooseLanguage(test.program, "Nederlands.lsf");
   EXPECT_EQ(notes, std::vector<std::string>{"lists"});
 }
 
-TEST_F(Language, TheFilesAreListedWithTheirExtensionWithoutRegardToCase) {
+TEST_F(LanguageOfTheWindows, TheFilesAreListedWithTheirExtensionWithoutRegardToCase) {
   WriteFileAnew(Folder() + "my own.lsf", "");
   WriteFileAnew(Folder() + "notes.txt", "");
   const TextList names = LanguageFileNames(test.program.paths);
@@ -122,7 +125,7 @@ TEST_F(Language, TheFilesAreListedWithTheirExtensionWithoutRegardToCase) {
             (std::vector<Text>{"default.lsf", "English.lsf", "my own.lsf", "Nederlands.lsf"}));
 }
 
-TEST_F(Language, ARepairMakesTheStandardFilesAnewAfterAYes) {
+TEST_F(LanguageOfTheWindows, ARepairMakesTheStandardFilesAnewAfterAYes) {
   for (const char* name : {"default.lsf", "English.lsf", "Nederlands.lsf"}) {
     test.program.texts[main_text::kFile] = "spoilt";
     Save_Language_File(test.program, Folder() + name);
@@ -145,7 +148,70 @@ TEST_F(Language, ARepairMakesTheStandardFilesAnewAfterAYes) {
   }
 }
 
-TEST_F(Language, ANoRepairsNothing) {
+// Every window that is open shows the repaired texts, those of the settings dialog's family too.
+TEST_F(LanguageOfTheWindows, ARepairReachesEveryOpenWindow) {
+  ListeningCore core(notes);
+  Listening<WindowView> properties("properties", notes), day_settings("day settings", notes),
+      new_food("new food", notes), export_html("export", notes);
+  ListeningLists lists("lists", notes);
+  ListeningConsumption evening("evening", notes);
+  OpenWindows& windows = test.program.windows;
+  windows.core = &core;
+  windows.properties = &properties;
+  windows.day_settings = &day_settings;
+  windows.new_food = &new_food;
+  windows.export_html = &export_html;
+  windows.lists = &lists;
+  windows.consumption[2] = &evening;
+  test.boxes.answers = {BoxAnswer::yes};
+  RepairLanguageFiles(test.program);
+  EXPECT_EQ(notes, (std::vector<std::string>{"core", "properties", "lists", "evening",
+                                             "day settings", "new food", "export"}));
+  // A repair that was not wanted reaches none.
+  notes.clear();
+  test.boxes.answers = {BoxAnswer::no};
+  RepairLanguageFiles(test.program);
+  EXPECT_TRUE(notes.empty());
+}
+
+// The captions are there before the box that says so.
+TEST_F(LanguageOfTheWindows, ARepairedLanguageIsSeenBeforeItIsTold) {
+  test.program.settings[Setting::Combo_taal] = "Nederlands.lsf";
+  test.program.texts[main_text::kFile] = "spoilt";
+  struct Core : RecordingCore {
+    Text file;
+    void Set_Taal() override { file = program->texts[main_text::kFile]; }
+  } core;
+  core.program = &test.program;
+  test.program.windows.core = &core;
+  test.boxes.answers = {BoxAnswer::yes};
+  RepairLanguageFiles(test.program);
+  EXPECT_EQ(core.file, "Bestand");
+}
+
+TEST_F(LanguageOfTheWindows, ARepairMakesTheOwnTextsAnewToo) {
+  WriteFileAnew(Folder() + "Nederlands.own", "spoilt");
+  test.program.settings[Setting::Combo_taal] = "Nederlands.lsf";
+  test.boxes.answers = {BoxAnswer::yes};
+  RepairLanguageFiles(test.program);
+  EXPECT_EQ(OwnTextOf(test.program.texts, OwnText::cut_foods), "Knippen");
+}
+
+TEST_F(LanguageOfTheWindows, NothingIsCalledRepairedThatCouldNotBeWritten) {
+  test.boxes.answers = {BoxAnswer::yes};
+  {
+    const InjectedFault fault({.disk_full_after = 0});
+    RepairLanguageFiles(test.program);
+  }
+  // The question and one box, though not one of six files could be written.
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(test.boxes.shown[1].text,
+            "An error occured while saving the languagefile" + Folder() + "English.lsf");
+  // The program keeps its words.
+  EXPECT_EQ(FileText(), "File");
+}
+
+TEST_F(LanguageOfTheWindows, ANoRepairsNothing) {
   WriteFileAnew(Folder() + "English.lsf", "spoilt");
   test.boxes.answers = {BoxAnswer::no};
   RepairLanguageFiles(test.program);
@@ -153,7 +219,7 @@ TEST_F(Language, ANoRepairsNothing) {
   EXPECT_EQ(ReadFile(Folder() + "English.lsf"), "spoilt");
 }
 
-TEST_F(Language, ARepairLeavesAUsersOwnFileAndLoadsItAsItStands) {
+TEST_F(LanguageOfTheWindows, ARepairLeavesAUsersOwnFileAndLoadsItAsItStands) {
   test.program.texts[main_text::kFile] = "Fichier";
   Save_Language_File(test.program, Folder() + "mine.lsf");
   const std::string before = ReadFile(Folder() + "mine.lsf");
@@ -166,12 +232,62 @@ TEST_F(Language, ARepairLeavesAUsersOwnFileAndLoadsItAsItStands) {
   EXPECT_TRUE(FileExists(Folder() + "default.lsf"));
 }
 
-TEST_F(Language, AFailingRepairShowsItsCode) {
+TEST_F(LanguageOfTheWindows, AFailingRepairShowsItsCode) {
   std::filesystem::permissions(Folder() + "English.lsf", std::filesystem::perms::owner_read);
   test.boxes.answers = {BoxAnswer::yes};
+  std::filesystem::remove(Folder() + "Nederlands.lsf");
   RepairLanguageFiles(test.program);
   ASSERT_EQ(test.boxes.shown.size(), 2u);
   EXPECT_TRUE(test.boxes.shown[1].text.ends_with("Brelux CODE:#F4-16"));
+  // The others are whole again all the same.
+  for (const char* name : {"default.lsf", "Nederlands.lsf"}) {
+    EXPECT_TRUE(FileExists(Folder() + name)) << name;
+  }
+}
+
+TEST_F(LanguageOfTheWindows, AFileThatCannotBeOpenedIsNotOffered) {
+  WriteFileAnew(Folder() + "mine.lsf", "");
+  std::filesystem::create_directory(Folder() + "folder.lsf");
+  std::filesystem::create_symlink(Folder() + "gone", Folder() + "link.lsf");
+  ASSERT_EQ(mkfifo((Folder() + "pipe.lsf").c_str(), 0600), 0);
+  // Shown as "Slaw?.lsf", it would be looked for under that name.
+  WriteFileAnew(Folder() + "S\xC5\x82" + "aw.lsf", "");
+  WriteFileAnew(Folder() + "secret.lsf", "");
+  std::filesystem::permissions(Folder() + "secret.lsf", std::filesystem::perms::none);
+  std::filesystem::permissions(test.folders.home.Path(), std::filesystem::perms(0755));
+  const AsNobody nobody;
+  const TextList names = LanguageFileNames(test.program.paths);
+  EXPECT_EQ(std::vector<Text>(names.begin(), names.end()),
+            (std::vector<Text>{"default.lsf", "English.lsf", "mine.lsf", "Nederlands.lsf"}));
+}
+
+// What the chosen file lacks has the words of "default.lsf", not none.
+TEST_F(LanguageOfTheWindows, AShortFileLiesOverTheDefaultTexts) {
+  test.program.texts[main_text::kNewFile] = "Fresh file";
+  Save_Language_File(test.program, Folder() + "default.lsf");
+  Rec_Language record;
+  record[TextTable::taal_main] = Packed("Fichier~");
+  WriteRecord(Folder() + "short.lsf", record);
+  test.program.settings[Setting::Combo_taal] = "short.lsf";
+  test.program.texts = {};
+  LoadChosenLanguage(test.program);
+  EXPECT_EQ(FileText(), "Fichier");
+  EXPECT_EQ(test.program.texts[main_text::kNewFile], "Fresh file");
+  EXPECT_EQ(test.program.texts[main_text::kOpenFile], "Open file");
+}
+
+TEST_F(LanguageOfTheWindows, WithoutAnyFileThatCanBeReadTheWordsAreTheBuiltInEnglishOnes) {
+  for (const std::string& bytes :
+       {std::string(), std::string(4, '\0'), std::string("\1\0\0\0", 4)}) {
+    for (const char* name : {"default.lsf", "Nederlands.lsf"}) {
+      WriteFileAnew(Folder() + name, bytes);
+    }
+    test.program.settings[Setting::Combo_taal] = "Nederlands.lsf";
+    test.program.texts = {};
+    LoadChosenLanguage(test.program);
+    EXPECT_EQ(FileText(), "File");
+    EXPECT_EQ(test.program.texts[main_text::kRepaired], "All language files are repaired.");
+  }
 }
 
 }  // namespace
