@@ -1,31 +1,29 @@
 // The entry of the program: makes the platform, the program and the main window, and starts.
-#include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
-
 #include "core/frame/main_window.h"
+#include "core/frame/net.h"
 #include "core/frame/startup.h"
+#include "platform/qt/guarded_application.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qt_platform.h"
 
 int main(int argc, char** argv) {
   QApplication::setStyle(QStringLiteral("Fusion"));
-  QApplication application(argc, argv);
+  kelvora::GuardedApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("kelvora-food"));
   QApplication::setDesktopFileName(QStringLiteral("kelvora-food"));
   QApplication::setWindowIcon(kelvora::IconNamed("kelvora-food"));
-
-  // Buttons of boxes and the like are the toolkit's own, in the language of the system.
-  QTranslator toolkit_texts;
-  if (toolkit_texts.load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&toolkit_texts);
-  }
+  // The main window ends the program, and nothing else does: a splash or a dialog may be the last
+  // window to go, and the event loop that is to end need not be the outermost one.
+  QApplication::setQuitOnLastWindowClosed(false);
 
   kelvora::QtPlatform platform;
   kelvora::Program program(platform.Get());
+  program.actions.Begin();
+  application.on_action = [&program] { program.actions.Begin(); };
+  application.on_escape = [&program](const std::exception_ptr& failure) {
+    kelvora::TellEscaped(program, failure);
+  };
   kelvora::MainWindow window(program);
   kelvora::StartUp(program);
-  return QApplication::exec();
+  return program.ending ? 0 : QApplication::exec();
 }

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "days/day_dialogs.h"
@@ -39,6 +40,12 @@ WizardDialog::WizardDialog(Program& program, QWidget* parent)
   layout->addLayout(BuildHeading());
   layout->addWidget(BuildChoice(), 1);
   layout->addLayout(BuildButtons());
+  // The wizard stands in front of the menu that has this key.
+  auto* const end = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this);
+  connect(end, &QShortcut::activated, this, [this] {
+    if (program_.windows.core == nullptr) return;
+    program_.windows.core->GiveCommand(Command::mnu_bestand_sluiten);
+  });
   SetShowAtStart(WizardShownAtStart(program_));
   Set_Taal();
 }

@@ -19,7 +19,8 @@ WIZARD = "^(Kelvora FOOD wizard|Wizard van Kelvora FOOD)$"
 class Desktop:
     """The display with its window manager; use it as a context manager."""
 
-    def __init__(self):
+    def __init__(self, size=(WIDTH, HEIGHT)):
+        self.size = size
         self.processes = []
         self.home = tempfile.TemporaryDirectory(prefix="kelvora-e2e-")
         self.environment = None
@@ -39,7 +40,7 @@ class Desktop:
     def start_display(self):
         reading, writing = os.pipe()
         self.processes.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{WIDTH}x{HEIGHT}x24"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size[0]}x{self.size[1]}x24"],
             pass_fds=[writing], stderr=subprocess.DEVNULL))
         os.close(writing)
         with os.fdopen(reading) as answer:
@@ -80,9 +81,10 @@ class Desktop:
                     process.wait()
         self.processes.clear()
 
-    def launch(self, program, locale="C.UTF-8"):
+    def launch(self, program, locale="C.UTF-8", scale=1):
         """Starts the program under a locale and waits for nothing."""
-        process = subprocess.Popen([program], env=self.environment | {"LANG": locale})
+        process = subprocess.Popen([program], env=self.environment | {
+            "LANG": locale, "QT_SCALE_FACTOR": str(scale)})
         self.processes.append(process)
         return process
 

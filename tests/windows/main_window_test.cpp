@@ -57,27 +57,21 @@ class MainWindowOfTheProgram : public testing::Test {
     }
     return enabled;
   }
-  static std::vector<int> Served(std::vector<int> indexes) {
-    std::erase_if(indexes, [](int index) {
-      const auto row = std::ranges::find(MenuToolbar(), index, &ButtonRow::index);
-      return !IsServed(row->command);
-    });
-    return indexes;
-  }
 
   TestProgram test;
   MainWindow window{test.program};
 };
 
+// Diary, summary, trend, report, comparison and update (11, 13 to 16, 20) have no window yet.
 TEST_F(MainWindowOfTheProgram, ButtonsFollowUserDayAndChanges) {
-  EXPECT_EQ(EnabledButtons(), Served({2, 3, 18, 19, 20, 22}));
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 18, 19, 22}));
   test.program.paths.UserName = "Anna";
   window.UpdateCommands();
-  EXPECT_EQ(EnabledButtons(), Served({2, 3, 8, 14, 15, 16, 18, 19, 20, 22}));
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 8, 18, 19, 22}));
   OpenDay();
-  EXPECT_EQ(EnabledButtons(), Served({2, 3, 5, 7, 8, 10, 11, 13, 14, 15, 16, 18, 19, 20, 22}));
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 5, 7, 8, 10, 18, 19, 22}));
   SetFileChanged(test.program, true);
-  EXPECT_TRUE(Button(4)->isEnabled());
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 4, 5, 7, 8, 10, 18, 19, 22}));
 }
 
 TEST_F(MainWindowOfTheProgram, QuickButtonsNeedADayButTheReset) {
@@ -127,6 +121,23 @@ TEST_F(MainWindowOfTheProgram, EachMenuOpensByALetterOfItsOwn) {
             "&Bestand &Consumptieschermen &Opties &Resultaten &Tabellen &Extra &Informatie");
 }
 
+// Whichever loop of events runs, its closing ends the program, once it may close.
+TEST_F(MainWindowOfTheProgram, ItsClosingEndsTheProgram) {
+  OpenDay();
+  SetFileChanged(test.program, true);
+  EXPECT_FALSE(window.close());  // the question is answered with No
+  EXPECT_FALSE(test.program.ending);
+  EXPECT_EQ(test.events.ends, 0);
+  test.boxes.answers = {BoxAnswer::yes};
+  window.GiveCommand(Command::mnu_bestand_sluiten);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(test.program.ending);
+  EXPECT_EQ(test.events.ends, 1);
+  // What a step of the start would still show does not come.
+  window.OpenWindow(WindowId::lists);
+  EXPECT_EQ(test.program.windows.lists, nullptr);
+}
+
 TEST_F(MainWindowOfTheProgram, F10OpensTheFirstMenu) {
   QTest::keyClick(&window, Qt::Key_F10);
   EXPECT_TRUE(Find<QMenu>("mnu_bestand")->isVisible());
@@ -141,12 +152,21 @@ TEST_F(MainWindowOfTheProgram, SaveIsAnItemWithADayAndAButtonWithChanges) {
 
 TEST_F(MainWindowOfTheProgram, WhatLaterVersionsServeIsDisabledAndSaysSo) {
   OpenDay();
-  for (const MenuRow& row : MainMenu()) {
-    if (row.kind != MenuKind::item || IsServed(row.command)) continue;
-    auto* const action = Find<QAction>(QString::fromLatin1(row.name.data(), std::ssize(row.name)));
-    EXPECT_FALSE(action->isEnabled()) << row.name;
-    EXPECT_TRUE(action->toolTip().endsWith("Not part of this version yet.")) << row.name;
+  SetFileChanged(test.program, true);
+  QStringList missing;
+  for (const QAction* action : window.findChildren<QAction*>()) {
+    const bool says_so = action->toolTip().endsWith("Not part of this version yet.");
+    EXPECT_NE(action->isEnabled() && says_so, true) << action->objectName().toStdString();
+    if (says_so && action->objectName().startsWith("mnu_") &&
+        !action->objectName().endsWith("_drop_down")) {
+      missing << action->objectName();
+    }
   }
+  missing.sort();
+  EXPECT_EQ(missing, (QStringList{"mnu_check_updates", "mnu_exporteer_dta", "mnu_exporteer_html",
+                                  "mnu_exporteer_xml", "mnu_in_notities", "mnu_print_dag",
+                                  "mnu_print_reis", "mnu_uit_daguittreksel",
+                                  "mnu_uit_meerdaagsuittreksel", "mnu_weegschaal"}));
 }
 
 TEST_F(MainWindowOfTheProgram, ThePrintButtonTellsAndItsMenuHasTwoEntries) {

@@ -40,6 +40,13 @@ void ExpectNothingClipped(const QWidget& window) {
 
 constexpr std::array kLanguages = {&Make_Taal_English, &Make_Taal_Dutch};
 
+// A main window that can't open days, and notes the commands that it is given.
+struct ChoosyCore : RecordingCore {
+  std::vector<Command> given;
+  bool CommandEnabled(Command command) const override { return command != Command::mnu_browse; }
+  void GiveCommand(Command command) override { given.push_back(command); }
+};
+
 class WizardWindow : public testing::Test {
  protected:
   void Open() {
@@ -65,6 +72,7 @@ class WizardWindow : public testing::Test {
   }
 
   TestProgram test;
+  ChoosyCore choosy;
   std::unique_ptr<WizardDialog> dialog;
 };
 
@@ -117,13 +125,22 @@ TEST_F(WizardWindow, NoOptionIsChosenAndTheTickIsThatOfTheSettings) {
 }
 
 TEST_F(WizardWindow, AnOptionThatCannotBeGivenIsDisabledWithItsLine) {
+  test.program.windows.core = &choosy;
   Open();
-  for (const WizardRow& row : WizardRows()) {
-    const QString number = QString::number(static_cast<int>(row.option) + 1);
-    const bool enabled = CommandEnabled(test.program, row.command);
+  for (const int option : {1, 2, 3, 4}) {
+    const QString number = QString::number(option);
+    const bool enabled = option != 2;
     EXPECT_EQ(FindIn<QWidget>(*dialog, QStringLiteral("Option") + number)->isEnabled(), enabled);
     EXPECT_EQ(FindIn<QWidget>(*dialog, QStringLiteral("lbl_") + number)->isEnabled(), enabled);
   }
+}
+
+// It stands in front of the menu that has this key.
+TEST_F(WizardWindow, TheKeyThatEndsTheProgramReachesTheMainWindow) {
+  test.program.windows.core = &choosy;
+  Open();
+  QTest::keyClick(dialog.get(), Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_EQ(choosy.given, std::vector<Command>{Command::mnu_bestand_sluiten});
 }
 
 TEST_F(WizardWindow, OkWithoutAnOptionSavesTheTickAndCloses) {

@@ -202,7 +202,7 @@ bool CommandIsDown(const Program& program, Command command) {
 }
 
 void RunCommand(Program& program, Command command) {
-  if (!CommandEnabled(program, command)) return;
+  if (program.ending || !CommandEnabled(program, command)) return;
   if (command == Command::mnu_uit_daguittreksel) return ShowOrHideDaySummary(program);
   const auto toggle = std::ranges::find(kToggles, command, &WindowCommand::command);
   if (toggle != kToggles.end()) return ToggleWindow(program, toggle->window);

@@ -14,9 +14,11 @@ void PrepareFirstRun(Program& program) {
   Check_Language_Files(program);
   FallBackOnDefaultLanguage(program);
   LoadChosenLanguage(program);
+  program.windows.core->Set_Taal();  // the main window stands behind the box for a while
   Tell(program, BoxIcon::information,
        JoinLines(program.texts,
                  {kFirstRunNotFound, kFirstRunProbably, std::nullopt, kFirstRunPressOk}));
+  if (program.ending) return;
   program.windows.core->OpenSettings();
 }
 

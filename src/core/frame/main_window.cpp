@@ -22,6 +22,7 @@
 #include "language/main_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
+#include "platform/qt/toolkit_words.h"
 
 namespace kelvora {
 namespace {
@@ -235,6 +236,7 @@ void MainWindow::GiveCommand(Command command) {
 
 void MainWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
+  UseToolkitWords(LanguageOf(texts));
   SetMenuTitles();
   for (const ItemAction& entry : item_actions_) SetItemTexts(entry);
   for (const DropDownAction& entry : drop_down_actions_) {
@@ -325,7 +327,7 @@ MainWindowSize MainWindow::Size() const {
 }
 
 void MainWindow::OpenWindow(WindowId id) {
-  if (program_.windows.Find(id) != nullptr) return;
+  if (program_.ending || program_.windows.Find(id) != nullptr) return;
   switch (id) {
     case WindowId::wizard:
       return ShowWizardDialog(program_, this);
@@ -393,7 +395,8 @@ void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSiz
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  event->setAccepted(MayEndProgram(program_));
+  event->setAccepted(program_.ending || MayEndProgram(program_));
+  if (event->isAccepted()) EndProgram(program_);
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

@@ -5,6 +5,7 @@
 #include "core/frame/arrangement.h"
 #include "core/frame/environment.h"
 #include "core/frame/load_settings.h"
+#include "core/frame/net.h"
 #include "days/wizard.h"
 #include "internet/servers.h"
 #include "language/language_file.h"
@@ -37,6 +38,10 @@ void LoadSettings(Program& program) {
   Apply_Default_Settings(program);
 }
 
+void MakeLanguageFiles(Program& program) {
+  Check_Language_Files(program);
+}
+
 void SetCaptions(Program& program) {
   program.windows.core->Set_Taal();
 }
@@ -58,22 +63,26 @@ void ShowWizard(Program& program) {
   if (WizardShownAtStart(program)) program.windows.core->OpenWindow(WindowId::wizard);
 }
 
+// A count that no number of starts can be begins anew.
 void CountStart(Program& program) {
+  constexpr double kMostStarts = 999'999'998;
   Text& count = program.settings[Setting::StartCount];
-  count = Str(std::floor(Val(count)) + 1, ".");
+  const double starts = std::floor(Val(count));
+  count = Str(starts >= 0 && starts <= kMostStarts ? starts + 1 : 1, ".");
   Save_Settings(program);
 }
 
 constexpr std::array kSteps = {
     &DetermineFolders,
     &CaptureSeparator,
+    &FillWithDefaultTexts,
     &ShowSplash,
     &ShowMainWindow,
     &PutMenuIcons,
     &LoadSettings,
     &Load_Databases,
     &ComputeDefaultGeometry,
-    &Check_Language_Files,
+    &MakeLanguageFiles,
     &ApplyAlternativeUsersFolder,
     &Zet_Server_Adressen,
     &LoadChosenLanguage,
@@ -92,7 +101,11 @@ constexpr std::array kSteps = {
 }  // namespace
 
 void StartUp(Program& program) {
-  for (const auto step : kSteps) step(program);
+  const UserAction action(program.actions);
+  for (const auto step : kSteps) {
+    if (program.ending) return;
+    RunStep(program, step);
+  }
 }
 
 }  // namespace kelvora

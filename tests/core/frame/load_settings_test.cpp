@@ -53,12 +53,13 @@ TEST_F(LoadSettings, AMissingFileIsAFirstRunWithBoxAndDialog) {
   EXPECT_FALSE(FileExists(Path()));
 }
 
-// The main window is there before the box, and the dialog comes after it.
+// The main window is there with its words before the box, and the dialog comes after it.
 TEST_F(LoadSettings, AFirstRunShowsTheMainWindowThenTheBoxThenTheDialog) {
   std::vector<std::string> order;
   struct Core : RecordingCore {
     explicit Core(std::vector<std::string>& steps) : order(steps) {}
     void ShowMainWindow() override { order.push_back("main window"); }
+    void Set_Taal() override { order.push_back("captions"); }
     void OpenSettings() override { order.push_back("settings"); }
     std::vector<std::string>& order;
   } core(order);
@@ -76,7 +77,7 @@ TEST_F(LoadSettings, AFirstRunShowsTheMainWindowThenTheBoxThenTheDialog) {
   program.windows.core = &core;
   DetermineFolders(program);
   Load_Settings(program);
-  EXPECT_EQ(order, (std::vector<std::string>{"main window", "box", "settings"}));
+  EXPECT_EQ(order, (std::vector<std::string>{"main window", "captions", "box", "settings"}));
 }
 
 TEST_F(LoadSettings, AFileWithoutARecordAnEmptyOneAndAFolderAreFirstRuns) {

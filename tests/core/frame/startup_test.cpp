@@ -105,15 +105,6 @@ TEST(StartUp, ALanguageThatIsGoneFallsBackWithoutAWord) {
   EXPECT_TRUE(machine.boxes.shown.empty());
 }
 
-TEST(StartUp, ADamagedSettingsFileLeavesTheDefaults) {
-  TestProgram machine(Machine::bare);
-  std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
-  WriteFileAnew(machine.folders.ApplicationData() + "/Brelux/kvfset.dat", "");
-  StartUp(machine.program);
-  EXPECT_EQ(machine.program.settings[Setting::chk_wiz], "1");
-  EXPECT_EQ(machine.program.settings[Setting::StartCount], "1");
-}
-
 TEST(StartUp, TheAlternativeUsersFolderTakesOverAsItIsStored) {
   TestProgram machine(Machine::bare);
   std::filesystem::create_directories(machine.folders.ApplicationData() + "/Brelux");
