@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "days/users_folder.h"
 #include "internet/servers.h"
 #include "internet/update.h"
 #include "language/choose_language.h"
@@ -69,6 +70,10 @@ bool IsComplete(Program& program, const SettingsForm& form) {
     return false;
   }
   return true;
+}
+
+std::string UsersPathOf(const Program& program, const SettingsForm& form) {
+  return form.chk_map ? Utf8FromText(form.txt_map) : DefaultUsersPath(program.platform.folders);
 }
 
 void CopyToSettings(const SettingsForm& form, Rec_Settings& settings) {
@@ -142,16 +147,19 @@ void BrowseForFolder(Program& program, SettingsForm& form) {
 
 bool Save_From_Form(Program& program, const SettingsForm& form) {
   if (!IsComplete(program, form)) return false;
-  return program.Guard("#F8-2", [&] {
+  const UserAction action(program.actions);
+  bool followed = false;
+  const bool done = program.Guard("#F8-2", [&] {
+    followed = ChangeUsersFolder(program, UsersPathOf(program, form));
+    if (!followed) return;
     CopyToSettings(form, program.settings);
-    program.paths.UsersPath = DefaultUsersPath(program.platform.folders);
-    ApplyAlternativeUsersFolder(program);
     Zet_Server_Adressen(program);
     Save_Settings(program);
     RefreshAmounts(program);
     CheckForUpdateOnce(program);
     if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
   });
+  return done && followed;
 }
 
 }  // namespace kelvora

@@ -68,9 +68,10 @@ void TakeLanguage(Program& program, SettingsForm& form, std::string_view name);
 // any other failure, shows "#F8-1" and changes nothing.
 void BrowseForFolder(Program& program, SettingsForm& form);
 
-// Saves the form: settings, users folder, server addresses, file, and every window that shows
-// amounts. False with nothing changed after the box of something that is missing, and false after a
-// failure, which shows "#F8-2". Data that is already on disk does not move.
+// Saves the form: settings, users folder (users_folder.h), server addresses, file, and every window
+// that shows amounts. False with nothing changed after the box of something that is missing or of a
+// users folder that takes no data, and false after a failure, which shows "#F8-2". Data that is
+// already on disk does not move.
 [[nodiscard]] bool Save_From_Form(Program& program, const SettingsForm& form);
 
 }  // namespace kelvora

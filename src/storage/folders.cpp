@@ -84,7 +84,8 @@ void DetermineFolders(Program& program) {
 }
 
 void ApplyAlternativeUsersFolder(Program& program) {
-  if (program.settings[Setting::chk_map] != "1") return;
+  const Rec_Settings& settings = program.settings;
+  if (settings[Setting::chk_map] != "1" || settings[Setting::txt_map].empty()) return;
   program.paths.UsersPath = Utf8FromText(program.settings[Setting::txt_map]);
 }
 

@@ -6,6 +6,7 @@
 
 #include "language/language_file.h"
 #include "language/main_texts.h"
+#include "nutrition/totals.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
 #include "storage/settings_file.h"
@@ -294,6 +295,34 @@ TEST_F(SettingsOfForm, AFailureWhileSavingShowsItsCode) {
   EXPECT_FALSE(Save_From_Form(test.program, FormOfSettings(test.program)));
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#F8-2"));
+}
+
+// An amount that no number can hold stops the totals of the day and those of each window.
+TEST_F(SettingsOfForm, OneCauseGivesOneBoxHoweverManyWindowsTotalTheDay) {
+  struct TotallingConsumption : ConsumptionView {
+    Program* program = nullptr;
+    int refreshed = 0;
+    void CloseWindow() override {}
+    void Set_Taal() override {}
+    void Refresh_Consumpties() override {
+      ++refreshed;
+      Refresh_Totalen(*program);
+    }
+    void ShowTotals(const ConsumptionTotals&) override {}
+  };
+  std::array<TotallingConsumption, 3> windows;
+  for (std::size_t i = 0; i < windows.size(); ++i) {
+    windows[i].program = &test.program;
+    test.program.windows.consumption[i] = &windows[i];
+  }
+  test.OpenDay("Anna");
+  test.program.store.L_avond.Add(LineOf({.product = "Sun", .kj = std::string(400, '9')}));
+  for (const std::size_t boxes : {1u, 2u}) {  // each saving is an action of its own
+    EXPECT_TRUE(Save_From_Form(test.program, FormOfSettings(test.program)));
+    ASSERT_EQ(test.boxes.shown.size(), boxes);
+    EXPECT_TRUE(test.boxes.shown.back().text.ends_with("Brelux CODE:#FF11-0"));
+  }
+  for (const TotallingConsumption& window : windows) EXPECT_EQ(window.refreshed, 2);
 }
 
 TEST_F(SettingsOfForm, TheHelpTextsFollowAtOnceInMemoryOnly) {
