@@ -24,15 +24,21 @@ void ThrowSystemError(std::errc error) {
   throw std::system_error(std::make_error_code(error));
 }
 
+Text DescribeFailure(const std::exception& failure) {
+  if (dynamic_cast<const std::bad_alloc*>(&failure) != nullptr) {
+    return WordsOf(std::errc::not_enough_memory);
+  }
+  if (const auto* system = dynamic_cast<const std::system_error*>(&failure)) {
+    return TextFromUtf8(system->code().message());
+  }
+  return TextFromUtf8(failure.what());
+}
+
 Text DescribeFailure(const std::exception_ptr& failure) {
   try {
     std::rethrow_exception(failure);
-  } catch (const std::bad_alloc&) {
-    return WordsOf(std::errc::not_enough_memory);
-  } catch (const std::system_error& system) {
-    return TextFromUtf8(system.code().message());
-  } catch (const std::exception& other) {
-    return TextFromUtf8(other.what());
+  } catch (const std::exception& known) {
+    return DescribeFailure(known);
   } catch (...) {
     return WordsOf(std::errc::state_not_recoverable);  // it has no words of its own
   }

@@ -27,7 +27,8 @@ struct FailureBox {
 // running action of the user has shown already is not shown again.
 void ReportFailure(const FailureBox& box, std::string_view code, std::string_view description);
 
-// The system's own words for an escaped exception, whatever its type.
+// The system's own words for an exception; for an escaped one whatever its type.
+[[nodiscard]] Text DescribeFailure(const std::exception& failure);
 [[nodiscard]] Text DescribeFailure(const std::exception_ptr& failure);
 
 // Ends a routine as the system would: with an error that the system has words for, in the user's
