@@ -48,6 +48,19 @@ constexpr std::array kRows = {
                "Met 'Nee' blijven ze staan en ga je daarmee verder. Er gaat geen dag verloren."_w},
     OwnTextRow{OwnText::folder_from_now_on, "From now on your data is kept in the folder"_w,
                "Vanaf nu staan je gegevens in de map"_w},
+    OwnTextRow{OwnText::replace_other_food,
+               "You have another food item with the name \"%1\".\n"
+               "Do you want to replace it?"_w,
+               "Je hebt een ander voedingsmiddel met de naam \"%1\".\n"
+               "Wil je dat vervangen?"_w},
+    OwnTextRow{OwnText::look_at_box, "Look at the box \"%1\"."_w, "Kijk naar het vak \"%1\"."_w},
+    OwnTextRow{OwnText::no_food_server, "No food server is known to this program."_w,
+               "Dit programma kent geen voedingsserver."_w},
+    OwnTextRow{OwnText::replace_category,
+               "The category \"%1\" holds food items that your own list does not have.\n"
+               "Do you want to replace all of them by your own list?"_w,
+               "De categorie \"%1\" bevat voedingsmiddelen die niet in je eigen lijst staan.\n"
+               "Wil je ze allemaal vervangen door je eigen lijst?"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {
@@ -72,6 +85,13 @@ std::vector<Text> OwnTextsIn(Language language) {
   std::vector<Text> texts;
   for (const OwnTextRow& row : kRows) texts.push_back(OwnTextIn(language, row.id));
   return texts;
+}
+
+Text OwnTextWith(const TextTables& texts, OwnText id, std::string_view name) {
+  constexpr std::string_view kPlace = "%1";
+  Text text = OwnTextOf(texts, id);
+  const std::size_t place = text.find(kPlace);
+  return place == text.npos ? text : text.replace(place, kPlace.size(), name);
 }
 
 Text OwnTextIn(Language language, OwnText id) {

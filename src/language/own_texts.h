@@ -36,6 +36,13 @@ enum class OwnText {
   folder_replace_question,
   folder_press_no,
   folder_from_now_on,  // the folder follows
+  // Before a food is replaced that is not the one that was opened; "%1" is the name of both.
+  replace_other_food,
+  // Which box of a new food is wrong; "%1" is its caption.
+  look_at_box,
+  no_food_server,  // why a food can't be added to the internet database
+  // Before a category of other foods is replaced by the own list; "%1" is its name.
+  replace_category,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -43,9 +50,12 @@ enum class OwnText {
 // All of them in one language, as they are part of the program.
 [[nodiscard]] std::vector<Text> OwnTextsIn(Language language);
 
+// The text with `name` in the place of its "%1".
+[[nodiscard]] Text OwnTextWith(const TextTables& texts, OwnText id, std::string_view name);
+
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 18;
+inline constexpr int kOwnTextCount = 22;
 
 }  // namespace kelvora
