@@ -32,6 +32,19 @@ WindowView* OpenWindows::Find(WindowId id) const {
   return nullptr;
 }
 
+std::vector<WindowView*> OpenWindows::AllOpen() const {
+  std::vector<WindowView*> open;
+  for (std::size_t i = 0; i < kWindowCount; ++i) open.push_back(Find(static_cast<WindowId>(i)));
+  open.insert(open.end(), {properties, export_html, new_food});
+  std::erase(open, nullptr);
+  return open;
+}
+
+void OpenWindows::FollowSettings() const {
+  for (WindowView* const window : AllOpen()) window->FollowSettings();
+  if (core != nullptr) core->Set_toolbar_teksten();
+}
+
 WindowRecord* OpenWindows::RecordOf(WindowId id) {
   switch (id) {
     case WindowId::lists:

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 #include "core/command.h"
 #include "core/geometry.h"
@@ -38,6 +39,9 @@ struct WindowView {
   virtual void CloseWindow() = 0;
   // Assigns every caption from the text tables.
   virtual void Set_Taal() = 0;
+  // Shows anew all that the settings or the profile have a part in: headings, cells, units, dates,
+  // and which controls there are.
+  virtual void FollowSettings() {}
 };
 
 // The period totals of one consumption window, ready to be shown.
@@ -168,6 +172,10 @@ struct OpenWindows {
   [[nodiscard]] ConsumptionView*& Consumption(DayPart part) {
     return consumption[static_cast<std::size_t>(part)];
   }
+  // Every open window besides the main one, dialogs among them.
+  [[nodiscard]] std::vector<WindowView*> AllOpen() const;
+  // Lets all of them, and the main window's toolbars, follow the settings and the profile.
+  void FollowSettings() const;
   // The open window of that kind; null while it is closed.
   [[nodiscard]] WindowView* Find(WindowId id) const;
   // Where a child window goes when it opens, and what it writes back when it closes; null for a

@@ -27,7 +27,8 @@ constexpr std::array kPaneCaptions = {kReference, kLastWeight, kGoalWeight, kHei
 BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
     : QDialog(parent),
       program_(program),
-      open_flag_(program.windows, program.windows.browser, this) {
+      open_flag_(program.windows, program.windows.browser, this),
+      shown_by_(ShownNow()) {
   NameWidget(this, "KV_browsefiles");
   if (WindowView* const wizard = program_.windows.Find(WindowId::wizard)) wizard->CloseWindow();
 
@@ -38,8 +39,6 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
 
   chk_profiel_ = new QCheckBox(this);
   NameWidget(chk_profiel_, "chk_profiel");
-  chk_profiel_->setChecked(ProfilePaneShown(program_));
-  profile_pane_->setVisible(chk_profiel_->isChecked());
   cmd_openen_ = new QPushButton(this);
   NameWidget(cmd_openen_, "cmd_openen");
   cmd_openen_->setDefault(true);
@@ -66,6 +65,7 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
   connect(cmd_openen_, &QPushButton::clicked, this, &BrowserDialog::OpenSelectedDay);
   connect(cmd_annuleer_, &QPushButton::clicked, this, &BrowserDialog::CloseWindow);
   SetCaptions();
+  FollowSettings();
 }
 
 QWidget* BrowserDialog::BuildUsers() {
@@ -142,6 +142,19 @@ void BrowserDialog::Set_Taal() {
   ShowProfile();
 }
 
+void BrowserDialog::FollowSettings() {
+  chk_profiel_->setChecked(ProfilePaneShown(program_));
+  profile_pane_->setVisible(chk_profiel_->isChecked());
+  ShowProfile();
+  // Who chooses another user has the days read by itself.
+  const ShownBy now = ShownNow();
+  if (now.folder == shown_by_.folder && now != shown_by_) Refresh_Files();
+}
+
+BrowserDialog::ShownBy BrowserDialog::ShownNow() const {
+  return {UnitSystemOf(program_), PriorityOfUser(program_), program_.paths.FilesPath};
+}
+
 void BrowserDialog::SetCaptions() {
   const TextTables& texts = program_.texts;
   setWindowTitle(ToQt(texts[kTitle]));
@@ -180,6 +193,7 @@ void BrowserDialog::SelectCurrentUser() {
 void BrowserDialog::Refresh_Files() {
   if (program_.paths.FilesPath.empty()) return;
   ShowDays({});
+  shown_by_ = ShownNow();
   const int reading = ++readings_;
   std::vector<DayRow> rows = ReadDays(program_, [this, reading] { return reading != readings_; });
   if (reading != readings_) return;

@@ -12,6 +12,7 @@
 
 #include "core/views.h"
 #include "days/browser.h"
+#include "days/day_form.h"
 #include "days/day_table_panel.h"
 
 namespace kelvora {
@@ -27,6 +28,7 @@ class BrowserDialog : public QDialog, public BrowserView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void FollowSettings() override;
   void Refresh_GebruikersLijst() override;
   void Refresh_Files() override;
   void done(int result) override;
@@ -47,6 +49,15 @@ class BrowserDialog : public QDialog, public BrowserView {
   OpenFlag<BrowserView> open_flag_;
   // Tells a reading that was overtaken while events ran: by another one, or by the window's end.
   int readings_ = 0;
+  // What the days in the list are shown by.
+  struct ShownBy {
+    UnitSystem system;
+    Priority priority;
+    std::string folder;
+    bool operator==(const ShownBy&) const = default;
+  };
+  [[nodiscard]] ShownBy ShownNow() const;
+  ShownBy shown_by_;
   QLabel* lbl_users_;
   QListWidget* lst_users_;
   QLabel* lbl_days_;

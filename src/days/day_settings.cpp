@@ -98,6 +98,7 @@ void RefreshDayWindows(Program& program) {
   for (ConsumptionView* const window : windows.consumption) {
     if (window != nullptr) window->Refresh_Consumpties();
   }
+  windows.FollowSettings();
   Refresh_Totalen(program);
 }
 
@@ -147,6 +148,7 @@ void ForgetCurrentUser(Program& program) {
   program.paths.FilesPath.clear();
   program.profile = DefaultsOfNewUser();
   ForgetFoodsOfUser(program);
+  FollowSettings(program);
   if (program.windows.core != nullptr) program.windows.core->UpdateStatusBar();
 }
 
@@ -188,6 +190,7 @@ void EditOpenDay(Program& program, DayEditing& editing) {
     const Text user(program.paths.UserName.empty() ? day[HeaderRow::kName]
                                                    : std::string_view(program.paths.UserName));
     Load_Profile(program, ProfileFile(program.paths, user));
+    FollowSettings(program);
     KeepWorkingCopy(program, editing);
     DayForm& form = editing.form;
     form = FormOfUser(program, user);

@@ -20,6 +20,7 @@ void ChooseUser(Program& program, std::string_view name) {
   Load_Profile(program, ProfileFile(program.paths, user));
   Load_Custom(program, CustomFile(program.paths, user));
   Load_Favorites(program, FavoritesFile(program.paths, user));
+  FollowSettings(program);
 }
 
 void TakeOver(Program& program, std::string_view name) {

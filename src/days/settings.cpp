@@ -81,17 +81,6 @@ void CopyToSettings(const SettingsForm& form, Rec_Settings& settings) {
   for (const auto& [setting, text] : kTexts) settings[setting] = form.*text;
 }
 
-// Units may have changed.
-void RefreshAmounts(Program& program) {
-  if (program.store.DayIsOpen()) Refresh_Totalen(program);
-  if (program.windows.multi_day != nullptr) {
-    program.windows.multi_day->Refresh_Meerdaagsuittreksel();
-  }
-  for (ConsumptionView* const window : program.windows.consumption) {
-    if (window != nullptr) window->Refresh_Consumpties();
-  }
-}
-
 }  // namespace
 
 SettingsForm FormOfSettings(const Program& program) {
@@ -131,7 +120,9 @@ void TakeLanguage(Program& program, SettingsForm& form, std::string_view name) {
   form.Combo_taal = name;
   program.Guard("#F8-0", [&] {
     ChooseLanguage(program, form.Combo_taal);
-    if (program.windows.day_settings != nullptr) program.windows.day_settings->Set_Taal();
+    for (WindowView* const window : {program.windows.day_settings, program.windows.new_food}) {
+      if (window != nullptr) window->Set_Taal();
+    }
     program.settings[Setting::Combo_taal] = form.Combo_taal;
   });
 }
@@ -155,7 +146,7 @@ bool Save_From_Form(Program& program, const SettingsForm& form) {
     CopyToSettings(form, program.settings);
     Zet_Server_Adressen(program);
     Save_Settings(program);
-    RefreshAmounts(program);
+    FollowSettings(program);
     CheckForUpdateOnce(program);
     if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
   });

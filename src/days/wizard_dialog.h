@@ -25,6 +25,7 @@ class WizardDialog : public QDialog, public WizardView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void FollowSettings() override { SetShowAtStart(WizardShownAtStart(program_)); }
   void SetShowAtStart(bool shown) override;
   void done(int result) override;
 

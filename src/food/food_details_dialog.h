@@ -31,6 +31,7 @@ class FoodDetailsDialog : public QDialog, public WindowView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void FollowSettings() override { ShowPortion(); }
   void done(int result) override;
 
  private:

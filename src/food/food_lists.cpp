@@ -100,22 +100,39 @@ TextList FoodLists::Categories() const {
   return categories;
 }
 
-// Fills `temp_zoeken` with the lines that `wanted` takes.
-template <class Wanted>
-void FoodLists::Collect(std::string_view code, Wanted wanted) {
+TextList FoodLists::Found(const Search& search) const {
+  const CaselessFinder finder(search.text);
+  TextList found;
+  for (const TextList* list : {&program_.store.Default_list, &program_.store.Custom_list}) {
+    found.AddSharedLines(*list, [&](std::string_view line) {
+      return search.kind == SearchKind::at_front ? finder.IsAtFrontOf(line) : finder.IsIn(line);
+    });
+  }
+  return found;
+}
+
+void FoodLists::ShowFound(std::string_view code, Search search) {
   program_.Guard(code, [&] {
     program_.platform.pointer.ShowWait();
-    temp_zoeken_.Clear();
+    temp_zoeken_ = Found(search);
+    last_search_ = std::move(search);
     OrderOf(FoodView::standard).numbers.clear();
-    for (const TextList* list : {&program_.store.Default_list, &program_.store.Custom_list}) {
-      temp_zoeken_.AddSharedLines(*list, wanted);
-    }
     program_.platform.pointer.Restore();
   });
 }
 
+bool FoodLists::SearchAgain() {
+  if (!last_search_) return false;
+  TextList found = Found(*last_search_);
+  if (found == temp_zoeken_) return false;
+  temp_zoeken_ = std::move(found);
+  OrderOf(FoodView::standard).numbers.clear();
+  return true;
+}
+
 std::optional<Text> FoodLists::Toon_Standaardlijst() {
   temp_zoeken_.Clear();
+  last_search_.reset();
   OrderOf(FoodView::standard).numbers.clear();
   if (program_.store.Default_list.Empty()) return std::nullopt;
   return ChooseCategory(Categories()[0]);
@@ -128,14 +145,12 @@ Text FoodLists::ChooseCategory(std::string_view shown_name) {
 }
 
 void FoodLists::SearchPrefix(std::string_view text) {
-  const CaselessFinder finder(text);
-  Collect("#F11-0", [&finder](std::string_view line) { return finder.IsAtFrontOf(line); });
+  ShowFound("#F11-0", {SearchKind::at_front, Text(text)});
 }
 
 bool FoodLists::Zoek_In_Lijsten(std::string_view text) {
   if (text.empty()) return false;
-  const CaselessFinder finder(text);
-  Collect("#F11-1", [&finder](std::string_view line) { return finder.IsIn(line); });
+  ShowFound("#F11-1", {SearchKind::anywhere, Text(text)});
   return true;
 }
 

@@ -56,6 +56,8 @@ class FoodLists {
 
   // A click on the heading of a column.
   void SortByColumn(FoodView view, std::size_t column);
+  // Sorts anew by a column of values, if the rows stand so: its values are others now.
+  void SortAgain(FoodView view);
   // How the rows stand; nothing while they stand in the order of the lines.
   [[nodiscard]] std::optional<ColumnOrder> ShownOrder(FoodView view) const;
 
@@ -84,6 +86,9 @@ class FoodLists {
   // gives false.
   bool Zoek_In_Lijsten(std::string_view text);
 
+  // Searches as the last time, after the own list has changed. True if what is found has changed.
+  bool SearchAgain();
+
   // The second panel of the status bar: how many a view has, and what a search found.
   [[nodiscard]] Text AvailableText(FoodView view) const;
   [[nodiscard]] Text ResultsText() const;
@@ -110,11 +115,19 @@ class FoodLists {
   [[nodiscard]] Text NutrientCell(std::string_view line) const;
   [[nodiscard]] static SortOrder NextOrder(Order& view_order, std::size_t column);
   [[nodiscard]] std::vector<std::uint32_t> SortedRows(FoodView view, const ColumnOrder& by) const;
-  template <class Wanted>
-  void Collect(std::string_view code, Wanted wanted);
+  void Sort(FoodView view, const ColumnOrder& by);
+
+  enum class SearchKind { at_front, anywhere };
+  struct Search {
+    SearchKind kind;
+    Text text;
+  };
+  [[nodiscard]] TextList Found(const Search& search) const;
+  void ShowFound(std::string_view code, Search search);
 
   Program& program_;
   TextList temp_zoeken_, temp_internet_;
+  std::optional<Search> last_search_;  // what `temp_zoeken` holds the answer to
   std::array<Order, kFoodViews.size()> orders_;
 };
 

@@ -29,7 +29,7 @@ constexpr std::array kButtons = {
 
 }  // namespace
 
-FoodListsToolbar::FoodListsToolbar(bool with_internet, QWidget* parent) : QToolBar(parent) {
+FoodListsToolbar::FoodListsToolbar(QWidget* parent) : QToolBar(parent) {
   NameWidget(this, "Toolbar");
   setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
   setIconSize({kIconSize, kIconSize});
@@ -49,7 +49,6 @@ FoodListsToolbar::FoodListsToolbar(bool with_internet, QWidget* parent) : QToolB
   }
   BuildOwnMenu();
   BuildServerMenu();
-  buttons_.back()->setVisible(with_internet);
 }
 
 QMenu* FoodListsToolbar::AddMenu(FoodView view) {
@@ -101,6 +100,10 @@ void FoodListsToolbar::Set_Taal(const TextTables& texts) {
 void FoodListsToolbar::Press(FoodView view) {
   buttons_[static_cast<std::size_t>(view)]->setChecked(true);
   for (QAction* const entry : own_menu_->actions()) entry->setEnabled(view == FoodView::own);
+}
+
+void FoodListsToolbar::ShowInternet(bool shown) {
+  buttons_.back()->setVisible(shown);
 }
 
 void FoodListsToolbar::ShowServer(bool english) {

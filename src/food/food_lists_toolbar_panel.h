@@ -17,12 +17,13 @@ class FoodListsToolbar : public QToolBar {
   Q_OBJECT
 
  public:
-  // Without the internet its button is not there.
-  FoodListsToolbar(bool with_internet, QWidget* parent);
+  explicit FoodListsToolbar(QWidget* parent);
 
   void Set_Taal(const TextTables& texts);
   // Presses the button of the view; the menu of the own list goes with its view.
   void Press(FoodView view);
+  // Without the internet its button is not there.
+  void ShowInternet(bool shown);
   // The entry of the food server in use is disabled.
   void ShowServer(bool english);
 

@@ -18,7 +18,6 @@ namespace {
 
 using namespace lists_text;
 
-constexpr int kProductColumn = 1;
 constexpr int kProgressWidth = 90;
 
 // The four views, in the order of their buttons.
@@ -38,10 +37,6 @@ const ViewRow& RowOf(FoodView view) {
   return kViews[static_cast<std::size_t>(view)];
 }
 
-ScreenPlace PlaceOf(QPoint point) {
-  return {point.x(), point.y()};
-}
-
 }  // namespace
 
 FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
@@ -57,6 +52,7 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
   BuildStatusBar();
   LayOut();
   Set_Taal();
+  Toolbar_->ShowInternet(UsesInternet());
   ShowView(FoodView::standard);
   Toon_Standaardlijst();
 }
@@ -67,7 +63,7 @@ void FoodListsWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FoodListsWindow::BuildToolbar() {
-  Toolbar_ = new FoodListsToolbar(program_.settings[Setting::chk_internet] != "0", this);
+  Toolbar_ = new FoodListsToolbar(this);
   connect(Toolbar_, &FoodListsToolbar::ViewChosen, this, &FoodListsWindow::ShowView);
   connect(Toolbar_, &FoodListsToolbar::NewFoodChosen, this, &FoodListsWindow::CORE_New_Item);
   connect(Toolbar_, &FoodListsToolbar::CopyChosen, this,
@@ -273,22 +269,47 @@ void FoodListsWindow::Populate(FoodView view, Scroll scroll) {
 }
 
 // The same lines stay selected, wherever they stand now.
-void FoodListsWindow::Sort(FoodView view, std::size_t column) {
+template <class Change>
+void FoodListsWindow::ShowAnew(FoodView view, Change change) {
   FoodTable& table = TableOf(view);
+  const int place = table.verticalScrollBar()->value();
   const auto focus = table.RowInFocus();
   const auto selected = lists_.NumbersOf(view, table.SelectedRows());
   const auto in_focus =
       lists_.NumbersOf(view, focus ? std::vector<std::size_t>{*focus} : std::vector<std::size_t>());
-  lists_.SortByColumn(view, column);
+  change();
   ShowFoodRows(table, lists_, view);
   SetColumnWidths(view);
-  if (in_focus.empty()) return table.scrollToTop();
+  table.verticalScrollBar()->setValue(place);
+  if (in_focus.empty()) return;
   table.SelectRows(lists_.RowsOf(view, selected), lists_.RowsOf(view, in_focus).front());
+}
+
+void FoodListsWindow::Sort(FoodView view, std::size_t column) {
+  const bool in_focus = TableOf(view).RowInFocus().has_value();
+  ShowAnew(view, [&] { lists_.SortByColumn(view, column); });
+  if (!in_focus) TableOf(view).scrollToTop();
+}
+
+void FoodListsWindow::FollowSettings() {
+  const bool internet = UsesInternet();
+  Toolbar_->ShowInternet(internet);
+  if (!internet && View() == FoodView::internet) ShowView(FoodView::standard);
+  for (const FoodView view : kFoodViews) {
+    ShowAnew(view, [&] { lists_.SortAgain(view); });
+  }
+  ShowServer();
+}
+
+bool FoodListsWindow::UsesInternet() const {
+  return program_.settings[Setting::chk_internet] != "0";
 }
 
 void FoodListsWindow::Populate_Food_List_Custom() {
   Populate(FoodView::own, Scroll::keep);
-  if (View() == FoodView::own) ShowStatus();
+  // A search finds own foods too.
+  if (lists_.SearchAgain()) Populate(FoodView::standard, Scroll::keep);
+  ShowStatus();
 }
 
 void FoodListsWindow::Populate_Food_List_Favo() {
@@ -321,51 +342,6 @@ void FoodListsWindow::ShowResults() {
   Populate(FoodView::standard, Scroll::to_top);
   results_shown_ = true;
   ShowStatus();
-}
-
-void FoodListsWindow::RememberRow(FoodView view, int row) {
-  lists_.last_clicked = lists_.Cell(view, static_cast<std::size_t>(row), kProductColumn);
-}
-
-void FoodListsWindow::DeleteSelected(FoodView view) {
-  DeleteRows(program_, lists_, view, TableOf(view).SelectedRows());
-}
-
-void FoodListsWindow::OpenMenu(FoodView view, QPoint place) {
-  OpenFoodMenu(program_, view, TableOf(view).SelectedRows().size(), PlaceOf(place));
-}
-
-void FoodListsWindow::CORE_show_info_mnu() {
-  const auto row = TableOf(View()).RowInFocus();
-  if (row) ShowDetails(program_, lists_, View(), *row);
-}
-
-void FoodListsWindow::CORE_Add_To_Favo() {
-  const auto row = TableOf(View()).RowInFocus();
-  if (row) AddRowToFavourites(program_, lists_, View(), *row);
-}
-
-void FoodListsWindow::CORE_New_Item() {
-  AddNewFood(program_, View());
-}
-
-void FoodListsWindow::CORE_Del_Item() {
-  const auto row = TableOf(View()).RowInFocus();
-  if (row) DeleteRows(program_, lists_, View(), {*row});
-}
-
-void FoodListsWindow::AskDayPart(FoodView view) {
-  FoodTable& table = TableOf(view);
-  if (!MayAddToDay(program_, lists_, view, table.SelectedRows())) return;
-  table.scrollTo(table.currentIndex());
-  const QRect row = table.visualRect(table.currentIndex());
-  day_part_menu_->popup(table.viewport()->mapToGlobal(row.bottomLeft()));
-  day_part_menu_->setActiveAction(day_part_actions_[static_cast<std::size_t>(last_day_part_)]);
-}
-
-void FoodListsWindow::AddSelectedToDay(DayPart part) {
-  last_day_part_ = part;
-  AddRowsToDay(program_, lists_, View(), TableOf(View()).SelectedRows(), part);
 }
 
 // Before there is any row the columns are laid out once; after that they follow the list only while

@@ -32,6 +32,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void FollowSettings() override;
   void Toon_Standaardlijst() override;
   void Populate_Food_List_Custom() override;
   void Populate_Food_List_Favo() override;
@@ -61,6 +62,10 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void ShowView(FoodView view);
   void Populate(FoodView view, Scroll scroll);
   void Sort(FoodView view, std::size_t column);
+  // Shows the rows of a view after a change of their order or their cells.
+  template <class Change>
+  void ShowAnew(FoodView view, Change change);
+  [[nodiscard]] bool UsesInternet() const;
   void SetColumnWidths(FoodView view);
   void SetEmptyTexts();
   void ShowResults();

@@ -49,16 +49,22 @@ SortOrder FoodLists::NextOrder(Order& view_order, std::size_t column) {
 }
 
 void FoodLists::SortByColumn(FoodView view, std::size_t column) {
-  program_.Guard("#F11-3", [&] {
-    program_.platform.pointer.ShowWait();
-    Order& view_order = OrderOf(view);
-    const ColumnOrder by{column, NextOrder(view_order, column)};
-    std::vector<std::uint32_t> sorted = SortedRows(view, by);
-    for (std::uint32_t& row : sorted) row = static_cast<std::uint32_t>(NumberOf(view, row));
-    view_order.numbers = std::move(sorted);
-    view_order.last_click = by;
-    program_.platform.pointer.Restore();
-  });
+  program_.Guard("#F11-3", [&] { Sort(view, {column, NextOrder(OrderOf(view), column)}); });
+}
+
+void FoodLists::SortAgain(FoodView view) {
+  const auto shown = ShownOrder(view);
+  if (!shown || shown->column < kFirstValueColumn) return;
+  program_.Guard("#F11-4", [&] { Sort(view, *shown); });
+}
+
+void FoodLists::Sort(FoodView view, const ColumnOrder& by) {
+  program_.platform.pointer.ShowWait();
+  std::vector<std::uint32_t> sorted = SortedRows(view, by);
+  for (std::uint32_t& row : sorted) row = static_cast<std::uint32_t>(NumberOf(view, row));
+  OrderOf(view).numbers = std::move(sorted);
+  OrderOf(view).last_click = by;
+  program_.platform.pointer.Restore();
 }
 
 std::vector<std::uint32_t> FoodLists::SortedRows(FoodView view, const ColumnOrder& by) const {

@@ -141,6 +141,16 @@ void Refresh_Totalen(Program& program) {
   });
 }
 
+void FollowSettings(Program& program) {
+  if (program.store.DayIsOpen()) Refresh_Totalen(program);
+  const OpenWindows& windows = program.windows;
+  if (windows.multi_day != nullptr) windows.multi_day->Refresh_Meerdaagsuittreksel();
+  for (ConsumptionView* const window : windows.consumption) {
+    if (window != nullptr) window->Refresh_Consumpties();
+  }
+  windows.FollowSettings();
+}
+
 UnitContext UnitsOf(Program& program) {
   return {program.platform.locale, program.FailurePath()};
 }

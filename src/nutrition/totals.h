@@ -46,6 +46,9 @@ struct Amounts {
 // failure shows "#FF11-0".
 void Refresh_Totalen(Program& program);
 
+// Brings every open window and the totals of an open day in step with the settings and the profile.
+void FollowSettings(Program& program);
+
 // What a conversion needs of this program.
 [[nodiscard]] UnitContext UnitsOf(Program& program);
 

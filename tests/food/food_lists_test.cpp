@@ -67,6 +67,25 @@ TEST_F(FoodListsTest, EnterFindsTheTextAnywhereInALine) {
   EXPECT_EQ(lists.Count(FoodView::standard), 2u);
 }
 
+TEST_F(FoodListsTest, ASearchFollowsTheOwnList) {
+  EXPECT_FALSE(lists.SearchAgain());  // nothing was searched yet
+  lists.SearchPrefix("app");
+  EXPECT_FALSE(lists.SearchAgain());
+  store.Custom_list.Replace(0, LineOf({.product = "Apple tart"}));
+  EXPECT_EQ(Names(), (std::vector<Text>{"APPLE", "Apple pie of my own"}));
+  EXPECT_TRUE(lists.SearchAgain());
+  EXPECT_EQ(Names(), (std::vector<Text>{"APPLE", "Apple tart"}));
+  // Whatever another user had is found no more.
+  store.Custom_list.Clear();
+  EXPECT_TRUE(lists.SearchAgain());
+  EXPECT_EQ(Names(), std::vector<Text>{"APPLE"});
+  EXPECT_TRUE(lists.Zoek_In_Lijsten("tart"));
+  EXPECT_TRUE(Names().empty());
+  store.Custom_list.Add(LineOf({.product = "My own tart"}));
+  EXPECT_TRUE(lists.SearchAgain());
+  EXPECT_EQ(Names(), std::vector<Text>{"My own tart"});
+}
+
 TEST_F(FoodListsTest, ACategoryIsASearchForItsFile) {
   EXPECT_EQ(lists.ChooseCategory("Fruit"), "Fruit.dat");
   EXPECT_EQ(Names(), std::vector<Text>{"APPLE"});

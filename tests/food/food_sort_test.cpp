@@ -75,6 +75,27 @@ TEST_F(FoodSort, OuncesSortAsTheyAreShown) {
   EXPECT_EQ(Click(kWeight), "cba");
 }
 
+TEST_F(FoodSort, AnotherNutrientSortsTheColumnOfValuesAnewAndNoOther) {
+  test.program.store.Custom_list.Clear();
+  Add({.product = "a", .kj = "1", .carbs = "30"});
+  Add({.product = "b", .kj = "2", .carbs = "10"});
+  Add({.product = "c", .kj = "3", .carbs = "20"});
+  lists.SortAgain(FoodView::own);
+  EXPECT_EQ(lists.ShownOrder(FoodView::own), std::nullopt);
+  EXPECT_EQ(Click(kNutrient), "abc");
+  test.program.profile[ProfileField::type_prioriteit] = "4";
+  EXPECT_EQ(Order(), "abc");
+  lists.SortAgain(FoodView::own);
+  EXPECT_EQ(Order(), "bca");
+  EXPECT_EQ(lists.ShownOrder(FoodView::own), (ColumnOrder{kNutrient, SortOrder::ascending}));
+  // The next click turns it round: sorting anew was none.
+  EXPECT_EQ(Click(kNutrient), "acb");
+  EXPECT_EQ(Click(kName), "abc");
+  lists.SortAgain(FoodView::own);
+  EXPECT_EQ(Order(), "abc");
+  EXPECT_EQ(lists.ShownOrder(FoodView::own), (ColumnOrder{kName, SortOrder::ascending}));
+}
+
 TEST_F(FoodSort, NegativeValuesAndTextsWithoutANumberAreSorted) {
   test.program.store.Custom_list.Clear();
   Add({.product = "a", .gram = "none"});
