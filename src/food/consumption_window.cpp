@@ -46,7 +46,6 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
   setObjectName(ToQt(RowOf(part).window_name));
   BuildToolbars();
   BuildList();
-  BuildEmptyHint();
   row_menu_ = new RowMenu(
       program_, part_, [this] { return SelectedNames(); }, LV_consumpties_);
   row_menu_->AddButtons({plus_action_, minus_action_, remove_action_});
@@ -83,21 +82,6 @@ void ConsumptionWindow::BuildList() {
   // The window itself has nothing that takes keys.
   setFocusPolicy(Qt::ClickFocus);
   setFocusProxy(LV_consumpties_);
-}
-
-void ConsumptionWindow::BuildEmptyHint() {
-  empty_hint_ = NewLabel(LV_consumpties_->viewport(), QStringLiteral("empty_hint"));
-  empty_hint_->setAlignment(Qt::AlignCenter);
-  empty_hint_->setWordWrap(true);
-  empty_hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  QPalette grey = empty_hint_->palette();
-  grey.setColor(QPalette::WindowText, grey.color(QPalette::PlaceholderText));
-  empty_hint_->setPalette(grey);
-  empty_hint_->setForegroundRole(QPalette::WindowText);
-  auto* const layout = new QVBoxLayout(LV_consumpties_->viewport());
-  layout->setContentsMargins(12, 0, 12, 0);
-  layout->setSizeConstraint(QLayout::SetNoConstraint);
-  layout->addWidget(empty_hint_);
 }
 
 void ConsumptionWindow::BuildToolbars() {
@@ -202,7 +186,8 @@ void ConsumptionWindow::Set_Taal() {
   Info_bar_->SetCaptions(program_.texts, table);
   Pic_SP_->SetCaptions(program_.texts, table);
   panels_[0]->setText(ToQt(text(ct::kStatus)));
-  empty_hint_->setText(ToQt(program_.texts[{TextTable::taal_morning, ct::kSharedDropHint}]));
+  LV_consumpties_->SetEmptyText(
+      ToQt(program_.texts[{TextTable::taal_morning, ct::kSharedDropHint}]), Qt::AlignCenter);
   LV_consumpties_->setAccessibleName(ToQt(text(ct::kTitle)));
   // Title and headings are texts of the tables too.
   Refresh_Consumpties();
@@ -232,7 +217,6 @@ void ConsumptionWindow::Refresh_Consumpties() {
         QItemSelectionModel::NoUpdate);
   }
   SelectRows(to_select);
-  empty_hint_->setVisible(rows_->empty());
   RefreshDaySummary(program_);
   FollowListWidth();
 }

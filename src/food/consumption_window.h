@@ -49,7 +49,6 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
 
  private:
   void BuildList();
-  void BuildEmptyHint();
   void BuildToolbars();
   void BuildStatusBar();
   void LayOut();
@@ -72,7 +71,6 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   std::shared_ptr<const std::vector<ConsumptionRow>> rows_;  // what the list shows
   bool rebuilding_ = false;  // the current row changes, but nobody chose another one
   FoodTable* LV_consumpties_;
-  QLabel* empty_hint_;
   QToolBar* Toolbar_;
   QToolBar* Toolbar_control_;
   QAction* totals_action_;

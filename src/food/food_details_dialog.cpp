@@ -12,6 +12,7 @@
 #include "food/long_label_panel.h"
 #include "food/number_box_panel.h"
 #include "language/food_details_texts.h"
+#include "platform/qt/hint_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -179,9 +180,8 @@ void FoodDetailsDialog::BuildPer100Grams() {
     oVar_[value] = box;
     AddValueRow(Frame_b_, value, box);
   }
-  edit_hint_ = AddCaption(QStringLiteral("lbl_edit_hint"), kEditHint);
-  edit_hint_->setWordWrap(true);
-  edit_hint_->setForegroundRole(QPalette::PlaceholderText);
+  edit_hint_ = new HintLabel(Frame_b_.page, QStringLiteral("lbl_edit_hint"));
+  captions_.push_back({edit_hint_, kEditHint});
   Frame_b_.page->layout()->addWidget(edit_hint_);
 }
 

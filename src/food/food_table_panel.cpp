@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QVBoxLayout>
 
 #include "food/drag_text.h"
 #include "platform/qt/look.h"
@@ -24,6 +25,7 @@ FoodTable::FoodTable(const char* object_name, QWidget* parent) : QTableView(pare
   setDragDropMode(QAbstractItemView::DragDrop);
   setDropIndicatorShown(false);
   horizontalHeader()->setMinimumSectionSize(0);
+  BuildEmptyHint();
   connect(this, &QAbstractItemView::clicked, this,
           [this](const QModelIndex& index) { emit RowClicked(index.row()); });
 }
@@ -65,10 +67,21 @@ void FoodTable::SelectRows(const std::vector<std::size_t>& rows, std::size_t foc
   scrollTo(index);
 }
 
-void FoodTable::SetEmptyText(const QString& text) {
-  if (empty_text_ == text) return;
-  empty_text_ = text;
-  viewport()->update();
+void FoodTable::BuildEmptyHint() {
+  constexpr int kSide = 12, kTop = 6;
+  empty_hint_ = new HintLabel(viewport(), QStringLiteral("empty_hint"));
+  empty_hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  auto* const layout = new QVBoxLayout(viewport());
+  layout->setContentsMargins(kSide, kTop, kSide, kTop);
+  layout->setSizeConstraint(QLayout::SetNoConstraint);
+  layout->addWidget(empty_hint_);
+  connect(&model_, &QAbstractItemModel::modelReset, this,
+          [this] { empty_hint_->setVisible(model_.rowCount() == 0); });
+}
+
+void FoodTable::SetEmptyText(const QString& text, Qt::Alignment place) {
+  empty_hint_->setText(text);
+  empty_hint_->setAlignment(place);
 }
 
 void FoodTable::SelectRow(int row) {
@@ -130,19 +143,10 @@ void FoodTable::keyPressEvent(QKeyEvent* event) {
 
 void FoodTable::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
-  if (model_.rowCount() == 0) DrawEmptyText();
   if (!drop_light_) return;
   QPainter painter(viewport());
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
-}
-
-void FoodTable::DrawEmptyText() {
-  constexpr int kMargin = 12;
-  QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
-  painter.drawText(viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
-                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
 }
 
 void FoodTable::SetDropLight(bool on) {

@@ -10,6 +10,7 @@
 #include <QTableView>
 
 #include "core/text.h"
+#include "platform/qt/hint_label.h"
 #include "platform/qt/text_table_model.h"
 
 namespace kelvora {
@@ -28,8 +29,8 @@ class FoodTable : public QTableView {
   std::function<void(const Text& payload)> drop;
 
   [[nodiscard]] TextTableModel& Model() { return model_; }
-  // What an empty list says, in grey.
-  void SetEmptyText(const QString& text);
+  // What an empty list says, in grey, at that place.
+  void SetEmptyText(const QString& text, Qt::Alignment place = Qt::AlignHCenter | Qt::AlignTop);
   // The numbers of the selected rows, from first to last.
   [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
   void SelectRow(int row);
@@ -56,13 +57,13 @@ class FoodTable : public QTableView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void BuildEmptyHint();
   void SetDropLight(bool on);
   [[nodiscard]] bool Takes(const QMimeData* data) const;
-  void DrawEmptyText();
 
   TextTableModel model_;
   bool drop_light_ = false;
-  QString empty_text_;
+  HintLabel* empty_hint_;
 };
 
 }  // namespace kelvora

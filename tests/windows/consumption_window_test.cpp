@@ -387,6 +387,30 @@ TEST_F(ConsumptionWindows, AnOpenDaySummaryFollowsEveryRebuilding) {
   test.program.windows.day_summary = nullptr;
 }
 
+// A drop of what was dragged from a part of the day on a food list, as the desktop makes it.
+TEST_F(ConsumptionWindows, AFoodThatIsTakenOutLeavesTheWindowThatItWasDraggedFrom) {
+  auto* const foods = window.findChild<FoodTable*>(QStringLiteral("LV_browse_zoeken"));
+  ASSERT_NE(foods, nullptr);
+  for (const DayPart part : kDayParts) {
+    Fill(part, {kBread, kApple, kBread});
+    List(part)->SelectRow(0);
+    QMimeData data;
+    data.setText(ToQt(List(part)->drag_payload({0})));
+    const QPointF middle = foods->viewport()->rect().center();
+    QDragEnterEvent enter(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(foods->viewport(), &enter);
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(foods->viewport(), &drop);
+    // One portion of the two is gone, in the list, in its totals and in the status bar.
+    EXPECT_EQ(Products(part), (std::vector<QString>{"Bread", "Apple"}));
+    EXPECT_EQ(Cell(part, 0, 1), "1");
+    EXPECT_EQ(Cell(part, 0, 5), "82");
+    EXPECT_EQ(Find<QLabel>(part, "lbl_nfo_7")->text(), ": 185g");
+    EXPECT_TRUE(Find<QLabel>(part, "StatusBar_2")->text().endsWith(" 160 Kcal"));
+  }
+  for (const DayPart part : kDayParts) EXPECT_EQ(Products(part).size(), 2u);
+}
+
 TEST_F(ConsumptionWindows, ADropSelectsTheLastRowAndLeavesTheClickedNameAlone) {
   Fill(DayPart::morning, {kBread});
   test.program.day.selected_names[0] = "Bread";

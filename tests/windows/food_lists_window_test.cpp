@@ -5,7 +5,10 @@
 #include <QProgressBar>
 #include <QScrollBar>
 
+#include "days/day_settings.h"
+#include "days/settings.h"
 #include "language/built_in_texts.h"
+#include "nutrition/totals.h"
 #include "windows/food_lists_user.h"
 
 namespace kelvora {
@@ -95,6 +98,87 @@ TEST_F(FoodListsWindowTest, TheNameLastClickedIsSelectedAfterARefreshInWhateverV
   EXPECT_EQ(Cell(List(2), static_cast<int>(List(2)->SelectedRows().at(0))), "Stew");
 }
 
+// 85 grams are 2.998 oz. What the cells show and what the headings say go together.
+TEST_F(FoodListsWindowTest, AnotherPriorityAndAnotherUnitChangeHeadingsWithTheCells) {
+  store.Custom_list.Replace(0, LineOf({.product = "Oats",
+                                       .gram = "85",
+                                       .kj = "937",
+                                       .kcal = "224",
+                                       .protein = "11",
+                                       .fat_u = "5",
+                                       .fat_s = "2",
+                                       .carbs = "56"}));
+  store.Favorites_list.Add(Text(store.Custom_list[0]));
+  Open();
+  program.settings[Setting::chk_apply] = "1";
+  const auto shown = [&](int number, int column) {
+    const QString heading =
+        List(number)->Model().headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    return (heading + ' ' + Cell(List(number), 0, column)).toStdString();
+  };
+  const std::array expected = {"Kj.: 937",    "Kcal.: 224", "Fat (u).: 5",
+                               "Fat (s).: 2", "Carb.: 56",  "Prot.: 11"};
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    DayEditing editing = OpenDayEditing(program);
+    editing.form.type_prioriteit = std::to_string(i);
+    ApplyAtOnce(program, editing);
+    for (const int number : {2, 3}) EXPECT_EQ(shown(number, 4), expected[i]);
+  }
+  for (const auto& [unit, text] : {std::pair{"1", "oz: 3"}, {"0", "Gram: 85"}}) {
+    SettingsForm form = FormOfSettings(program);
+    form.opt_gramoz = unit;
+    ASSERT_TRUE(Save_From_Form(program, form));
+    for (const int number : {2, 3}) EXPECT_EQ(shown(number, 3), text);
+  }
+}
+
+TEST_F(FoodListsWindowTest, ASettingLeavesSelectionOrderAndScrollingAlone) {
+  for (int i = 0; i < 500; ++i) store.Custom_list.Add(LineOf({.product = "x"}));
+  Open();
+  Press(2);
+  ClickHeading(List(2), 1);
+  Click(List(2), 1);
+  Click(List(2), 2, Qt::LeftButton, Qt::ControlModifier);
+  List(2)->verticalScrollBar()->setValue(0);
+  const QString order = Names(List(2));
+  program.settings[Setting::opt_gramoz] = "1";
+  FollowSettings(program);
+  EXPECT_EQ(Names(List(2)), order);
+  EXPECT_EQ(List(2)->SelectedRows(), (std::vector<std::size_t>{1, 2}));
+  EXPECT_EQ(List(2)->verticalScrollBar()->value(), 0);
+  EXPECT_EQ(List(2)->horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(FoodListsWindowTest, WithoutTheInternetItsListGoesAtOnce) {
+  Open();
+  Press(4);
+  SettingsForm form = FormOfSettings(program);
+  form.chk_internet = false;
+  ASSERT_TRUE(Save_From_Form(program, form));
+  QApplication::processEvents();
+  EXPECT_FALSE(In<QToolButton>("Toolbar_4")->isVisible());
+  EXPECT_TRUE(List(1)->isVisible());
+  EXPECT_EQ(Status(1), "Standard list");
+  form.chk_internet = true;
+  ASSERT_TRUE(Save_From_Form(program, form));
+  QApplication::processEvents();
+  EXPECT_TRUE(In<QToolButton>("Toolbar_4")->isVisible());
+}
+
+// What was found goes with the own list, of which a search finds the foods too.
+TEST_F(FoodListsWindowTest, ASearchShowsTheOwnListAsItIs) {
+  Open();
+  auto* const search = In<QLineEdit>("txt_zoeken");
+  search->clear();
+  QTest::keyClicks(search, "pie");
+  EXPECT_EQ(Names(List(1)), "Pie");
+  store.Custom_list.Replace(1, LineOf({.product = "Pie with plums"}));
+  store.Custom_list.Add(LineOf({.product = "Pieces"}));
+  program.windows.lists->Populate_Food_List_Custom();
+  EXPECT_EQ(Names(List(1)), "Pie with plums Pieces");
+  EXPECT_EQ(Status(2), "2 results found");
+}
+
 TEST_F(FoodListsWindowTest, ARefreshStaysWhereTheListWasScrolledTo) {
   for (int i = 0; i < 500; ++i) store.Custom_list.Add(LineOf({.product = "x"}));
   Open();
@@ -104,17 +188,62 @@ TEST_F(FoodListsWindowTest, ARefreshStaysWhereTheListWasScrolledTo) {
   EXPECT_EQ(List(2)->verticalScrollBar()->value(), 300);
 }
 
+// How many pixels of a picture have just this colour.
+int PixelsOf(const QImage& picture, const QColor& colour) {
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixelColor(x, y) == colour;
+  }
+  return count;
+}
+
 TEST_F(FoodListsWindowTest, AnEmptyListSaysWhyInGrey) {
   store.Custom_list.Clear();
   Open();
+  In<QLineEdit>("txt_zoeken")->setText(QStringLiteral("nowhere"));
+  QTest::keyClick(In<QLineEdit>("txt_zoeken"), Qt::Key_Return);
+  struct Case {
+    int list;
+    const char* english;
+    const char* dutch;
+  };
+  for (const Case& row :
+       {Case{1, "No food items were found.", "Er zijn geen voedingsmiddelen gevonden."},
+        Case{2, "You have made no food items of your own yet.",
+             "Je hebt nog geen eigen voedingsmiddelen gemaakt."},
+        Case{3, "You have no favourites yet. Drag a consumption here to add one.",
+             "Je hebt nog geen favorieten. Sleep een consumptie hierheen."}}) {
+    SCOPED_TRACE(row.list);
+    FoodTable* const list = List(row.list);
+    Make_Taal_English(program.texts);
+    program.windows.lists->Set_Taal();
+    Press(row.list);
+    const auto* const hint = list->findChild<QLabel*>("empty_hint");
+    ASSERT_NE(hint, nullptr);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text(), row.english);
+    // What is seen: letters of the grey, on a ground without any other letter.
+    const QColor grey = hint->palette().color(QPalette::WindowText);
+    const QImage seen = list->viewport()->grab().toImage();
+    EXPECT_GT(PixelsOf(seen, grey), 0);
+    EXPECT_EQ(PixelsOf(seen, list->palette().color(QPalette::Text)), 0);
+    Make_Taal_Dutch(program.texts);
+    program.windows.lists->Set_Taal();
+    EXPECT_EQ(hint->text(), row.dutch);
+  }
+}
+
+TEST_F(FoodListsWindowTest, AListWithFoodsSaysNothingElse) {
+  Open();
   Press(2);
-  const QImage empty = List(2)->viewport()->grab().toImage();
-  store.Custom_list.Add(LineOf({.product = ""}));
-  program.windows.lists->Populate_Food_List_Custom();
+  const auto* const hint = List(2)->findChild<QLabel*>("empty_hint");
+  EXPECT_FALSE(hint->isVisible());
   store.Custom_list.Clear();
-  List(2)->SetEmptyText({});
   program.windows.lists->Populate_Food_List_Custom();
-  EXPECT_NE(List(2)->viewport()->grab().toImage(), empty);
+  EXPECT_TRUE(hint->isVisible());
+  store.Custom_list.Add(LineOf({.product = "Soup"}));
+  program.windows.lists->Populate_Food_List_Custom();
+  EXPECT_FALSE(hint->isVisible());
 }
 
 TEST_F(FoodListsWindowTest, TipsNamesAndHeadingsComeInBothLanguages) {
