@@ -1,10 +1,9 @@
 #include "food/adding.h"
 
-#include <algorithm>
-
 #include "food/food_values.h"
 #include "internet/submission.h"
 #include "language/new_food_texts.h"
+#include "language/own_texts.h"
 #include "nutrition/totals.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"
@@ -14,32 +13,6 @@ namespace kelvora {
 namespace {
 
 using namespace new_food_text;
-
-// The values in the order of a food line.
-constexpr std::array<std::size_t, FoodValue::kCount> kLineOrder = {
-    FoodValue::kKj,   FoodValue::kKcal,  FoodValue::kProtein, FoodValue::kFatU,
-    FoodValue::kFatS, FoodValue::kCarbs, FoodValue::kSodium};
-
-constexpr std::string_view kGroupOfOwnFoods = "0";
-
-// The twelve fields of the line, each followed by `closing`.
-Text JoinFields(const NewFoodForm& form, char closing) {
-  Text joined;
-  const auto add = [&](std::string_view field) { joined.append(field) += closing; };
-  add(Trimmed(form.txt_dNaam));
-  add(Trimmed(form.combo_dEenheid));
-  add(form.portion_weight.weight);
-  for (const std::size_t index : kLineOrder) add(form.txt_d[index]);
-  add(kGroupOfOwnFoods);
-  add({});  // no remark
-  return joined;
-}
-
-bool IsIncomplete(const NewFoodForm& form) {
-  const Text& weight = form.portion_weight.weight;
-  return form.txt_dNaam.empty() || form.combo_dEenheid.empty() || weight.empty() ||
-         HoldsDecimalMark(weight) || std::ranges::any_of(form.txt_d, &IsIncompleteNumber);
-}
 
 // True if the sodium is no surprise, or the user keeps it.
 bool SodiumIsMeant(Program& program, const NewFoodForm& form) {
@@ -58,23 +31,31 @@ void Refuse(Program& program, Text text) {
   Tell(program, BoxIcon::error, std::move(text));
 }
 
-// Tells why the food can't be added; true if it can.
-bool MayBeAdded(Program& program, const NewFoodForm& form) {
-  if (const auto error = CheckNewFood(form)) {
-    Refuse(program, TextOf(program.texts, *error));
-    return false;
+// Tells why the food can't be added, and returns the box that is to blame; nothing if it can be.
+// The values are calculated on the way: what was typed last counts.
+std::optional<NewFoodBox> WhatHolds(Program& program, NewFoodForm& form) {
+  auto fault = CheckTyped(form);
+  if (!fault) {
+    Calculate(form, UnitsOf(program));
+    fault = CheckLine(form);
   }
-  if (!SodiumIsMeant(program, form)) return false;
-  // The name as it was typed: lines begin with a trimmed one, so blanks around it find no other.
-  if (!program.store.Custom_list.FindFirst(KeyOf(form.txt_dNaam))) return true;
+  if (fault) {
+    Refuse(program, TextOf(program.texts, *fault));
+    return fault->box;
+  }
+  if (!SodiumIsMeant(program, form)) {
+    return NewFoodBox{NewFoodBox::Kind::value, FoodValue::kSodium};
+  }
+  if (!program.store.Custom_list.FindFirst(KeyOf(Trimmed(form.txt_dNaam)))) return std::nullopt;
   Refuse(program, JoinLines(program.texts, {kNameExists, kChooseAnotherName}));
-  return false;
+  return NewFoodBox{NewFoodBox::Kind::name};
 }
 
+// After a list that could not be written nothing is said to be saved, and nothing is sent.
 void AddToOwnList(Program& program, const NewFoodForm& form) {
   program.store.Custom_list.Add(LineOfNewFood(form));
-  Save_Custom(program, CustomFile(program.paths, program.paths.UserName));
-  if (program.settings[Setting::chk_addinternet] == "1") return SubmitFood(program);
+  if (!Save_Custom(program, CustomFile(program.paths, program.paths.UserName))) return;
+  if (AddsToInternet(program)) return SubmitFood(program);
   Tell(program, BoxIcon::information, program.texts[kSaved]);
 }
 
@@ -97,10 +78,19 @@ NewFoodForm EmptyNewFood(Program& program) {
   return form;
 }
 
+bool MayAddToInternet(const Program& program) {
+  return program.settings[Setting::chk_internet] == "1" && !program.servers.submission.empty();
+}
+
 bool AddsToInternet(Program& program) {
   Rec_Settings& settings = program.settings;
   if (settings[Setting::chk_internet] == "0") settings[Setting::chk_addinternet] = "0";
-  return settings[Setting::chk_internet] == "1" && settings[Setting::chk_addinternet] == "1";
+  return MayAddToInternet(program) && settings[Setting::chk_addinternet] == "1";
+}
+
+Text AddToInternetTip(const Program& program) {
+  if (!program.servers.submission.empty()) return program.texts[kTipAddToInternet];
+  return OwnTextOf(program.texts, OwnText::no_food_server);
 }
 
 void StoreAddsToInternet(Program& program, bool on) {
@@ -129,41 +119,22 @@ void TickEnergyLink(Program& program, NewFoodForm& form, bool on) {
   if (on) CalculateFood(program, form);
 }
 
-std::optional<NewFoodError> CheckNewFood(const NewFoodForm& form) {
-  if (IsIncomplete(form)) return NewFoodError::incomplete;
-  const Text tested = JoinFields(form, '-');
-  if (HoldsTerminator(tested)) return NewFoodError::illegal_characters;
-  if (tested.size() > kMaxFoodLength) return NewFoodError::too_long;
-  return std::nullopt;
-}
-
-Text TextOf(const TextTables& texts, NewFoodError error) {
-  switch (error) {
-    case NewFoodError::incomplete:
-      return JoinLines(texts, {kValuesMissing, kEnterValues});
-    case NewFoodError::illegal_characters:
-      return JoinLines(texts, {kIllegalCharacters, kHalfNotAllowed, kRemoveCharacters});
-    case NewFoodError::too_long:
-      return JoinLines(texts, {kTooMuchData, kShortenDescription});
-  }
-  return {};
-}
-
 Text LineOfNewFood(const NewFoodForm& form) {
   return JoinFields(form, kFieldEnd);
 }
 
-bool AddNewFood(Program& program, NewFoodForm& form) {
-  bool added = false;
+AddedFood AddNewFood(Program& program, NewFoodForm& form) {
+  AddedFood result;
   program.Guard("#F1-2", [&] {
-    if (!MayBeAdded(program, form)) return;
+    result.look_at = WhatHolds(program, form);
+    if (result.look_at) return;
     AddToOwnList(program, form);
     SelectInFoodLists(program, form);
     BeginNextFood(form, UnitsOf(program));
     CalculateFood(program, form);
-    added = true;
+    result.added = true;
   });
-  return added;
+  return result;
 }
 
 }  // namespace kelvora

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "core/program.h"
-#include "food/food_calculator.h"
+#include "food/new_food_check.h"
 
 namespace kelvora {
 
@@ -16,9 +16,16 @@ namespace kelvora {
 // The form at the opening of the dialog: weights of 100 grams, nothing calculated yet.
 [[nodiscard]] NewFoodForm EmptyNewFood(Program& program);
 
-// The setting of `chk_inet` at the opening of the dialog. Whoever does not use the internet adds
+// Whether foods can be offered to the food server at all: the user wants the internet, and the
+// program knows a server.
+[[nodiscard]] bool MayAddToInternet(const Program& program);
+
+// The setting of `chk_inet`: off where it can't be on. Whoever does not use the internet adds
 // nothing to it: then the setting becomes "0".
 [[nodiscard]] bool AddsToInternet(Program& program);
+
+// The tip of `chk_inet`: what it does, or that there is no server.
+[[nodiscard]] Text AddToInternetTip(const Program& program);
 
 // A click on `chk_inet`: the choice lasts from now on.
 void StoreAddsToInternet(Program& program, bool on);
@@ -35,22 +42,18 @@ void LeaveValue(Program& program, NewFoodForm& form, std::size_t index);
 // `chk_kj` was ticked or unticked. Ticking calculates, but links no energy yet.
 void TickEnergyLink(Program& program, NewFoodForm& form, bool on);
 
-// What a food can lack, in the order of the tests.
-enum class NewFoodError { incomplete, illegal_characters, too_long };
-
-// The first test that the food fails. Texts of blanks only are not empty.
-[[nodiscard]] std::optional<NewFoodError> CheckNewFood(const NewFoodForm& form);
-
-// The lines of the box for an error.
-[[nodiscard]] Text TextOf(const TextTables& texts, NewFoodError error);
-
 // The food line: twelve fields.
 [[nodiscard]] Text LineOfNewFood(const NewFoodForm& form);
 
+struct AddedFood {
+  bool added = false;
+  std::optional<NewFoodBox> look_at;  // the box that holds the food back
+};
+
 // Adds the food to the own list, writes that list, offers the food to the food server if the
-// settings say so, and makes the form that of the next food. False with nothing changed after a
-// failed test, a name that the own list has already, or a No to the question about much sodium. A
-// name with a blank more at its end is another name. A failure shows "#F1-2".
-[[nodiscard]] bool AddNewFood(Program& program, NewFoodForm& form);
+// settings say so, and makes the form that of the next food. Adds nothing after a failed test, a
+// name that the own list has already, or a No to the question about much sodium. A food whose list
+// can't be written is added all the same, without a word of saving. A failure shows "#F1-2".
+[[nodiscard]] AddedFood AddNewFood(Program& program, NewFoodForm& form);
 
 }  // namespace kelvora

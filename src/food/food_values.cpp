@@ -1,5 +1,7 @@
 #include "food/food_values.h"
 
+#include <algorithm>
+
 #include "nutrition/numbers.h"
 
 namespace kelvora {
@@ -21,6 +23,10 @@ bool HoldsDecimalMark(std::string_view text) {
 bool IsIncompleteNumber(std::string_view text) {
   return text.empty() || IsMark(text.front()) || IsMark(text.back()) ||
          text.find(",,") != std::string_view::npos || text.find("..") != std::string_view::npos;
+}
+
+bool IsWrongNumber(std::string_view text) {
+  return IsIncompleteNumber(text) || std::ranges::count_if(text, &IsMark) > 1;
 }
 
 bool IsHighSodium(std::string_view grams) {

@@ -19,6 +19,9 @@ inline constexpr std::size_t kMaxFoodLength = 900;
 // end, and two equal marks in a row.
 [[nodiscard]] bool IsIncompleteNumber(std::string_view text);
 
+// True for what can't be meant as one value: an incomplete number, and one with several marks.
+[[nodiscard]] bool IsWrongNumber(std::string_view text);
+
 // True if that many grams of sodium are worth a question: more than 0.5.
 [[nodiscard]] bool IsHighSodium(std::string_view grams);
 

@@ -9,6 +9,7 @@
 
 #include "food/number_box_panel.h"
 #include "language/new_food_texts.h"
+#include "platform/qt/hint_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -78,8 +79,7 @@ NewFoodDialog::NewFoodDialog(Program& program, QWidget* parent)
   layout->addLayout(BuildButtons());
   Set_Taal();
   ShowForm();
-  printed_weight_.gram->setFocus();
-  printed_weight_.gram->selectAll();
+  GoTo({NewFoodBox::Kind::printed_gram});
 }
 
 NewFoodDialog::~NewFoodDialog() {
@@ -109,8 +109,9 @@ QGroupBox* NewFoodDialog::BuildPrintedFrame() {
       ShowForm();
     });
   }
-  QLabel* const warning = AddLabel(frame, QStringLiteral("lbl_sodium_warning"), kSodiumWarning);
-  warning->setForegroundRole(QPalette::PlaceholderText);
+  auto* const warning = new HintLabel(frame, QStringLiteral("lbl_sodium_warning"));
+  warning->setWordWrap(false);
+  captions_.push_back({warning, kSodiumWarning});
   grid->addWidget(warning, kNoteRow, 1, 1, kColumns - 1);
   return frame;
 }
@@ -132,9 +133,7 @@ QGroupBox* NewFoodDialog::BuildPortionFrame() {
 QHBoxLayout* NewFoodDialog::BuildButtons() {
   chk_inet_ = new QCheckBox(this);
   NameWidget(chk_inet_, "chk_inet");
-  chk_inet_->setChecked(AddsToInternet(program_));
-  chk_inet_->setEnabled(program_.settings[Setting::chk_internet] == "1");
-  captions_.push_back({chk_inet_, kAddToInternet, std::nullopt, kTipAddToInternet});
+  captions_.push_back({chk_inet_, kAddToInternet});
   connect(chk_inet_, &QCheckBox::clicked, this,
           [this](bool on) { StoreAddsToInternet(program_, on); });
 
@@ -299,6 +298,7 @@ void NewFoodDialog::Set_Taal() {
     }
     if (tip) widget->setToolTip(ToQt(texts[*tip]));
   }
+  FollowSettings();
   for (QPushButton* const button : {cmd_opslaan_, cmd_annuleer_}) {
     button->setMinimumWidth(button->sizeHint().width() + kButtonRoom);
   }
@@ -307,6 +307,12 @@ void NewFoodDialog::Set_Taal() {
   for (const Text& unit : UnitChoices(texts)) combo_dEenheid_->addItem(ToQt(unit));
   combo_dEenheid_->setCurrentIndex(-1);
   combo_dEenheid_->setEditText(ToQt(form_.combo_dEenheid));
+}
+
+void NewFoodDialog::FollowSettings() {
+  chk_inet_->setChecked(AddsToInternet(program_));
+  chk_inet_->setEnabled(MayAddToInternet(program_));
+  chk_inet_->setToolTip(ToQt(AddToInternetTip(program_)));
 }
 
 void NewFoodDialog::ShowForm() {
@@ -344,10 +350,37 @@ void NewFoodDialog::Add() {
   // Enter adds from within a box, and what was typed there counts.
   LeaveFocusedBox();
   TakeTexts();
-  if (!AddNewFood(program_, form_)) return;
+  const AddedFood result = AddNewFood(program_, form_);
   ShowForm();
-  printed_weight_.gram->setFocus();
-  printed_weight_.gram->selectAll();
+  if (result.look_at) return GoTo(*result.look_at);
+  if (result.added) GoTo({NewFoodBox::Kind::printed_gram});
+}
+
+void NewFoodDialog::GoTo(NewFoodBox box) {
+  QLineEdit* const edit = BoxOf(box);
+  edit->setFocus();
+  edit->selectAll();
+}
+
+QLineEdit* NewFoodDialog::BoxOf(NewFoodBox box) const {
+  using Kind = NewFoodBox::Kind;
+  switch (box.kind) {
+    case Kind::name:
+      return txt_dNaam_;
+    case Kind::unit:
+      return combo_dEenheid_->lineEdit();
+    case Kind::printed_gram:
+      return printed_weight_.gram;
+    case Kind::printed_oz:
+      return printed_weight_.oz;
+    case Kind::portion_gram:
+      return portion_weight_.gram;
+    case Kind::portion_oz:
+      return portion_weight_.oz;
+    case Kind::value:
+      break;
+  }
+  return txt_s_[box.value];
 }
 
 void ShowNewFoodDialog(Program& program, QWidget* parent) {

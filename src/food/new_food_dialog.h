@@ -33,6 +33,7 @@ class NewFoodDialog : public QDialog, public WindowView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void FollowSettings() override;
   void done(int result) override;
 
  private:
@@ -69,6 +70,9 @@ class NewFoodDialog : public QDialog, public WindowView {
   void TakeTexts();
   void LeaveFocusedBox();
   void Add();
+  // Puts the focus into a box, with its text selected.
+  void GoTo(NewFoodBox box);
+  [[nodiscard]] QLineEdit* BoxOf(NewFoodBox box) const;
   // Runs what leaving a box leads to, while the dialog is open.
   template <class Leave>
   void AfterLeaving(Leave leave);

@@ -16,7 +16,8 @@ from one_day import end, make_user_and_day
 
 OWN_LIST, FIRST_OWN_ROW = (137, 150), (80, 237)
 EDIT = (581, 591)
-NEW_FOOD, DETAILS, ERROR = "^Add new food item$", "^Food item details$", "^Error #504$"
+NEW_FOOD, DETAILS, ERROR = "^Add new food item$", "^Food item details$", "^Error"
+MAIN = "^Kelvora FOOD$"
 
 # On the package, per 100 grams: kilojoules, kilocalories, saturated and unsaturated fat, protein,
 # carbohydrates, sodium.
@@ -45,6 +46,11 @@ def saved_morning(desktop):
     return [line.decode("cp1252") for line in pieces(read_day_file(day)[3], LINE_END)]
 
 
+def boxes(desktop):
+    """How many boxes stand over the main window, whose title they share."""
+    return len(desktop.output("xdotool", "search", "--onlyvisible", "--name", MAIN).split()) - 1
+
+
 def make_food(desktop):
     desktop.keys("alt+o", "Down", "Return")
     desktop.window(NEW_FOOD)
@@ -59,10 +65,12 @@ def make_food(desktop):
         desktop.type(text)
         desktop.keys("Tab")
     desktop.keys("Return")
-    # No food server is known: it can't be reached, and the food is saved all the same.
-    desktop.window(ERROR)
+    # No food server is known, so nothing is sent: one box tells that the food is saved.
+    desktop.wait_for("the box that tells of it", lambda: boxes(desktop) == 1)
+    assert not desktop.shows(ERROR), "a connection error for a server that isn't there"
     desktop.keys("Return")
-    desktop.no_window(ERROR)
+    desktop.wait_for("the end of the box", lambda: boxes(desktop) == 0)
+    assert not desktop.shows(ERROR), "a connection error behind the box"
     desktop.keys("Escape")
     desktop.no_window(NEW_FOOD)
 

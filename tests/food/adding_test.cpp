@@ -1,18 +1,6 @@
-// Adding a food to the own list: the tests in their order, each box that is shown, and what a food
-// leaves behind. Expected values are worked out by hand.
-#include "food/adding.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
-
-#include "core/common.h"
-#include "language/built_in_texts.h"
-#include "storage/folders.h"
-#include "storage/food_files.h"
-#include "storage/record_file.h"
-#include "storage/settings_file.h"
-#include "support/file_faults.h"
-#include "support/test_program.h"
+// Adding a food to the own list: each box that is shown, and what a food leaves behind. Expected
+// values are worked out by hand.
+#include "food/adding_fixture.h"
 
 namespace kelvora {
 namespace {
@@ -25,59 +13,6 @@ struct NotedLists : FoodListsView {
   void Populate_Food_List_Custom() override { ++own_lists; }
   void Populate_Food_List_Favo() override {}
 };
-
-// A form that passes every test, without any calculation.
-NewFoodForm GoodForm() {
-  NewFoodForm form;
-  form.txt_dNaam = "Soup";
-  form.combo_dEenheid = "1 dish";
-  form.printed_weight = {"100", "100", "3.5"};
-  form.portion_weight = {"35", "35", "1.2"};
-  form.txt_d = {"350", "84", "0.70", "1.54", "2.80", "14.00", "0.420"};
-  return form;
-}
-
-class AddingAFood : public testing::Test {
- protected:
-  AddingAFood() {
-    test.OpenDay("Anna");
-    program.settings[Setting::chk_addinternet] = "0";
-  }
-
-  // Adds the form; the boxes shown by it, each as "title|text".
-  std::vector<Text> Add() {
-    const std::size_t before = test.boxes.shown.size();
-    added = AddNewFood(program, form);
-    std::vector<Text> shown;
-    for (std::size_t i = before; i < test.boxes.shown.size(); ++i) {
-      shown.push_back(test.boxes.shown[i].title + "|" + test.boxes.shown[i].text);
-    }
-    return shown;
-  }
-  // Nothing was added, and the form is as it was.
-  void ExpectRefused(const std::vector<Text>& boxes) {
-    const NewFoodForm before = form;
-    const Text list = PackBlock(program.store.Custom_list);
-    EXPECT_EQ(Add(), boxes);
-    EXPECT_FALSE(added);
-    EXPECT_EQ(form, before);
-    EXPECT_EQ(PackBlock(program.store.Custom_list), list);
-    EXPECT_FALSE(FileExists(Path()));
-    EXPECT_EQ(test.boxes.shown.back().icon, BoxIcon::error);
-  }
-  std::string Path() { return CustomFile(program.paths, "Anna"); }
-
-  TestProgram test;
-  Program& program = test.program;
-  NewFoodForm form = GoodForm();
-  bool added = false;
-};
-
-constexpr std::string_view kIncomplete =
-    "Kelvora FOOD|You did not enter all the required nutritional values. \n"
-    "Please enter the missing values and press 'Add' again.";
-constexpr std::string_view kSavedBox =
-    "Kelvora FOOD|The food item has been saved in the 'own food list'.";
 
 TEST_F(AddingAFood, WritesALineOfTwelveFieldsInTheOrderOfALine) {
   form.txt_dNaam = "  Soup of the day ";
@@ -96,7 +31,6 @@ TEST_F(AddingAFood, WritesALineOfTwelveFieldsInTheOrderOfALine) {
 }
 
 TEST_F(AddingAFood, MakesTheFormThatOfTheNextFood) {
-  form.txt_s = {"1000", "240", "2", "4.4", "8", "40", "1.2"};
   form.chk_kj = true;
   Add();
   EXPECT_EQ(form.txt_dNaam + form.combo_dEenheid, "");
@@ -124,8 +58,9 @@ TEST_F(AddingAFood, SelectsTheFoodInTheListsOpenOrNot) {
   program.windows.lists = nullptr;
 }
 
-TEST_F(AddingAFood, WithTheInternetOnItIsSavedAndEndsAsAFailedConnection) {
+TEST_F(AddingAFood, WithAServerThatCannotBeReachedItIsSavedAndEndsAsAFailedConnection) {
   program.settings[Setting::chk_addinternet] = "1";
+  program.servers.submission = "http://localhost:1/";
   EXPECT_EQ(Add(), std::vector<Text>{
                        "Error #504|The new food item is saved in the 'my own list' but not added "
                        "to the internet database.\nCheck your internet connection and try again."});
@@ -137,97 +72,16 @@ TEST_F(AddingAFood, WithTheInternetOnItIsSavedAndEndsAsAFailedConnection) {
   EXPECT_EQ(form.txt_dNaam, "");
 }
 
-TEST_F(AddingAFood, RefusesWhatIsMissing) {
-  struct Case {
-    const char* what;
-    void (*spoil)(NewFoodForm&);
-  };
-  for (const auto& [what, spoil] : {
-           Case{"no name", [](NewFoodForm& f) { f.txt_dNaam.clear(); }},
-           Case{"no unit", [](NewFoodForm& f) { f.combo_dEenheid.clear(); }},
-           Case{"no weight", [](NewFoodForm& f) { f.portion_weight = {}; }},
-           Case{"12.5 grams", [](NewFoodForm& f) { f.portion_weight.weight = "12.5"; }},
-           Case{"12,5 grams", [](NewFoodForm& f) { f.portion_weight.weight = "12,5"; }},
-           Case{"12. grams", [](NewFoodForm& f) { f.portion_weight.weight = "12."; }},
-       }) {
-    SCOPED_TRACE(what);
-    form = GoodForm();
-    spoil(form);
-    ExpectRefused({Text(kIncomplete)});
-  }
-}
-
-TEST_F(AddingAFood, RefusesEachValueThatIsNoWholeNumberText) {
-  for (std::size_t i = 0; i < FoodValue::kCount; ++i) {
-    for (const char* value : {"", ".5", ",5", "5.", "5,", "1..5", "1,,5"}) {
-      SCOPED_TRACE(std::to_string(i) + " " + value);
-      form = GoodForm();
-      form.txt_d[i] = value;
-      ExpectRefused({Text(kIncomplete)});
-    }
-  }
-}
-
-TEST_F(AddingAFood, TakesTheLeastThatIsEnough) {
-  form.txt_dNaam = " ";  // a text of blanks is a text
-  form.combo_dEenheid = "1";
-  form.portion_weight.weight = "0";
-  form.txt_d.fill("0");
+TEST_F(AddingAFood, WithoutAServerNothingIsSentWhateverTheSetting) {
+  program.settings[Setting::chk_addinternet] = "1";
   EXPECT_EQ(Add(), std::vector<Text>{Text(kSavedBox)});
-  EXPECT_EQ(program.store.Custom_list[0], Packed("|1|0|0|0|0|0|0|0|0|0||"));
-}
-
-TEST_F(AddingAFood, RefusesTheTwoTerminators) {
-  const std::vector<Text> refused = {
-      "Kelvora FOOD|Some fields contain 'illegal' characters.\n"
-      "The characters half and three-quarter and other 'exotic' characters can not be used.\n"
-      "Remove the 'illegal' characters and try again."};
-  for (const std::string_view character : {"½"_w, "¾"_w}) {
-    form = GoodForm();
-    form.txt_dNaam.append(character);
-    ExpectRefused(refused);
-    form = GoodForm();
-    form.combo_dEenheid.insert(0, character);
-    ExpectRefused(refused);
-  }
-  form = GoodForm();
-  form.txt_dNaam = "¼ of a pie"_w;
-  EXPECT_EQ(Add(), std::vector<Text>{Text(kSavedBox)});
-}
-
-// "Soup-1 dish-35-350-84-2.80-1.54-0.70-14.00-0.420-0--" has 5+7+3+4+3+5+5+5+6+6+2+1 = 52
-// characters, 4 of them the name.
-TEST_F(AddingAFood, TakesNineHundredCharactersAndNoMore) {
-  const std::vector<Text> refused = {
-      "Kelvora FOOD|The food item contains to much data.\nPlease use a shorter description."};
-  form.txt_dNaam = Text(853, 'a');
-  ExpectRefused(refused);
-  form.txt_dNaam = Text(5000, 'a');
-  ExpectRefused(refused);
-  form = GoodForm();
-  form.combo_dEenheid = Text(6 + 849, 'a');  // the unit as the long one
-  ExpectRefused(refused);
-
-  form = GoodForm();
-  form.txt_dNaam = "  " + Text(852, 'a') + "   ";  // blanks around it don't count
-  EXPECT_EQ(Add(), std::vector<Text>{Text(kSavedBox)});
-  EXPECT_EQ(program.store.Custom_list[0].size(), 900u);
-}
-
-TEST_F(AddingAFood, TellsTheFirstFailureOnly) {
-  form.txt_dNaam = Text(5000, kFieldEnd);
-  form.txt_d[FoodValue::kSodium] = "";
-  EXPECT_EQ(CheckNewFood(form), NewFoodError::incomplete);
-  form.txt_d[FoodValue::kSodium] = "250";
-  EXPECT_EQ(CheckNewFood(form), NewFoodError::illegal_characters);
-  form.txt_dNaam = Text(5000, 'a');
-  EXPECT_EQ(CheckNewFood(form), NewFoodError::too_long);
-  form.txt_dNaam = "a";
-  EXPECT_EQ(CheckNewFood(form), std::nullopt);
+  EXPECT_EQ(program.settings[Setting::chk_addinternet], "1");
 }
 
 TEST_F(AddingAFood, AsksAboutMuchSodiumAndNoStopsWithoutAWord) {
-  form.txt_d[FoodValue::kSodium] = "250.000";
+  TypeValue(form, FoodValue::kSodium, "250");
+  TypeWeight(form.portion_weight, WeightUnit::gram, "100");
+  LeaveWeight(program, form, &NewFoodForm::portion_weight, WeightUnit::gram);
   program.store.Custom_list.Add(LineOf({.product = "Soup"}));
   const NewFoodForm before = form;
   test.boxes.answers = {BoxAnswer::no};
@@ -238,16 +92,18 @@ TEST_F(AddingAFood, AsksAboutMuchSodiumAndNoStopsWithoutAWord) {
   EXPECT_EQ(test.boxes.shown.back().icon, BoxIcon::question);
   EXPECT_EQ(test.boxes.shown.back().buttons, BoxButtons::yes_no);
   EXPECT_FALSE(added);
+  EXPECT_EQ(look_at, (NewFoodBox{Kind::value, FoodValue::kSodium}));
   EXPECT_EQ(form, before);
   EXPECT_EQ(program.store.Custom_list.Count(), 1u);
 }
 
 TEST_F(AddingAFood, AYesAboutSodiumGoesOnToTheNameAndTheList) {
   program.store.Custom_list.Add(LineOf({.product = "Soup"}));
-  form.txt_d[FoodValue::kSodium] = "0,501";
+  TypeValue(form, FoodValue::kSodium, "1,432");  // 0.5012 of it in the portion
   test.boxes.answers = {BoxAnswer::yes};
   EXPECT_EQ(Add().size(), 2u);
   EXPECT_TRUE(test.boxes.shown.back().text.starts_with("The name of the food item already"));
+  EXPECT_EQ(look_at, NewFoodBox{Kind::name});
   form.txt_dNaam = "Stew";
   test.boxes.answers = {BoxAnswer::yes};
   EXPECT_EQ(Add().size(), 2u);
@@ -255,8 +111,10 @@ TEST_F(AddingAFood, AYesAboutSodiumGoesOnToTheNameAndTheList) {
 }
 
 TEST_F(AddingAFood, HalfAGramOfSodiumIsNoQuestion) {
-  form.txt_d[FoodValue::kSodium] = "0.500";
+  form.portion_weight.weight = "100";
+  TypeValue(form, FoodValue::kSodium, "0.5");
   EXPECT_EQ(Add(), std::vector<Text>{Text(kSavedBox)});
+  EXPECT_EQ(FieldOf(program.store.Custom_list[0], FoodField::kSodium), "0.500");
 }
 
 TEST_F(AddingAFood, RefusesANameOfTheOwnListOnly) {
@@ -268,17 +126,20 @@ TEST_F(AddingAFood, RefusesANameOfTheOwnListOnly) {
   EXPECT_EQ(Add(), std::vector<Text>{Text(kSavedBox)});
   std::filesystem::remove(Path());
   form = GoodForm();
-  ExpectRefused(
-      {"Kelvora FOOD|The name of the food item already exists.\n"
-       "Choose another name and press 'Add' again."});
+  ExpectRefused({"Kelvora FOOD|The name of the food item already exists.\n"
+                 "Choose another name and press 'Add' again."},
+                {Kind::name});
 }
 
-// Meant: the name is looked for as it was typed, and lines begin with a trimmed one.
-TEST_F(AddingAFood, ABlankBehindANameMakesItAnother) {
+TEST_F(AddingAFood, BlanksAroundANameMakeNoOther) {
   program.store.Custom_list.Add(LineOf({.product = "Soup"}));
-  form.txt_dNaam = "Soup ";
-  EXPECT_EQ(Add(), std::vector<Text>{Text(kSavedBox)});
-  EXPECT_EQ(FieldOf(program.store.Custom_list[1], FoodField::kProduct), "Soup");
+  for (const char* name : {"Soup ", "  Soup"}) {
+    form.txt_dNaam = name;
+    Add();
+    EXPECT_FALSE(added);
+    EXPECT_TRUE(test.boxes.shown.back().text.starts_with("The name of the food item already"));
+  }
+  EXPECT_EQ(program.store.Custom_list.Count(), 1u);
 }
 
 TEST_F(AddingAFood, AnOwnListThatCanNotBeWrittenShowsItsBoxAndStaysInMemory) {
@@ -286,8 +147,8 @@ TEST_F(AddingAFood, AnOwnListThatCanNotBeWrittenShowsItsBoxAndStaysInMemory) {
     const InjectedFault full({.disk_full_after = 10});
     Add();
   }
-  // Meant: a routine that saves tells of its failure itself, and no caller knows of it.
-  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  // The routine that saves tells of its failure itself; nothing says that the food is saved.
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF1-5"));
   ASSERT_EQ(program.store.Custom_list.Count(), 1u);
   EXPECT_FALSE(FileExists(Path()));
@@ -308,7 +169,7 @@ TEST_F(AddingAFood, SpeaksTheLanguageOfTheTables) {
   EXPECT_EQ(Add(), std::vector<Text>{
                        "Kelvora FOOD|Je hebt niet alle verplichte gegevens en voedingswaarden "
                        "ingevuld. \nVul de ontbrekende waarden in en druk nog een keer op "
-                       "'Toevoegen'."});
+                       "'Toevoegen'.\n\nKijk naar het vak \"Naam\"."});
   EXPECT_EQ(UnitChoices(program.texts)[0], "1 stuk");
 }
 
@@ -324,6 +185,7 @@ TEST_F(AddingAFood, WithoutTheInternetNothingIsAddedToIt) {
     bool on;
     const char* add_after;
   };
+  program.servers.submission = "http://localhost:1/";
   for (const Case& row :
        {Case{"1", "1", true, "1"}, Case{"1", "0", false, "0"}, Case{"0", "1", false, "0"},
         Case{"0", "0", false, "0"}, Case{"", "1", false, "1"}}) {
@@ -332,6 +194,19 @@ TEST_F(AddingAFood, WithoutTheInternetNothingIsAddedToIt) {
     EXPECT_EQ(AddsToInternet(program), row.on);
     EXPECT_EQ(program.settings[Setting::chk_addinternet], row.add_after);
   }
+}
+
+TEST_F(AddingAFood, WithoutAServerNothingCanBeAddedToItAndTheTipSaysWhy) {
+  program.settings[Setting::chk_internet] = program.settings[Setting::chk_addinternet] = "1";
+  EXPECT_FALSE(MayAddToInternet(program));
+  EXPECT_FALSE(AddsToInternet(program));
+  EXPECT_EQ(AddToInternetTip(program), "No food server is known to this program.");
+  program.servers.submission = "http://localhost:1/";
+  EXPECT_TRUE(MayAddToInternet(program));
+  EXPECT_TRUE(AddsToInternet(program));
+  EXPECT_EQ(AddToInternetTip(program), program.texts[new_food_text::kTipAddToInternet]);
+  program.settings[Setting::chk_internet] = "0";
+  EXPECT_FALSE(MayAddToInternet(program));
 }
 
 TEST_F(AddingAFood, TheChoiceForTheInternetIsSavedAtOnce) {

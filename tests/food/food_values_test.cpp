@@ -21,6 +21,15 @@ TEST(FoodValues, ANumberWithDigitsAroundItsMarksIsComplete) {
   }
 }
 
+TEST(FoodValues, ANumberWithSeveralMarksIsWrong) {
+  for (const char* text : {"", ".5", "5,", "1..5", "1.2.3", "1,2.3", "1.,2"}) {
+    EXPECT_TRUE(IsWrongNumber(text)) << text;
+  }
+  for (const char* text : {"0", "5", "0.5", "0,5", "12.50"}) {
+    EXPECT_FALSE(IsWrongNumber(text)) << text;
+  }
+}
+
 TEST(FoodValues, EitherMarkCounts) {
   for (const char* text : {"12.5", "12,5", ".", ","}) EXPECT_TRUE(HoldsDecimalMark(text)) << text;
   for (const char* text : {"12", "", "1-2"}) EXPECT_FALSE(HoldsDecimalMark(text)) << text;

@@ -92,6 +92,7 @@ TEST_F(NewFoodWindow, EveryControlHasAnAccessibleNameOfItsOwn) {
 }
 
 TEST_F(NewFoodWindow, TabGoesInReadingOrder) {
+  KnowAServer();
   Open();
   QStringList order;
   for (int i = 0; i < 24; ++i) {
@@ -278,7 +279,66 @@ TEST_F(NewFoodWindow, AWeightBeyondAllBoundsTellsSoAndTheDialogGoesOn) {
   EXPECT_EQ(OwnList().Count(), 1u);
 }
 
+TEST_F(NewFoodWindow, ABoxThatIsWrongGetsTheFocusWithItsTextSelected) {
+  struct Case {
+    const char* box;
+    const char* typed;
+  };
+  for (const Case& row :
+       {Case{"txt_dNaam", "  "}, Case{"combo_dEenheid", ""}, Case{"txt_dGram", "0"},
+        Case{"txt_dOz", ".5"}, Case{"txt_sGram", "0"}, Case{"txt_sOz", "1..5"},
+        Case{"txt_s_0", ".5"}, Case{"txt_s_3", "1..5"}, Case{"txt_s_6", "5."}}) {
+    SCOPED_TRACE(row.box);
+    Open();
+    FillIn();
+    Type(row.box, row.typed);
+    Find("chk_kj")->setFocus();
+    test.boxes.shown.clear();
+    Click("cmd_opslaan");
+    ASSERT_EQ(test.boxes.shown.size(), 1u);
+    EXPECT_TRUE(test.boxes.shown[0].text.starts_with("You did not enter all the required"));
+    QWidget* const focused = QApplication::focusWidget();
+    ASSERT_NE(focused, nullptr);
+    EXPECT_EQ(focused->objectName(), row.box);
+    const auto* const combo = qobject_cast<QComboBox*>(focused);
+    const auto* const edit = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(focused);
+    EXPECT_EQ(edit->selectedText(), edit->text());
+    EXPECT_TRUE(OwnList().Empty());
+  }
+}
+
+TEST_F(NewFoodWindow, ANoToTheSodiumAndANameThatExistsLeadToTheirBoxes) {
+  Open();
+  FillIn();
+  Type("txt_s_6", "250");
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find("txt_s_6")->hasFocus());
+  Type("txt_s_6", "0.2");
+  test.program.store.Custom_list.Add(LineOf({.product = "Soup"}));
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find("txt_dNaam")->hasFocus());
+}
+
+TEST_F(NewFoodWindow, WithoutAServerItsTickIsOffAndSaysWhy) {
+  Stored(Setting::chk_internet) = Stored(Setting::chk_addinternet) = "1";
+  Open();
+  const auto* const chk_inet = Find<QAbstractButton>("chk_inet");
+  EXPECT_FALSE(chk_inet->isChecked());
+  EXPECT_FALSE(chk_inet->isEnabled());
+  EXPECT_EQ(chk_inet->toolTip(), "No food server is known to this program.");
+  Make_Taal_Dutch(test.program.texts);
+  dialog->Set_Taal();
+  EXPECT_EQ(chk_inet->toolTip(), "Dit programma kent geen voedingsserver.");
+  FillIn();
+  Click("cmd_opslaan");
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "Het voedingsmiddel is opgeslagen in de 'eigen voedingsmiddelenlijst'.");
+  EXPECT_EQ(Stored(Setting::chk_addinternet), "1");
+}
+
 TEST_F(NewFoodWindow, TheInternetTickFollowsTheSettingsAndChangesThemAtOnce) {
+  KnowAServer();
   Stored(Setting::chk_addinternet) = "1";
   Open();
   auto* const chk_inet = Find<QAbstractButton>("chk_inet");

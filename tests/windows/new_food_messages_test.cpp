@@ -33,10 +33,11 @@ class NewFoodMessages : public NewFoodWindow {
 TEST_F(NewFoodMessages, SomethingIsMissing) {
   ForBothLanguages([&] { Type("txt_dNaam", ""); }, BoxIcon::error,
                    "Kelvora FOOD|You did not enter all the required nutritional values. \n"
-                   "Please enter the missing values and press 'Add' again.",
+                   "Please enter the missing values and press 'Add' again.\n\n"
+                   "Look at the box \"Name\".",
                    "Kelvora FOOD|Je hebt niet alle verplichte gegevens en voedingswaarden "
                    "ingevuld. \nVul de ontbrekende waarden in en druk nog een keer op "
-                   "'Toevoegen'.");
+                   "'Toevoegen'.\n\nKijk naar het vak \"Naam\".");
   EXPECT_EQ(Unit() + Shown("txt_dGram") + Shown("txt_s_0"), "1 plate351000");
   EXPECT_TRUE(OwnList().Empty());
 }
@@ -46,10 +47,10 @@ TEST_F(NewFoodMessages, AHalfWasPasted) {
       [&] { Paste("txt_dNaam", QString::fromUtf8("½ apple")); }, BoxIcon::error,
       "Kelvora FOOD|Some fields contain 'illegal' characters.\n"
       "The characters half and three-quarter and other 'exotic' characters can not be used.\n"
-      "Remove the 'illegal' characters and try again.",
+      "Remove the 'illegal' characters and try again.\n\nLook at the box \"Name\".",
       "Kelvora FOOD|Sommige velden bevatten 'ongeldige' tekens.\n"
       "De tekens half en driekwart en andere 'vreemde' tekens kun je niet gebruiken.\n"
-      "Verwijder de 'ongeldige' tekens en probeer het opnieuw.");
+      "Verwijder de 'ongeldige' tekens en probeer het opnieuw.\n\nKijk naar het vak \"Naam\".");
   EXPECT_EQ(Shown("txt_dNaam"), QString::fromUtf8("½ apple"));
   EXPECT_TRUE(OwnList().Empty());
 }
@@ -57,9 +58,9 @@ TEST_F(NewFoodMessages, AHalfWasPasted) {
 TEST_F(NewFoodMessages, TheNameIsTooLong) {
   ForBothLanguages([&] { Paste("txt_dNaam", QString(900, 'a')); }, BoxIcon::error,
                    "Kelvora FOOD|The food item contains to much data.\n"
-                   "Please use a shorter description.",
+                   "Please use a shorter description.\n\nLook at the box \"Name\".",
                    "Kelvora FOOD|Het voedingsmiddel bevat te veel gegevens.\n"
-                   "Gebruik een kortere omschrijving.");
+                   "Gebruik een kortere omschrijving.\n\nKijk naar het vak \"Naam\".");
   // Behind the name stands "-1 plate-35-350-84-0.00-0.00-0.00-0.00-0.000-0--": 48 characters.
   Paste("txt_dNaam", QString(852, 'a'));
   Click("cmd_opslaan");
@@ -105,6 +106,7 @@ TEST_F(NewFoodMessages, TheFoodIsSaved) {
 
 TEST_F(NewFoodMessages, TheFoodIsSavedButNotSent) {
   Stored(Setting::chk_addinternet) = "1";
+  KnowAServer();
   ForBothLanguages([&] { test.program.store.Custom_list.Clear(); }, BoxIcon::error,
                    "Error #504|The new food item is saved in the 'my own list' but not added to "
                    "the internet database.\nCheck your internet connection and try again.",

@@ -90,6 +90,7 @@ class NewFoodWindow : public testing::Test {
     Type("combo_dEenheid", "1 plate");
     Type("txt_dGram", "35");
   }
+  void KnowAServer() { test.program.servers.submission = "http://localhost:1/"; }
   Text& Stored(Setting setting) { return test.program.settings[setting]; }
   const TextList& OwnList() { return test.program.store.Custom_list; }
 
