@@ -4,13 +4,10 @@
 
 #include "core/common.h"
 #include "food/details_check.h"
-#include "food/food_values.h"
 #include "language/food_details_texts.h"
 #include "nutrition/decimal_check.h"
 #include "nutrition/totals.h"
 #include "nutrition/units.h"
-#include "storage/folders.h"
-#include "storage/food_files.h"
 
 namespace kelvora {
 namespace {
@@ -30,54 +27,16 @@ Text OuncesOf(Program& program, Text grams) {
   return Gram_To_Oz(grams, UnitsOf(program));
 }
 
-// A food in which nothing was changed is the line as it was opened, with the category that it may
-// carry and its numbers as they stand there: saving it then leaves the own list alone.
-Text NewLineOf(const FoodDetails& details) {
-  return details.bVar == details.opened ? details.txt_item : FoodLineOf(details.bVar);
+// What the patterns of the values left blank. Without a weight all are blank, and mean nothing.
+void FillInBlanks(ValueBoxes& oVar) {
+  if (std::ranges::all_of(oVar, &Text::empty)) return;
+  std::ranges::replace_if(oVar, &Text::empty, Text("0"));
 }
 
-bool KeepsSodium(Program& program, const Text& sodium) {
-  if (!IsHighSodium(sodium)) return true;
-  const TextTables& texts = program.texts;
-  const Box box{.title = texts[kHighSodiumTitle],
-                .text = JoinLines(texts, {kHighSodium, std::nullopt, kHighSodiumValue}) + " " +
-                        sodium + "\n" +
-                        JoinLines(texts, {kHighSodiumInGram, std::nullopt, kHighSodiumSure}),
-                .icon = BoxIcon::question,
-                .buttons = BoxButtons::yes_no};
-  return program.platform.boxes.Show(box) == BoxAnswer::yes;
-}
-
-void SaveInOwnList(Program& program, const FoodDetails& details, std::string_view line) {
-  TextList& own = program.store.Custom_list;
-  const Text& name = details.bVar[PortionBox::kProduct];
-  const auto place = own.FindLast(KeyOf(name));
-  if (place) {
-    own.Replace(*place, line);
-  } else {
-    own.Add(line);
-  }
-  Save_Custom(program, CustomFile(program.paths, program.paths.UserName));
-  if (!place && (details.tag == "zoeken" || details.tag == "internet")) {
-    const TextTables& texts = program.texts;
-    Tell(program, BoxIcon::information,
-         texts[kSavedFoodItem] + " " + name + " " + texts[kSavedInOwnList]);
-  }
-  if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Custom();
-}
-
-void SaveFavourite(Program& program, const FoodDetails& details, std::string_view line) {
-  TextList& favourites = program.store.Favorites_list;
-  if (details.chk_favo && !details.WasFavo) {
-    favourites.Add(line);
-  } else if (details.chk_favo) {
-    const auto place = favourites.FindFirst(KeyOf(details.bVar[PortionBox::kProduct]));
-    if (place) favourites.Replace(*place, line);
-  } else if (details.WasFavo) {
-    if (const auto place = favourites.FindFirst(details.txt_item)) favourites.Remove(*place);
-  }
-  Save_Favorites(program, FavoritesFile(program.paths, program.paths.UserName));
-  if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Favo();
+// A name that was changed loses the blanks around it, as the names of all foods.
+void TrimChangedName(FoodDetails& details) {
+  Text& name = details.bVar[PortionBox::kProduct];
+  if (name != details.opened[PortionBox::kProduct]) name = Trimmed(name);
 }
 
 }  // namespace
@@ -162,11 +121,13 @@ void TakeOunces(Program& program, FoodDetails& details, std::string_view typed) 
 bool BeginOrFinishEditing(Program& program, FoodDetails& details) {
   if (!details.Bewerkmodus) {
     details.Bewerkmodus = true;
+    FillInBlanks(details.oVar);
     details.cmd_bewerk = kFinishEditing;
     return false;
   }
   bool close = false;
   program.Guard("#F6-4", [&] {
+    TrimChangedName(details);
     const auto error = CheckDetails(details.bVar, details.oVar);
     details.Geldig = !error;
     if (error) return Tell(program, BoxIcon::error, TextOf(program.texts, *error));
@@ -177,20 +138,6 @@ bool BeginOrFinishEditing(Program& program, FoodDetails& details) {
     close = SaveDetails(program, details);
   });
   return close;
-}
-
-bool SaveDetails(Program& program, const FoodDetails& details) {
-  bool saved = false;
-  program.Guard("#F6-5", [&] {
-    const Text line = NewLineOf(details);
-    if (line != details.txt_item) {
-      if (!KeepsSodium(program, details.oVar[kSodiumValue])) return;
-      SaveInOwnList(program, details, line);
-    }
-    SaveFavourite(program, details, line);
-    saved = true;
-  });
-  return saved;
 }
 
 }  // namespace kelvora

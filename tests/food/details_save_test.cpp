@@ -27,16 +27,118 @@ struct NotedLists : FoodListsView {
   void Populate_Food_List_Favo() override { ++favourites; }
 };
 
-TEST_F(Details, ASavedFoodReplacesTheLastOfItsNameInTheOwnList) {
+FoodLine With(FoodLine food, std::string_view remark) {
+  food.remark = remark;
+  return food;
+}
+
+constexpr const char* kReplaceBread =
+    "You have another food item with the name \"Bread\".\nDo you want to replace it?";
+
+TEST_F(Details, ASavedFoodReplacesTheLineThatWasOpened) {
   const Text longer = LineOf({.product = "Bread roll"});
-  Own() = Lines({LineOf(kBread), longer, LineOf(kBread), longer});
+  const Text white = LineOf(With(kBread, "White")), brown = LineOf(With(kBread, "Brown"));
+  for (const char* tag : {"custom", "zoeken", "favo"}) {
+    Own() = Lines({white, longer, LineOf(kBread), brown, longer});
+    FoodDetails details = Open(LineOf(kBread), tag);
+    TakeGrams(program, details, "200");
+    EXPECT_TRUE(SaveDetails(program, details));
+    const TextList expected = Lines({white, longer, kTwiceBread, brown, longer});
+    EXPECT_EQ(Own(), expected);
+    EXPECT_EQ(Stored(OwnFile()), expected);
+    EXPECT_TRUE(test.boxes.shown.empty());
+  }
+}
+
+TEST_F(Details, OfEqualLinesTheLastOneIsReplaced) {
+  Own() = Lines({LineOf(kBread), LineOf(kBread)});
   FoodDetails details = Open(LineOf(kBread));
   TakeGrams(program, details, "200");
   EXPECT_TRUE(SaveDetails(program, details));
-  const TextList expected = Lines({LineOf(kBread), longer, kTwiceBread, longer});
-  EXPECT_EQ(Own(), expected);
-  EXPECT_EQ(Stored(OwnFile()), expected);
+  EXPECT_EQ(Own(), Lines({LineOf(kBread), kTwiceBread}));
+}
+
+// A food of a category, and one that was renamed, may meet an own food that bears the name.
+TEST_F(Details, AnotherFoodOfTheNameIsAskedAboutBeforeItIsReplaced) {
+  const Text white = LineOf(With(kBread, "White")), brown = LineOf(With(kBread, "Brown"));
+  const TextList before = Lines({white, brown, LineOf({.product = "Toast"})});
+  for (const bool renamed : {false, true}) {
+    FoodLine food = OfCategory(kBread);
+    if (renamed) food = {.product = "Toast"};
+    for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
+      Own() = before;
+      FoodDetails details = Open(LineOf(food), renamed ? "custom" : "zoeken");
+      details.bVar[PortionBox::kProduct] = "Bread";
+      details.bVar[PortionBox::kRemark] = "Mine";
+      test.boxes.shown.clear();
+      test.boxes.answers = {answer};
+      const bool yes = answer == BoxAnswer::yes;
+      EXPECT_EQ(SaveDetails(program, details), yes);
+      EXPECT_EQ(Said(), kReplaceBread);
+      EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::question);
+      EXPECT_EQ(test.boxes.shown[0].buttons, BoxButtons::yes_no);
+      if (yes) {
+        EXPECT_EQ(Own(), Lines({white, FoodLineOf(details.bVar), before[2]}));
+      } else {
+        EXPECT_EQ(Own(), before);
+      }
+    }
+  }
+}
+
+TEST_F(Details, ANoToReplacingAnotherFoodChangesNoFile) {
+  Own() = Lines({LineOf(With(kBread, "White"))});
+  FoodDetails details = Open(LineOf(OfCategory(kBread)), "zoeken");
+  details.chk_favo = true;
+  TakeGrams(program, details, "200");
+  EXPECT_FALSE(SaveDetails(program, details));
+  EXPECT_TRUE(Favourites().Empty());
+  EXPECT_FALSE(std::filesystem::exists(OwnFile()));
+  EXPECT_FALSE(std::filesystem::exists(FavouriteFile()));
+}
+
+TEST_F(Details, AFoodThatIsAlreadyThereAsItIsSavedNeedsNoQuestion) {
+  Own() = Lines({kTwiceBread});
+  FoodDetails details = Open(LineOf(kBread), "zoeken");
+  TakeGrams(program, details, "200");
+  EXPECT_TRUE(SaveDetails(program, details));
+  EXPECT_EQ(Own(), Lines({kTwiceBread}));
   EXPECT_TRUE(test.boxes.shown.empty());
+}
+
+TEST_F(Details, BlanksAroundAChangedNameGoAndABlankNameIsRefused) {
+  FoodDetails details = Open(LineOf(kBread));
+  (void)BeginOrFinishEditing(program, details);
+  details.bVar[PortionBox::kProduct] = "   ";
+  EXPECT_FALSE(BeginOrFinishEditing(program, details));
+  EXPECT_TRUE(details.Bewerkmodus);
+  EXPECT_TRUE(Said().starts_with("You didn't enter all the required fields."));
+  details.bVar[PortionBox::kProduct] = " Toast ";
+  EXPECT_TRUE(BeginOrFinishEditing(program, details));
+  EXPECT_EQ(FieldOf(Own()[0], FoodField::kProduct), "Toast");
+}
+
+TEST_F(Details, AFoodWithoutEnergyCanBeEdited) {
+  FoodLine water = kBread;
+  water.kj = water.kcal = "0";
+  Own() = Lines({LineOf(water)});
+  FoodDetails details = Open(LineOf(water));
+  EXPECT_EQ(details.oVar[0] + details.oVar[1], "");
+  (void)BeginOrFinishEditing(program, details);
+  EXPECT_EQ(details.oVar[0] + details.oVar[1], "00");
+  details.oVar[5] = "9";
+  EXPECT_TRUE(BeginOrFinishEditing(program, details));
+  EXPECT_TRUE(test.boxes.shown.empty());
+  EXPECT_EQ(FieldOf(Own()[0], FoodField::kProtein), "9.00");
+}
+
+// Zeros would look like values that somebody knows, and become those of the portion.
+TEST_F(Details, WithoutAWeightTheValuesPer100GramsStayBlank) {
+  FoodLine food = kBread;
+  food.gram = "0";
+  FoodDetails details = Open(LineOf(food));
+  (void)BeginOrFinishEditing(program, details);
+  EXPECT_EQ(details.oVar, ValueBoxes());
 }
 
 TEST_F(Details, ANewNameIsANewFoodAndTheOldOneStays) {
@@ -79,13 +181,6 @@ TEST_P(NewInOwnList, IsToldOfAFoodFromElsewhere) {
     return;
   }
   EXPECT_EQ(Said(), "The food item Bread has been saved in 'my own list'.");
-  // A food that is there already is replaced without a word.
-  test.boxes.shown.clear();
-  TakeGrams(program, details, "100");
-  details.opened = {};
-  EXPECT_TRUE(SaveDetails(program, details));
-  EXPECT_EQ(Own(), Lines({kSavedBread}));
-  EXPECT_TRUE(test.boxes.shown.empty());
 }
 
 TEST_F(Details, SavingWithoutAChangeLeavesTheOwnListAlone) {
@@ -129,12 +224,48 @@ TEST_F(Details, ANewFavouriteIsTheChangedLine) {
 }
 
 TEST_F(Details, AFavouriteThatStaysOneBecomesTheChangedLine) {
-  const Text tea = LineOf({.product = "Tea"});
-  Favourites() = Lines({tea, LineOf(kBread), tea});
+  const Text other = LineOf(OfCategory(kBread));
+  Favourites() = Lines({other, LineOf(kBread), other});
   FoodDetails details = Open(LineOf(kBread));
   TakeGrams(program, details, "200");
   EXPECT_TRUE(SaveDetails(program, details));
-  EXPECT_EQ(Favourites(), Lines({tea, kTwiceBread, tea}));
+  EXPECT_EQ(Favourites(), Lines({other, kTwiceBread, other}));
+  EXPECT_TRUE(test.boxes.shown.empty());
+  // Without a change all of them stay as they are.
+  EXPECT_TRUE(SaveDetails(program, Open(kTwiceBread)));
+  EXPECT_EQ(Favourites(), Lines({other, kTwiceBread, other}));
+}
+
+TEST_F(Details, AFavouriteThatBearsTheNewNameIsAskedAbout) {
+  const Text toast = LineOf({.product = "Toast"});
+  for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
+    Favourites() = Lines({toast, LineOf(kBread)});
+    Own().Clear();
+    FoodDetails details = Open(LineOf(kBread));
+    details.bVar[PortionBox::kProduct] = "Toast";
+    test.boxes.shown.clear();
+    test.boxes.answers = {answer};
+    const bool yes = answer == BoxAnswer::yes;
+    EXPECT_EQ(SaveDetails(program, details), yes);
+    EXPECT_EQ(Said(),
+              "You have another food item with the name \"Toast\".\nDo you want to replace it?");
+    EXPECT_EQ(Favourites(), Lines({yes ? FoodLineOf(details.bVar) : toast, LineOf(kBread)}));
+    EXPECT_EQ(Own().Count(), yes ? 1u : 0u);
+  }
+}
+
+TEST_F(Details, OneQuestionIsAskedForBothLists) {
+  const Text toast = LineOf({.product = "Toast"});
+  Own() = Lines({toast, LineOf(kBread)});
+  Favourites() = Lines({toast, LineOf(kBread)});
+  FoodDetails details = Open(LineOf(kBread));
+  details.bVar[PortionBox::kProduct] = "Toast";
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_TRUE(SaveDetails(program, details));
+  EXPECT_EQ(test.boxes.shown.size(), 1u);
+  const TextList expected = Lines({FoodLineOf(details.bVar), LineOf(kBread)});
+  EXPECT_EQ(Own(), expected);
+  EXPECT_EQ(Favourites(), expected);
 }
 
 TEST_F(Details, AFavouriteOfAnotherNameStaysAsItWas) {
@@ -145,14 +276,24 @@ TEST_F(Details, AFavouriteOfAnotherNameStaysAsItWas) {
   EXPECT_EQ(Favourites(), Lines({LineOf(kBread)}));
 }
 
-TEST_F(Details, ALostFavouriteIsTheFirstLineThatBeginsWithTheOpenedOne) {
+TEST_F(Details, ALostFavouriteIsTheLineThatWasOpened) {
   const Text tea = LineOf({.product = "Tea"});
   Favourites() = Lines({tea, LineOf(OfCategory(kBread)), LineOf(kBread)});
   FoodDetails details = Open(LineOf(kBread));
   details.chk_favo = false;
   TakeGrams(program, details, "200");
   EXPECT_TRUE(SaveDetails(program, details));
-  EXPECT_EQ(Favourites(), Lines({tea, LineOf(kBread)}));
+  EXPECT_EQ(Favourites(), Lines({tea, LineOf(OfCategory(kBread))}));
+}
+
+// The line may have gone while the dialog was open; what begins with it goes then.
+TEST_F(Details, ALostFavouriteThatIsGoneIsTheFirstLineThatBeginsWithIt) {
+  Favourites() = Lines({LineOf(kBread)});
+  FoodDetails details = Open(LineOf(kBread));
+  Favourites() = Lines({LineOf({.product = "Tea"}), LineOf(OfCategory(kBread))});
+  details.chk_favo = false;
+  EXPECT_TRUE(SaveDetails(program, details));
+  EXPECT_EQ(Favourites(), Lines({LineOf({.product = "Tea"})}));
 }
 
 TEST_F(Details, AFoodThatIsNoFavouriteLeavesTheFavouritesAlone) {
@@ -258,7 +399,7 @@ TEST_F(Details, AFailureOfTheSaveLeavesTheWindowOpen) {
 // A write that fails says so by its own code; what was saved before it stands in memory.
 TEST_F(Details, AnOwnListThatCannotBeWrittenIsReportedAndKeptInMemory) {
   std::filesystem::create_directory(OwnFile());
-  FoodDetails details = Open(LineOf(kBread));
+  FoodDetails details = Open(LineOf(kBread), "zoeken");  // nothing says that it has been saved
   details.chk_favo = true;
   TakeGrams(program, details, "200");
   EXPECT_TRUE(SaveDetails(program, details));

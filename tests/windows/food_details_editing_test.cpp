@@ -163,6 +163,39 @@ TEST_F(FoodDetailsWindow, ANoToTheSodiumLeavesTheEditEnded) {
   EXPECT_EQ(Own().Count(), 1u);
 }
 
+TEST_F(FoodDetailsWindow, AFoodWithoutEnergyReadsZeroWhileItIsEditedAndCanBeSaved) {
+  const Text tea = LineOf({.product = "Tea", .unit = "1 cup", .gram = "150"});
+  Own().Add(tea);
+  Open(tea, "custom");
+  ShowTab(1);
+  EXPECT_EQ(Box("oVar_0")->text() + Box("oVar_1")->text(), "");
+  Click("cmd_bewerk");
+  EXPECT_EQ(Box("oVar_0")->text() + Box("oVar_1")->text(), "00");
+  Type("bVar_11", "Green");
+  Click("cmd_bewerk");
+  EXPECT_TRUE(test.boxes.shown.empty());
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(FieldOf(Own()[0], FoodField::kRemark), "Green");
+}
+
+TEST_F(FoodDetailsWindow, ANoToReplacingAnotherFoodKeepsTheDialogOpen) {
+  Own().Add(LineOf({.product = "Bread"}));
+  Open();
+  ShowTab(1);
+  Click("cmd_bewerk");
+  Type("oVar_0", "1100");
+  Click("cmd_bewerk");
+  EXPECT_EQ(Said(),
+            "You have another food item with the name \"Bread\".\nDo you want to replace it?");
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_EQ(Own()[0], LineOf({.product = "Bread"}));
+  EXPECT_TRUE(Enabled("cmd_opslaan"));
+  test.boxes.answers = {BoxAnswer::yes};
+  Click("cmd_opslaan");
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(FieldOf(Own()[0], FoodField::kKj), "550");
+}
+
 TEST_F(FoodDetailsWindow, EscapeAndCancelSaveNothing) {
   for (const bool by_key : {true, false}) {
     OpenForEditing();
