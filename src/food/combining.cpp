@@ -73,13 +73,12 @@ class Messages {
   const TextTable table_;
 };
 
-bool MayBeCombined(const Program& program, const Messages& messages, const CombineForm& form,
+bool MayBeCombined(const Program& program, const Messages& messages,
                    const std::vector<ConsumptionRow>& rows, const FoodFields& fields) {
   if (rows.size() < kLeastRows) {
     return messages.Refuse(BoxIcon::warning, {ct::kCombineTooFew, ct::kCombineAddMore});
   }
-  // A name of blanks passes, as is meant.
-  if (form.name.empty()) {
+  if (fields[FoodField::kProduct].empty()) {
     return messages.Refuse(BoxIcon::warning, {ct::kCombineNoName, ct::kCombineEnterName});
   }
   if (HoldsIllegalCharacter(fields)) {
@@ -102,18 +101,19 @@ bool CombineFoods(Program& program, DayPart part, const CombineForm& form) {
     const Messages messages(program, part);
     const auto rows = ConsumptionRows(program, part);
     const FoodFields fields = FieldsOfNewFood(form, rows);
-    if (!MayBeCombined(program, messages, form, rows, fields)) return;
+    if (!MayBeCombined(program, messages, rows, fields)) return;
 
     const Text line = PackedLine(fields);
     store.Custom_list.Add(line);
-    Save_Custom(program, CustomFile(program.paths, program.paths.UserName));
+    const bool saved = Save_Custom(program, CustomFile(program.paths, program.paths.UserName));
     if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Custom();
     store.ListOf(part).Clear();
     store.ListOf(part).Add(line);
     RefreshAfterChange(program, part);
+    combined = true;
+    if (!saved) return;
     Tell(program, BoxIcon::information,
          fields[FoodField::kProduct] + " " + messages[ct::kCombineSaved]);
-    combined = true;
   });
   return combined;
 }

@@ -19,7 +19,8 @@ struct CombineForm {
 
 // Combines the foods of `part`. False when something in the form was refused: the box has told why,
 // and nothing has changed. The own list is written under its own failure code; a write that fails
-// stops none of the steps behind it.
+// stops none of the steps behind it but the last: nothing is said to be saved. The new food then
+// stands in memory, in the list and in the day.
 bool CombineFoods(Program& program, DayPart part, const CombineForm& form);
 
 }  // namespace kelvora
