@@ -4,10 +4,12 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <unordered_set>
 
 #include "core/common.h"
 #include "language/common_texts.h"
 #include "language/lists_texts.h"
+#include "language/own_texts.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
 
@@ -53,6 +55,27 @@ bool UserWantsTheCopy(Program& program) {
       .text = JoinLines(program.texts, {lists_text::kCopyQuestion, lists_text::kCopySure}),
       .icon = BoxIcon::question,
       .buttons = BoxButtons::yes_no_cancel};
+  return program.platform.boxes.Show(box) == BoxAnswer::yes;
+}
+
+// True if the category has a food that the own list lacks, and that a copy would thus lose.
+bool HoldsOtherFoods(const KV_data& store, const std::string& category) {
+  if (!FileExists(category)) return false;
+  TextList foods;
+  AppendFoodLines(ReadFile(category), {}, foods);
+  const auto name_of = [](std::string_view line) { return line.substr(0, line.find(kFieldEnd)); };
+  std::unordered_set<std::string_view> own;
+  for (const std::string_view line : store.Custom_list) own.insert(name_of(line));
+  return std::ranges::any_of(foods,
+                             [&](std::string_view line) { return !own.contains(name_of(line)); });
+}
+
+bool UserGivesUpTheCategory(Program& program) {
+  const Box box{
+      .title = Text(AppTitle),
+      .text = OwnTextWith(program.texts, OwnText::replace_category, program.paths.UserName),
+      .icon = BoxIcon::question,
+      .buttons = BoxButtons::yes_no};
   return program.platform.boxes.Show(box) == BoxAnswer::yes;
 }
 
@@ -116,7 +139,10 @@ void CopyOwnListToDatabases(Program& program) {
     if (!UserWantsTheCopy(program)) return;
     const Paths& paths = program.paths;
     const std::string bytes = ReadFile(CustomFile(paths, paths.UserName));
-    WriteFileAnew(paths.ProgramPath + "Databases/" + Utf8FromText(paths.UserName) + ".dat", bytes);
+    const std::string category =
+        paths.ProgramPath + "Databases/" + Utf8FromText(paths.UserName) + ".dat";
+    if (HoldsOtherFoods(program.store, category) && !UserGivesUpTheCategory(program)) return;
+    WriteFileAnew(category, bytes);
     Load_Databases(program);
     FoodListsView* const lists = program.windows.lists;
     if (lists == nullptr) return;

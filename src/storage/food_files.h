@@ -33,9 +33,10 @@ void AppendFoodLines(std::string_view file_bytes, std::string_view closing_field
 // nothing else; a key that no line begins with leads to nothing. A failure shows "#FF8-0".
 void Add_To_Favorites(Program& program, std::string_view key);
 
-// Asks, and on a Yes copies the own list of the current user, byte for byte, to a category database
-// named after the user, then loads all databases again and lets an open food lists window rebuild
-// its views. A failure shows "#F11-2".
+// Asks, once more if a category of that name has foods that the own list lacks, and on a Yes copies
+// the own list of the current user, byte for byte, to a category database named after the user,
+// then loads all databases again and lets an open food lists window rebuild its views. A failure
+// shows "#F11-2".
 void CopyOwnListToDatabases(Program& program);
 
 }  // namespace kelvora

@@ -145,6 +145,34 @@ TEST_F(OwnLists, ACopyTakesThePlaceOfTheOneBefore) {
   EXPECT_EQ(ReadFile(Databases() + "Anna.dat"), ReadFile(CustomFile(test.program.paths, "Anna")));
 }
 
+// A user may bear the name of a category; its foods would be gone for everybody.
+TEST_F(OwnLists, ACategoryWithOtherFoodsIsAskedAboutBeforeItIsReplaced) {
+  const Rec_ListLine other{{Packed("Own soup|2 plates|~Rye|~")}};
+  store.Custom_list.Add(Packed("Own soup|1 plate|"));
+  Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
+    WriteRecord(Databases() + "Anna.dat", other);
+    const std::string before = ReadFile(Databases() + "Anna.dat");
+    test.boxes.shown.clear();
+    test.boxes.answers = {BoxAnswer::yes, answer};
+    CopyOwnListToDatabases(test.program);
+    ASSERT_EQ(test.boxes.shown.size(), 2u);
+    EXPECT_EQ(test.boxes.shown[1].text,
+              "The category \"Anna\" holds food items that your own list does not have.\n"
+              "Do you want to replace all of them by your own list?");
+    EXPECT_EQ(test.boxes.shown[1].buttons, BoxButtons::yes_no);
+    const std::string own = ReadFile(CustomFile(test.program.paths, "Anna"));
+    EXPECT_EQ(ReadFile(Databases() + "Anna.dat"), answer == BoxAnswer::yes ? own : before);
+  }
+  // An earlier copy, whose foods the own list still has, goes without a question.
+  store.Custom_list.Replace(0, Packed("Own soup|3 plates|"));
+  Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  test.boxes.shown.clear();
+  test.boxes.answers = {BoxAnswer::yes};
+  CopyOwnListToDatabases(test.program);
+  EXPECT_EQ(test.boxes.shown.size(), 1u);
+}
+
 TEST_F(OwnLists, WithoutAFileToCopyTheCategoryStaysAndItsCodeShows) {
   WriteRecord(Databases() + "Anna.dat", Rec_ListLine{{Packed("Old|~")}});
   test.boxes.answers = {BoxAnswer::yes};
