@@ -70,7 +70,8 @@ bool WriteUserFiles(Program& program, const Paths& there, bool replace) {
   MakeUserFolders(there, there.UserName);
   return std::ranges::all_of(kUserFiles, [&](const UserFile& file) {
     const std::string path = file.path(there, there.UserName);
-    return (!replace && FileExists(path)) || file.save(program, path);
+    if (replace) DeleteFileIfThere(path);
+    return FileExists(path) || file.save(program, path);
   });
 }
 
