@@ -154,7 +154,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace kelvora;
   TestProgram& test = FreshBoxes();
   const auto record = CheckedRecord<Rec_DayFile>(InputOf(data, size));
-  if (!record) return 0;
+  if (!record || size == 0) return 0;
   CloseDay(test.program);
   Check(PackDay(test.program.store) == Rec_DayFile(), "nothing is left of a closed day");
   CheckTakenAndPacked(test.program.store, *record);

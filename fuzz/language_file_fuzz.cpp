@@ -44,7 +44,7 @@ void CheckUnchanged(const TextTables& before, const TextTables& texts, std::size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kelvora;
   const auto record = CheckedRecord<Rec_Language>(InputOf(data, size));
-  if (!record) return 0;
+  if (!record || size == 0) return 0;
   static const TextTables before = FreshBoxes().program.texts;
   static TextTables texts = before;
   SplitTables(*record, texts);

@@ -16,10 +16,10 @@ class PlainReader {
  public:
   explicit PlainReader(std::string_view file) : file_(file) {}
 
-  // The count at the front; first of all.
+  // The count at the front; first of all. A file that is cut short inside it holds empty strings.
   [[nodiscard]] bool HoldsARecord() {
     const std::size_t count = Number(4);
-    return count != 0 && count <= 0x7FFFFFFF;
+    return file_.size() < 4 || (count != 0 && count <= 0x7FFFFFFF);
   }
 
   [[nodiscard]] std::string_view String() {

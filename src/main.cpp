@@ -5,8 +5,10 @@
 #include "platform/qt/guarded_application.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qt_platform.h"
+#include "storage/disk.h"
 
 int main(int argc, char** argv) {
+  kelvora::IgnoreFileSignals();
   QApplication::setStyle(QStringLiteral("Fusion"));
   kelvora::GuardedApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("kelvora-food"));

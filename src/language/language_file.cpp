@@ -126,7 +126,9 @@ Text Get_Language_Version(Program& program, const std::string& path) {
   if (!FileExists(path)) return "0";
   try {
     constexpr TextTable kTable = TextTable::taal_file_info;
-    // Counted from 1, as is meant: the version then stands behind its usual place.
+    // Counted from 1, as is meant: the version then stands behind its usual place, where another
+    // file may have left its own.
+    program.texts[{kTable, file_info_text::kLanguageVersion.index + 1}].clear();
     SplitTable(ReadLanguage(path)[kTable], kTable, 1, program.texts);
     return program.texts[{kTable, file_info_text::kLanguageVersion.index + 1}];
   } catch (const std::exception&) {

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <tuple>
 
+#include "storage/disk.h"
+
 namespace kelvora {
 namespace {
 
@@ -13,21 +15,23 @@ namespace fs = std::filesystem;
 constexpr int kApplicationData = 26;
 constexpr int kDocuments = 5;
 
-// What `wanted` takes of a folder and is not hidden, sorted by name without regard to case.
+// What `wanted` takes of a folder by its path and is not hidden, sorted by name without regard to
+// case.
 template <class Wanted>
-std::vector<FolderFile> EntriesIn(const std::string& path, Wanted wanted) {
+std::vector<FolderFile> EntriesIn(const std::string& folder, std::error_code& failure,
+                                  Wanted wanted) {
   struct Entry {
     Text key;
     FolderFile file;
   };
   std::vector<Entry> entries;
-  std::error_code failure;
-  for (fs::directory_iterator entry(path, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    const std::string name_on_disk = entry->path().filename().string();
-    if (name_on_disk.starts_with('.') || !wanted(*entry)) continue;
+  const FolderNames found = NamesIn(folder);
+  failure = found.failure;
+  for (const std::string& name_on_disk : found.names) {
+    std::string path = folder + name_on_disk;
+    if (name_on_disk.starts_with('.') || !wanted(fs::path(path))) continue;
     const Text name = TextFromUtf8(name_on_disk);
-    entries.push_back({LowerCase(name), {name, path + name_on_disk}});
+    entries.push_back({LowerCase(name), {name, std::move(path)}});
   }
   std::ranges::sort(entries, [](const Entry& a, const Entry& b) {
     return std::tie(a.key, a.file.name, a.file.path) < std::tie(b.key, b.file.name, b.file.path);
@@ -36,6 +40,13 @@ std::vector<FolderFile> EntriesIn(const std::string& path, Wanted wanted) {
   files.reserve(entries.size());
   for (Entry& entry : entries) files.push_back(std::move(entry.file));
   return files;
+}
+
+// Makes a folder that only its owner may enter, whatever the system's mask; one that is there stays
+// as it is.
+void MakePrivateFolder(const std::string& path) {
+  std::error_code ignored;
+  if (fs::create_directory(path, ignored)) fs::permissions(path, fs::perms::owner_all, ignored);
 }
 
 TextList NamesOf(const std::vector<FolderFile>& files) {
@@ -97,8 +108,9 @@ bool MakeFolder(const std::string& path) {
 
 void MakeUserFolders(const Paths& paths, std::string_view name) {
   if (!CanNameAFolder(name)) return;
-  for (const char* folder : {"Profile", "Files", "Databases"}) {
-    MakeFolder(UserFolder(paths, name) + folder);
+  MakeFolder(paths.UsersPath);
+  for (const char* folder : {"", "Profile", "Files", "Databases"}) {
+    MakePrivateFolder(UserFolder(paths, name) + folder);
   }
 }
 
@@ -139,20 +151,25 @@ std::string FavoritesFileIn(const std::string& folder) {
 }
 
 std::vector<FolderFile> FoldersWithPathsIn(const std::string& path) {
-  auto folders = EntriesIn(path, [](const fs::directory_entry& entry) {
-    std::error_code ignored;
-    return !entry.is_regular_file(ignored);
+  std::error_code ignored;
+  auto folders = EntriesIn(path, ignored, [&ignored](const fs::path& entry) {
+    return !fs::is_regular_file(entry, ignored);
   });
   for (FolderFile& folder : folders) folder.path += '/';
   return folders;
 }
 
-std::vector<FolderFile> FilesWithPathsIn(const std::string& path, std::string_view extension) {
-  return EntriesIn(path, [extension](const fs::directory_entry& entry) {
+std::vector<FolderFile> FilesWithPathsIn(const std::string& path, std::string_view extension,
+                                         std::error_code& failure) {
+  return EntriesIn(path, failure, [extension](const fs::path& entry) {
     std::error_code ignored;
-    return LowerCase(entry.path().extension().string()) == extension &&
-           !entry.is_directory(ignored);
+    return LowerCase(entry.extension().string()) == extension && !fs::is_directory(entry, ignored);
   });
+}
+
+std::vector<FolderFile> FilesWithPathsIn(const std::string& path, std::string_view extension) {
+  std::error_code ignored;
+  return FilesWithPathsIn(path, extension, ignored);
 }
 
 TextList SubFoldersOf(const std::string& path) {

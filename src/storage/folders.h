@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "core/program.h"
@@ -26,8 +27,9 @@ void ApplyAlternativeUsersFolder(Program& program);
 // Creates a folder with all its parents; false if that fails.
 bool MakeFolder(const std::string& path);
 
-// Creates the three folders of a user, whose name is used exactly as it was typed. A name that no
-// folder can have gets none, which shows at the first write of the profile.
+// Creates the three folders of a user, whose name is used exactly as it was typed; what is new is
+// the user's alone. A name that no folder can have gets none, which shows at the first write of the
+// profile.
 void MakeUserFolders(const Paths& paths, std::string_view name);
 
 // Removes the folder of one user with all its content, write-protected or not. `path` must be a
@@ -59,6 +61,10 @@ struct FolderFile {
 [[nodiscard]] std::vector<FolderFile> FoldersWithPathsIn(const std::string& path);
 [[nodiscard]] std::vector<FolderFile> FilesWithPathsIn(const std::string& path,
                                                        std::string_view extension);
+// As above, with what kept the folder from being read to its end.
+[[nodiscard]] std::vector<FolderFile> FilesWithPathsIn(const std::string& path,
+                                                       std::string_view extension,
+                                                       std::error_code& failure);
 [[nodiscard]] TextList SubFoldersOf(const std::string& path);
 [[nodiscard]] TextList FilesIn(const std::string& path, std::string_view extension);
 

@@ -6,17 +6,16 @@
 //              from 65,535 bytes on: 0xFFFF, unsigned 32-bit length, bytes
 //
 // No magic, no version, no checksum. Only the first record is read. What a cut file lacks reads as
-// empty; a file that ends inside a string yields the bytes that are there. This file knows nothing
-// of what the strings mean.
+// empty; a file that ends inside a string, or inside the count, yields the bytes that are there.
+// This file knows nothing of what the strings mean.
 #pragma once
 
-#include <cstdio>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 
 #include "core/records.h"
+#include "storage/disk.h"
 
 namespace kelvora {
 
@@ -30,28 +29,25 @@ class InputFile {
   [[nodiscard]] static std::optional<InputFile> TryOpen(const std::string& path);
 
   // The whole file; asked once. Throws std::system_error.
-  [[nodiscard]] std::string ReadAll();
+  [[nodiscard]] std::string ReadAll() const { return ReadBytes(file_); }
+  // The state that it was opened in.
+  [[nodiscard]] FileStamp Stamp() const { return StampOf(file_); }
 
  private:
-  struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-  std::unique_ptr<std::FILE, Close> file_;
+  OpenFile file_;
 };
 
 // The whole file. Throws std::system_error.
 [[nodiscard]] std::string ReadFile(const std::string& path);
 
-// Deletes the file and writes it anew. Throws std::system_error at whichever step fails, the
-// closing included; no file is left then, neither the old one nor a part of the new one. A file
-// that may not be deleted stays as it was.
-void WriteFileAnew(const std::string& path, std::string_view bytes);
-
-// Deletes the file if there is one. Throws std::system_error, for a write-protected file too.
-void DeleteFileIfThere(const std::string& path);
+// Deletes the file and writes it anew, see ReplaceFile. Throws std::system_error at whichever step
+// fails, the closing included.
+void WriteFileAnew(const std::string& path, std::string_view bytes,
+                   NewFileMode mode = NewFileMode::by_mask);
 
 // Fills `strings` from the first record of `bytes`; false, with `strings` untouched, if the count
-// is 0 or less. Views stay valid as long as `bytes`.
+// is 0 or less. Fewer bytes than a count has are a file cut short: its strings are empty. Views
+// stay valid as long as `bytes`.
 [[nodiscard]] bool DecodeFirstRecord(std::string_view bytes, std::span<Text> strings);
 [[nodiscard]] bool DecodeFirstRecord(std::string_view bytes, std::span<std::string_view> strings);
 
@@ -80,8 +76,9 @@ template <class AnyRecord>
 
 // Writes a file of one record, deleting the old one first. Throws std::system_error.
 template <class AnyRecord>
-void WriteRecord(const std::string& path, const AnyRecord& record) {
-  WriteFileAnew(path, EncodeRecord(record.strings));
+void WriteRecord(const std::string& path, const AnyRecord& record,
+                 NewFileMode mode = NewFileMode::by_mask) {
+  WriteFileAnew(path, EncodeRecord(record.strings), mode);
 }
 
 // Thrown where a record is needed and no file has yielded one.

@@ -119,7 +119,7 @@ TEST_F(DayUsers, AFolderThatCannotBeWrittenIsToldAndTheDayStaysInMemory) {
 
 TEST_F(DayUsers, AnEmptyProfileEndsTheListUnlessOneWasReadBefore) {
   MakeUserFolders(program.paths, "Anna");
-  std::ofstream(ProfileFile(program.paths, "Anna")).flush();
+  std::ofstream(ProfileFile(program.paths, "Anna")).write("\0\0\0\0", 4);
   EXPECT_EQ(UsersForNewDay(program).Count(), 0u);
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("#F2-0"));

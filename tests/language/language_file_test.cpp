@@ -137,11 +137,23 @@ TEST(LanguageFile, OneCutAnywhereOverlaysWhatIsThereWithoutAMessage) {
   EXPECT_EQ(test.program.texts.entries, dutch);
 }
 
-TEST(LanguageFile, EmptyOrWithoutACountShowsItsFixedBox) {
+TEST(LanguageFile, CutInsideItsCountChangesNothingAndSaysNothing) {
+  TestProgram test;
+  const auto before = test.program.texts.entries;
+  const std::string path = test.program.paths.LanguagePath + "cut.lsf";
+  for (const std::string_view bytes : {std::string_view(), std::string_view("\0\0\0", 3)}) {
+    WriteFileAnew(path, bytes);
+    Load_Language_File(test.program, path);
+    EXPECT_TRUE(test.boxes.shown.empty());
+    EXPECT_EQ(test.program.texts.entries, before);
+  }
+}
+
+TEST(LanguageFile, WithoutARecordShowsItsFixedBox) {
   TestProgram test;
   const std::string path = test.program.paths.LanguagePath + "bad.lsf";
   for (const std::string_view bytes :
-       {std::string_view(), std::string_view("\0\0\0", 3), std::string_view("\xFF\xFF\xFF\xFF")}) {
+       {std::string_view("\0\0\0\0", 4), std::string_view("\xFF\xFF\xFF\xFF")}) {
     test.boxes.shown.clear();
     WriteFileAnew(path, bytes);
     Load_Language_File(test.program, path);
@@ -179,13 +191,31 @@ TEST(LanguageFile, TheVersionIsTheSecondItemAndLeavesItsTableOnePlaceTooHigh) {
 TEST(LanguageFile, AStandardFileThatCanNotBeReadIsMadeAnewAfterItsBox) {
   TestProgram test;
   const std::string path = test.program.paths.LanguagePath + "English.lsf";
-  WriteFileAnew(path, "");
+  WriteFileAnew(path, std::string(4, '\0'));
   Check_Language_Files(test.program);
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::error);
   EXPECT_EQ(test.boxes.shown[0].text,
             "An error occured during language version retrieval in file " + path);
   EXPECT_EQ(Get_Language_Version(test.program, path), "2.24");
+}
+
+// What the file before it said of its version says nothing of this one.
+TEST(LanguageFile, AStandardFileThatIsCutShortIsMadeAnew) {
+  TestProgram test;
+  Check_Language_Files(test.program);
+  for (const char* name : {"Nederlands.lsf", "default.lsf"}) {
+    const std::string path = test.program.paths.LanguagePath + name;
+    const std::string whole = ReadFile(path);
+    const Text first_text = (*ReadFirstRecord<Rec_Language>(path)).strings[0];
+    for (const std::size_t size : {0u, 3u, 4u}) {
+      WriteFileAnew(path, std::string_view(whole).substr(0, size));
+      Check_Language_Files(test.program);
+      EXPECT_EQ(Get_Language_Version(test.program, path), "2.24") << name << size;
+      EXPECT_EQ(ReadFirstRecord<Rec_Language>(path)->strings[0], first_text) << name << size;
+    }
+  }
+  EXPECT_TRUE(test.boxes.shown.empty());
 }
 
 TEST(LanguageFile, AWriteProtectedStandardFileOfAnotherVersionStaysAndTheProgramGoesOn) {

@@ -71,6 +71,7 @@ const Fault kSizeLimit = [](std::size_t bytes) { return std::make_shared<FileSiz
 class FailingWrite : public testing::TestWithParam<Writer> {
  protected:
   FailingWrite() {
+    IgnoreFileSignals();
     test.OpenDay("Anna", kFile);
     Program& program = test.program;
     program.store.L_ochtend.Add(LineOf({.product = "Bread", .gram = "35"}));
@@ -149,6 +150,40 @@ TEST_P(FailingWrite, AClosingThatFails) {
   }
   CheckAfterFailure("close");
   EXPECT_FALSE(std::filesystem::exists(path()));
+  SaveAgainAndCompare();
+}
+
+TEST_P(FailingWrite, ASyncThatFails) {
+  {
+    const InjectedFault fault({.sync_fails = true});
+    EXPECT_FALSE(GetParam().save(test.program));
+  }
+  CheckAfterFailure("sync");
+  EXPECT_FALSE(std::filesystem::exists(path()));
+  SaveAgainAndCompare();
+}
+
+TEST_P(FailingWrite, AFolderThatCannotBeSyncedHoldsTheNewFile) {
+  {
+    const InjectedFault fault({.folder_sync_fails = true});
+    EXPECT_FALSE(GetParam().save(test.program));
+  }
+  CheckAfterFailure("sync of the folder");
+  EXPECT_EQ(ReadFile(path()), whole);
+  SaveAgainAndCompare();
+}
+
+// A failure before the delete: the old file is not given away for a new one that can't be.
+TEST_P(FailingWrite, ADiskWithoutTheRoomLeavesTheOldFileWhole) {
+  {
+    const InjectedFault fault({.room = 0});
+    std::filesystem::create_hard_link(path(), path() + " kept");
+    // A file with a second name frees nothing.
+    EXPECT_FALSE(GetParam().save(test.program));
+  }
+  std::filesystem::remove(path() + " kept");
+  CheckAfterFailure("no room");
+  EXPECT_EQ(ReadFile(path()), whole);
   SaveAgainAndCompare();
 }
 

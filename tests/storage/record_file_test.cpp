@@ -1,6 +1,5 @@
 #include "storage/record_file.h"
 
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
@@ -41,7 +40,7 @@ TEST(RecordFile, AFileCutAnywhereYieldsWhatIsThere) {
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     Two record;
     const bool read = DecodeFirstRecord(whole.substr(0, length), record.strings);
-    EXPECT_EQ(read, length > 0) << length;  // the first byte already counts one record
+    EXPECT_TRUE(read) << length;
     const std::size_t first = length < 6 ? 0 : std::min<std::size_t>(length - 6, 3);
     const std::size_t second = length < 11 ? 0 : length - 11;
     EXPECT_EQ(record.strings[0], Text("abc").substr(0, first)) << length;
@@ -102,7 +101,7 @@ TEST(RecordFile, AWriteThatFailsAfterAnyNumberOfBytesIsNoticed) {
   const std::string bytes(5000, 'x');
   rlimit before{};
   ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-  const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
+  IgnoreFileSignals();
   for (const rlim_t limit : {0u, 1u, 4095u, 4096u, 4097u, 4999u}) {
     const rlimit tight{limit, before.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
@@ -111,7 +110,6 @@ TEST(RecordFile, AWriteThatFailsAfterAnyNumberOfBytesIsNoticed) {
     WriteFileAnew(folder.Path("file"), bytes);
     EXPECT_EQ(ReadFile(folder.Path("file")), bytes);
   }
-  std::signal(SIGXFSZ, old_handler);
 }
 
 }  // namespace

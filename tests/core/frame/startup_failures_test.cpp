@@ -87,7 +87,11 @@ TEST(StartUpFailures, AnAlternativeUsersFolderThatIsReadOnlyIsReadAndTakesNoDay)
   Rec_Profile profile;
   profile[ProfileField::name] = "Anna";
   WriteRecord(ProfileFile(program.paths, "Anna"), profile);
-  fs::permissions(machine.folders.home.Path(), fs::perms(0755));
+  for (const std::string& folder :
+       {machine.folders.home.Path(), users + "Anna", users + "Anna/Profile", users + "Anna/Files",
+        users + "Anna/Databases"}) {
+    fs::permissions(folder, fs::perms(0755));
+  }
   {
     const AsNobody nobody;
     EXPECT_EQ(UsersToBrowse(program).Count(), 1u);

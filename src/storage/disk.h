@@ -1,0 +1,68 @@
+// What files need of the system beyond standard C++: a descriptor for one file, its stamp, the room
+// on its disk, a sync, the names in a folder. All of it throws std::system_error with the system's
+// own error, unless it says otherwise. This file knows nothing of what files hold.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "core/kept_file.h"
+
+namespace kelvora {
+
+// Lets a limit on the size of files, and a reader that has gone, show as a failed write instead of
+// ending the process.
+void IgnoreFileSignals();
+
+// Who may read a file that is made: whoever the system's mask lets, or its owner only.
+enum class NewFileMode { by_mask, owner_only };
+
+// An open file; closed with this object, without asking how that went.
+class OpenFile {
+ public:
+  explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
+  OpenFile(OpenFile&& other) noexcept;
+  OpenFile& operator=(OpenFile&&) = delete;
+  ~OpenFile();
+
+  [[nodiscard]] int Descriptor() const { return descriptor_; }
+  // Closes it now.
+  void Close();
+
+ private:
+  int descriptor_;
+};
+
+// Opens a regular file for reading. A folder, a pipe or a device is refused without waiting for it.
+[[nodiscard]] OpenFile OpenForReading(const std::string& path);
+
+// The bytes of the file, as many as it has at the call.
+[[nodiscard]] std::string ReadBytes(const OpenFile& file);
+
+// The state of an open file, and of the one at a path: nothing if there is none.
+[[nodiscard]] FileStamp StampOf(const OpenFile& file);
+[[nodiscard]] std::optional<FileStamp> StampOf(const std::string& path);
+
+// True if anything has that path, be it a link that leads nowhere.
+[[nodiscard]] bool PathIsTaken(const std::string& path);
+
+// Deletes the file, writes all bytes as a new one of the same mode, syncs it and its folder. Where
+// the disk has no room for the bytes, and a file that may not be written stays as it was; at any
+// later failure no file is left, neither the old one nor a part of the new one, but for the last:
+// when only the folder can't be synced.
+void ReplaceFile(const std::string& path, std::string_view bytes, NewFileMode mode);
+
+// Deletes the file if there is one, or the link if it leads nowhere.
+void DeleteFileIfThere(const std::string& path);
+
+// The names in a folder, without "." and "..", in no order. A failure leaves the names before it.
+struct FolderNames {
+  std::vector<std::string> names;
+  std::error_code failure;
+};
+[[nodiscard]] FolderNames NamesIn(const std::string& folder);
+
+}  // namespace kelvora
