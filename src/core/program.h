@@ -9,6 +9,7 @@
 
 #include "core/common.h"
 #include "core/failure.h"
+#include "core/kept_file.h"
 #include "core/records.h"
 #include "core/store.h"
 #include "core/views.h"
@@ -41,8 +42,15 @@ struct DayState {
   Text drag_source;
 };
 
+// The bytes of the day file that was opened last, and the folder that it lay in.
+struct OpenedDay {
+  std::string folder;
+  std::string bytes;
+};
+
 // What the previous read of a file kind left; a file with no record falls back on it.
 struct LastRead {
+  std::optional<OpenedDay> opened_day;
   std::optional<Rec_DayFile> day;
   std::optional<Rec_Profile> profile;
 };
@@ -66,6 +74,7 @@ struct Program {
   DayState day;
   OpenWindows windows;
   LastRead last_read;
+  KeptFiles kept;
   ServerAddresses servers;
   Text StartSeparator;  // the decimal separator that the locale had at start
   ActionLog actions;

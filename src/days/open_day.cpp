@@ -30,6 +30,8 @@ void TakeOver(Program& program, std::string_view name) {
 }
 
 void ForgetFoodsOfUser(Program& program) {
+  program.kept.custom = {};
+  program.kept.favourites = {};
   program.store.Custom_list.Clear();
   program.store.Favorites_list.Clear();
   if (FoodListsView* const lists = program.windows.lists) {

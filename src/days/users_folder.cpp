@@ -97,7 +97,11 @@ bool ChangeUsersFolder(Program& program, const std::string& users_path) {
   const bool other_data = OtherDataLiesThere(program, there);
   const bool other_day = OtherDayLiesThere(program, there);
   const bool replace = other_data && UserWantsItReplaced(program);
-  if (!WriteUserFiles(program, there, replace)) return false;
+  const KeptFiles kept = program.kept;
+  if (!WriteUserFiles(program, there, replace)) {
+    program.kept = kept;
+    return false;
+  }
   program.paths = there;
   if (other_data && !replace) {
     for (const UserFile& file : kUserFiles) file.load(program, file.path(there, there.UserName));

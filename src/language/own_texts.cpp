@@ -61,6 +61,29 @@ constexpr std::array kRows = {
                "Do you want to replace all of them by your own list?"_w,
                "De categorie \"%1\" bevat voedingsmiddelen die niet in je eigen lijst staan.\n"
                "Wil je ze allemaal vervangen door je eigen lijst?"_w},
+    OwnTextRow{OwnText::own_list_differs,
+               "The file of your own food list could not be read, or has changed since."_w,
+               "Het bestand met je eigen voedingsmiddelen kon niet worden gelezen, of is sindsdien "
+               "veranderd."_w},
+    OwnTextRow{OwnText::favourites_differ,
+               "The file of your favourites could not be read, or has changed since."_w,
+               "Het bestand met je favorieten kon niet worden gelezen, of is sindsdien "
+               "veranderd."_w},
+    OwnTextRow{OwnText::profile_differs,
+               "The file of the profile could not be read, or has changed since."_w,
+               "Het bestand met het profiel kon niet worden gelezen, of is sindsdien veranderd."_w},
+    OwnTextRow{OwnText::replaces_file, "Saving now replaces what is in it."_w,
+               "Als je nu opslaat, vervang je wat erin staat."_w},
+    OwnTextRow{OwnText::replace_file_sure, "Do you want to replace it?"_w,
+               "Wil je het vervangen?"_w},
+    OwnTextRow{OwnText::own_list_unsaved, "Your own food list has not been saved yet."_w,
+               "Je eigen voedingsmiddelen zijn nog niet opgeslagen."_w},
+    OwnTextRow{OwnText::favourites_unsaved, "Your favourites have not been saved yet."_w,
+               "Je favorieten zijn nog niet opgeslagen."_w},
+    OwnTextRow{OwnText::profile_unsaved, "The profile has not been saved yet."_w,
+               "Het profiel is nog niet opgeslagen."_w},
+    OwnTextRow{OwnText::go_on_without_saving, "Do you want to go on without saving?"_w,
+               "Wil je verdergaan zonder op te slaan?"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -43,6 +43,17 @@ enum class OwnText {
   no_food_server,  // why a food can't be added to the internet database
   // Before a category of other foods is replaced by the own list; "%1" is its name.
   replace_category,
+  // Before a file of the user is written over that this program has not seen, or no more.
+  own_list_differs,
+  favourites_differ,
+  profile_differs,
+  replaces_file,
+  replace_file_sure,
+  // Before work is left behind that could not be saved.
+  own_list_unsaved,
+  favourites_unsaved,
+  profile_unsaved,
+  go_on_without_saving,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -56,6 +67,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 22;
+inline constexpr int kOwnTextCount = 31;
 
 }  // namespace kelvora

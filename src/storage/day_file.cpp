@@ -1,14 +1,21 @@
 #include "storage/day_file.h"
 
+#include <algorithm>
+#include <array>
+#include <span>
+
 #include "core/common.h"
 #include "language/common_texts.h"
 #include "language/main_texts.h"
+#include "storage/kept_files.h"
 #include "storage/record_file.h"
 
 namespace kelvora {
 namespace {
 
 // In the order in which closing a day closes them.
+using DayStrings = std::array<std::string_view, Rec_DayFile::kSize>;
+
 constexpr std::array kDayWindows = {
     WindowId::day_summary, WindowId::multi_day, WindowId::diary,
     WindowId::morning,     WindowId::afternoon, WindowId::evening,
@@ -30,15 +37,36 @@ bool MayDropDayForAnother(Program& program) {
       JoinLines(program.texts, {kOpenFileGoing, kOpenFileNotSaved, std::nullopt, kOpenFileSure}));
 }
 
+void TakeDay(KV_data& store, const DayStrings& strings) {
+  const auto string = [&strings](DayFileField field) {
+    return strings[static_cast<std::size_t>(field)];
+  };
+  store.txt_trenddata = string(DayFileField::Trend);
+  store.txt_notities = string(DayFileField::Notes);
+  SplitBlock(string(DayFileField::Header), store.L_gegevens);
+  SplitBlock(string(DayFileField::Morning), store.L_ochtend);
+  SplitBlock(string(DayFileField::Afternoon), store.L_middag);
+  SplitBlock(string(DayFileField::Evening), store.L_avond);
+}
+
+// The strings of the file that was just read; of one that counts no record, those of the day that
+// was opened before it in the same folder.
+DayStrings StringsOf(Program& program, const std::string& folder, std::string bytes) {
+  auto& opened = program.last_read.opened_day;
+  DayStrings strings;
+  const bool holds_a_record = DecodeFirstRecord(bytes, std::span(strings));
+  if (!holds_a_record && (!opened || opened->folder != folder)) ThrowNoRecord();
+  if (holds_a_record) opened = {folder, std::move(bytes)};
+  (void)DecodeFirstRecord(opened->bytes, std::span(strings));
+  return strings;
+}
+
 }  // namespace
 
 void TakeDay(KV_data& store, const Rec_DayFile& record) {
-  store.txt_trenddata = record[DayFileField::Trend];
-  store.txt_notities = record[DayFileField::Notes];
-  SplitBlock(record[DayFileField::Header], store.L_gegevens);
-  SplitBlock(record[DayFileField::Morning], store.L_ochtend);
-  SplitBlock(record[DayFileField::Afternoon], store.L_middag);
-  SplitBlock(record[DayFileField::Evening], store.L_avond);
+  DayStrings strings;
+  std::ranges::copy(record.strings, strings.begin());
+  TakeDay(store, strings);
 }
 
 Rec_DayFile PackDay(const KV_data& store) {
@@ -59,23 +87,25 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
     // The name may belong to the row of a window that closes with the day.
     const Text name(file_name);
     CloseDay(program);
-    TakeDay(program.store, DecodeOrKeepRecord(file->ReadAll(), program.last_read.day));
+    TakeDay(program.store, StringsOf(program, folder, file->ReadAll()));
     program.store.KV_bestand = name;
     pointer.Restore();
   });
 }
 
 bool SaveDay(Program& program) {
-  return program.Guard("#FF1-9", [&] {
+  const bool saved = program.Guard("#FF1-9", [&] {
     const KV_data& store = program.store;
     program.platform.pointer.ShowWait();
     if (!store.DayIsOpen()) return;  // meant: the next routine restores the pointer
     WriteRecord(UserFolder(program.paths, store.L_gegevens[HeaderRow::kName]) + "Files/" +
                     Utf8FromText(store.KV_bestand),
-                PackDay(store));
+                PackDay(store), NewFileMode::owner_only);
     program.platform.pointer.Restore();
     SetFileChanged(program, false);
   });
+  // What failed once may fail again: one box is enough.
+  return saved && SaveUnwrittenWork(program);
 }
 
 void CloseDay(Program& program) {

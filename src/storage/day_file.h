@@ -14,7 +14,8 @@ namespace kelvora {
 
 // Reads `folder` + `file_name` into the store. A file that can't be opened changes nothing, and so
 // does a No to the question about unsaved changes. A failure shows "#FF1-8" and leaves no day open.
-// `folder` is a UTF-8 path with its closing "/".
+// `folder` is a UTF-8 path with its closing "/". A file that counts no record gives the day that
+// was opened last from the same folder, and fails without one.
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name);
 
 // Puts the six strings of a day file into the store, the lists behind what they hold; and makes
@@ -22,8 +23,9 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
 void TakeDay(KV_data& store, const Rec_DayFile& record);
 [[nodiscard]] Rec_DayFile PackDay(const KV_data& store);
 
-// Writes the open day to its user's folder; does nothing with no day open. False after a failure,
-// which shows "#FF1-9" and leaves the day changed.
+// Writes the open day, if there is one, to its user's folder, and then what lists and profile could
+// not be written before. False after a failure; that of the day shows "#FF1-9" and leaves it
+// changed.
 bool SaveDay(Program& program);
 
 // Empties the day and closes the windows that show it. Asks nothing and saves nothing.

@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <stdexcept>
+#include <system_error>
 #include <unordered_set>
 
 #include "core/common.h"
@@ -11,34 +13,59 @@
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
 #include "storage/folders.h"
+#include "storage/kept_files.h"
 #include "storage/record_file.h"
 
 namespace kelvora {
 namespace {
 
+constexpr std::string_view kEnding = ".dat";
+
 using Populate = void (FoodListsView::*)();
 
-void LoadUserList(Program& program, const std::string& path, std::string_view code, TextList& list,
-                  Populate populate) {
-  auto file = InputFile::TryOpen(path);
+void LoadUserList(Program& program, KeptFile& kept, const std::string& path, std::string_view code,
+                  TextList& list, Populate populate) {
+  const auto file = OpenKeptFile(kept, path);
   if (!file) return;
   program.Guard(code, [&] {
     program.platform.pointer.ShowWait();
     list.Clear();
     AppendFoodLines(file->ReadAll(), {}, list);
+    MarkRead(kept);
     program.platform.pointer.Restore();
     if (program.windows.lists != nullptr) (program.windows.lists->*populate)();
   });
 }
 
-bool SaveUserList(Program& program, const std::string& path, std::string_view code,
+bool SaveUserList(Program& program, KeptFile& kept, const std::string& path, std::string_view code,
                   const TextList& list) {
-  return program.Guard(code, [&] {
-    program.platform.pointer.ShowWait();
-    WriteRecord(path, Rec_ListLine{{PackBlock(list)}});
-    program.platform.pointer.Restore();
-  });
+  return WriteKeptFile(program, kept, path, code, Rec_ListLine{{PackBlock(list)}}.strings);
 }
+
+// The category of a file: its name, with the ending in small letters as searches have it.
+Text CategoryOf(const FolderFile& file) {
+  return file.name.substr(0, file.name.size() - kEnding.size()).append(kEnding);
+}
+
+// What could not be read, for one box: name and reason, a line each.
+class Unread {
+ public:
+  void Add(std::string_view name, const Text& reason) {
+    if (++count_ > kMostLines) return;
+    if (!lines_.empty()) lines_ += '\n';
+    lines_.append(name).append(": ").append(reason);
+  }
+  // Fails with the lines, if there are any.
+  void ThrowIfAny() const {
+    if (count_ == 0) return;
+    throw std::runtime_error(Utf8FromText(lines_) + (count_ > kMostLines ? "\n..." : ""));
+  }
+
+ private:
+  static constexpr std::size_t kMostLines = 10;
+  Text lines_;
+  std::size_t count_ = 0;
+};
 
 // The line of that key that becomes a favourite; nothing if there is none.
 std::optional<Text> CandidateOf(const KV_data& store, std::string_view key) {
@@ -95,23 +122,37 @@ void Load_Databases(Program& program) {
     KV_data& store = program.store;
     program.platform.pointer.ShowWait();
     const std::string folder = program.paths.ProgramPath + "Databases/";
-    store.database_lst = FilesIn(folder, ".dat");
+    std::error_code failure;
+    const auto files = FilesWithPathsIn(folder, kEnding, failure);
+    Unread unread;
+    if (failure && failure != std::errc::no_such_file_or_directory) {
+      unread.Add("Databases", DescribeFailure(std::system_error(failure)));
+    }
+    store.database_lst.Clear();
+    for (const FolderFile& file : files) store.database_lst.Add(file.name);
     store.Default_list.Clear();
-    for (const std::string_view file : store.database_lst) {
-      if (!CategoryKnown(store, file)) store.lst_categorien.Add(file);
-      AppendFoodLines(ReadFile(folder + Utf8FromText(file)), file, store.Default_list);
+    for (const FolderFile& file : files) {
+      const Text category = CategoryOf(file);
+      try {
+        const std::string bytes = ReadFile(file.path);
+        if (!CategoryKnown(store, category)) store.lst_categorien.Add(category);
+        AppendFoodLines(bytes, category, store.Default_list);
+      } catch (const std::exception& reason) {
+        unread.Add(file.name, DescribeFailure(reason));
+      }
     }
     program.platform.pointer.Restore();
+    unread.ThrowIfAny();
   });
 }
 
 void Load_Custom(Program& program, const std::string& path) {
-  LoadUserList(program, path, "#FF1-2", program.store.Custom_list,
+  LoadUserList(program, program.kept.custom, path, "#FF1-2", program.store.Custom_list,
                &FoodListsView::Populate_Food_List_Custom);
 }
 
 void Load_Favorites(Program& program, const std::string& path) {
-  LoadUserList(program, path, "#FF1-3", program.store.Favorites_list,
+  LoadUserList(program, program.kept.favourites, path, "#FF1-3", program.store.Favorites_list,
                &FoodListsView::Populate_Food_List_Favo);
 }
 
@@ -153,11 +194,12 @@ void CopyOwnListToDatabases(Program& program) {
 }
 
 bool Save_Favorites(Program& program, const std::string& path) {
-  return SaveUserList(program, path, "#FF1-4", program.store.Favorites_list);
+  return SaveUserList(program, program.kept.favourites, path, "#FF1-4",
+                      program.store.Favorites_list);
 }
 
 bool Save_Custom(Program& program, const std::string& path) {
-  return SaveUserList(program, path, "#FF1-5", program.store.Custom_list);
+  return SaveUserList(program, program.kept.custom, path, "#FF1-5", program.store.Custom_list);
 }
 
 }  // namespace kelvora

@@ -10,16 +10,18 @@
 namespace kelvora {
 
 // Fills `Default_list` from every category file, in order of name; each line gets the file's name
-// as its last field. `lst_categorien` grows by the names it lacks. A failure shows "#FF1-1" and
-// leaves the list as far as it came.
+// as its last field. `lst_categorien` grows by the names it lacks. Files that can't be read are
+// passed over; one box with "#FF1-1" names them at the end.
 void Load_Databases(Program& program);
 
-// Fill the list of a user from `path` and let an open food lists window rebuild its view. A file
-// that can't be opened changes nothing; a failure shows "#FF1-2" or "#FF1-3".
+// Both lists are kept files, see kept_files.h. Fill the list of a user from `path` and let an open
+// food lists window rebuild its view. A file that can't be opened changes nothing; a failure shows
+// "#FF1-2" or "#FF1-3".
 void Load_Custom(Program& program, const std::string& path);
 void Load_Favorites(Program& program, const std::string& path);
 
-// Write the list of a user; true if it lies on the disk now. A failure shows "#FF1-5" or "#FF1-4".
+// Write the list of a user, asking first where it would replace what was never read; true if it
+// lies on the disk now. A failure shows "#FF1-5" or "#FF1-4".
 bool Save_Custom(Program& program, const std::string& path);
 bool Save_Favorites(Program& program, const std::string& path);
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/common.h"
-#include "storage/record_file.h"
+#include "storage/kept_files.h"
 
 namespace kelvora {
 namespace {
@@ -21,25 +21,28 @@ void UpdateStatusBar(Program& program) {
 }  // namespace
 
 void Load_Profile(Program& program, const std::string& path) {
-  auto file = InputFile::TryOpen(path);
+  KeptFiles& kept = program.kept;
+  const auto file = OpenKeptFile(kept.profile, path);
+  kept.stored_profile.reset();
   if (!file) return;
   program.Guard("#FF1-6", [&] {
-    // A file that counts no record leaves the working copy of the user before.
-    if (const auto record = DecodeRecord<Rec_Profile>(file->ReadAll())) {
-      program.last_read.profile = record;
-      program.profile = OnlyFieldsInUse(*record);
-    } else if (!program.last_read.profile) {
-      ThrowNoRecord();
+    // A file that counts no record leaves the working copy as it is.
+    if (auto record = DecodeRecord<Rec_Profile>(file->ReadAll())) {
+      program.profile = OnlyFieldsInUse(*std::move(record));
+      kept.stored_profile = program.profile;
     }
+    MarkRead(kept.profile);
     UpdateStatusBar(program);
   });
 }
 
 bool Save_Profile(Program& program, const std::string& path) {
-  return program.Guard("#FF1-7", [&] {
-    WriteRecord(path, OnlyFieldsInUse(program.profile));
-    UpdateStatusBar(program);
-  });
+  KeptFiles& kept = program.kept;
+  const Rec_Profile record = OnlyFieldsInUse(program.profile);
+  if (!WriteKeptFile(program, kept.profile, path, "#FF1-7", record.strings)) return false;
+  kept.stored_profile = record;
+  UpdateStatusBar(program);
+  return true;
 }
 
 Rec_Profile DefaultsOfNewUser() {

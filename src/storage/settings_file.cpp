@@ -41,9 +41,13 @@ constexpr std::array kDefaults = {
 bool ReadSettingsFile(Program& program) {
   program.settings = {};
   try {
-    const auto record = ReadFirstRecord<Rec_Settings>(program.paths.SettingsFile);
-    if (record) program.settings = *record;
-    return record.has_value();
+    const std::string bytes = ReadFile(program.paths.SettingsFile);
+    // A file with less than a count holds no setting at all: as good as none.
+    constexpr std::size_t kShortest = 4;
+    auto record = DecodeRecord<Rec_Settings>(bytes);
+    if (!record || bytes.size() < kShortest) return false;
+    program.settings = *std::move(record);
+    return true;
   } catch (const std::exception&) {
     // No failure of the program: the caller makes new settings.
     return false;

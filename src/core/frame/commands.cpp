@@ -10,6 +10,7 @@
 #include "language/main_texts.h"
 #include "language/own_texts.h"
 #include "storage/day_file.h"
+#include "storage/kept_files.h"
 #include "storage/settings_file.h"
 
 namespace kelvora {
@@ -18,7 +19,7 @@ namespace {
 using namespace main_text;
 
 // What a command needs besides a window to serve it.
-enum class Needs { nothing, user, day, changed_day };
+enum class Needs { nothing, user, day, changed_day, day_or_unwritten };
 
 struct CommandRow {
   Command command;
@@ -40,7 +41,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_startupwizzard, Needs::nothing},
     CommandRow{Command::mnu_new, Needs::nothing},
     CommandRow{Command::mnu_browse, Needs::nothing},
-    CommandRow{Command::mnu_bestand_opslaan, Needs::day, Needs::changed_day},
+    CommandRow{Command::mnu_bestand_opslaan, Needs::day_or_unwritten, Needs::changed_day},
     NotServed(Command::mnu_exporteer_html, Needs::user),
     NotServed(Command::mnu_exporteer_xml, Needs::user),
     NotServed(Command::mnu_exporteer_dta, Needs::user),
@@ -109,7 +110,9 @@ bool Satisfied(const Program& program, Needs needs) {
     case Needs::day:
       return program.store.DayIsOpen();
     case Needs::changed_day:
-      return program.store.DayIsOpen() && program.day.FileChanged;
+      return (program.store.DayIsOpen() && program.day.FileChanged) || HoldsUnwrittenWork(program);
+    case Needs::day_or_unwritten:
+      return program.store.DayIsOpen() || HoldsUnwrittenWork(program);
   }
   return false;
 }
@@ -257,9 +260,11 @@ void RunCommand(Program& program, Command command) {
 }
 
 bool MayEndProgram(Program& program) {
-  if (!program.day.FileChanged) return true;
+  const bool day_changed = program.day.FileChanged;
+  if (!day_changed && !HoldsUnwrittenWork(program)) return true;
+  const Text day_line = day_changed ? program.texts[kExitNotSaved] + "\n" : Text();
   const Box box{.title = program.texts[kExitTitle],
-                .text = JoinLines(program.texts, {kExitNotSaved, kExitSure}),
+                .text = day_line + UnwrittenLines(program) + program.texts[kExitSure],
                 .icon = BoxIcon::question,
                 .buttons = BoxButtons::yes_no};
   return program.platform.boxes.Show(box) == BoxAnswer::yes;
