@@ -2,7 +2,8 @@
 //
 // A routine's body runs inside WithFailurePath together with that routine's own code. Whatever
 // escapes the body is shown in a box with the code, and the routine then returns as if done:
-// nothing is rolled back; what matters to callers is told as a result. Below that line code throws standard exceptions.
+// nothing is rolled back; what matters to callers is told as a result. Below that line code throws
+// standard exceptions.
 #pragma once
 
 #include <exception>
