@@ -21,6 +21,7 @@
 #include "food/new_food_dialog.h"
 #include "language/main_texts.h"
 #include "platform/qt/look.h"
+#include "platform/qt/menu_letter.h"
 #include "platform/qt/text.h"
 #include "platform/qt/toolkit_words.h"
 
@@ -30,16 +31,6 @@ namespace {
 constexpr int kToolbarIconSize = 24;
 constexpr int kQuickIconSize = 16;
 constexpr int kPanelMargin = 4;  // above and below the letters of the status bar
-
-// A title with the mark of its keyboard letter: the first that no other menu has yet.
-QString WithMnemonic(const QString& title, QString& taken) {
-  for (qsizetype i = 0; i < title.size(); ++i) {
-    if (!title[i].isLetter() || taken.contains(title[i], Qt::CaseInsensitive)) continue;
-    taken += title[i];
-    return QString(title).insert(i, '&');
-  }
-  return title;
-}
 
 QString QtName(std::string_view name) {
   return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
