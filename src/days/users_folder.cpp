@@ -13,16 +13,17 @@
 namespace kelvora {
 namespace {
 
-// A file that every user has, with what writes and what reads it.
+// A file that every user has, with what memory knows of it, what writes and what reads it.
 struct UserFile {
+  KeptFile KeptFiles::*kept;
   std::string (*path)(const Paths& paths, std::string_view user);
   bool (*save)(Program& program, const std::string& path);
   void (*load)(Program& program, const std::string& path);
 };
 constexpr std::array kUserFiles = {
-    UserFile{&ProfileFile, &Save_Profile, &Load_Profile},
-    UserFile{&CustomFile, &Save_Custom, &Load_Custom},
-    UserFile{&FavoritesFile, &Save_Favorites, &Load_Favorites},
+    UserFile{&KeptFiles::profile, &ProfileFile, &Save_Profile, &Load_Profile},
+    UserFile{&KeptFiles::custom, &CustomFile, &Save_Custom, &Load_Custom},
+    UserFile{&KeptFiles::favourites, &FavoritesFile, &Save_Favorites, &Load_Favorites},
 };
 
 Paths PathsWith(const Paths& paths, const std::string& users_path) {
@@ -65,14 +66,34 @@ bool UserWantsItReplaced(Program& program) {
   return program.platform.boxes.Show(box) == BoxAnswer::yes;
 }
 
-// Writes what is not there yet, or everything; false after the box of the first that fails.
+// What could not be read in the old folder is no data to write in the new one.
+bool WasNotRead(const Program& program, const UserFile& file) {
+  const KeptFile& kept = program.kept.*file.kept;
+  return !kept.truly_read && kept.path == file.path(program.paths, program.paths.UserName);
+}
+
+// Writes what is not there yet, or everything; false after the box of the first that fails. What
+// memory knows of the files is that of the old folder then.
 bool WriteUserFiles(Program& program, const Paths& there, bool replace) {
+  const KeptFiles before = program.kept;
   MakeUserFolders(there, there.UserName);
-  return std::ranges::all_of(kUserFiles, [&](const UserFile& file) {
+  const bool written = std::ranges::all_of(kUserFiles, [&](const UserFile& file) {
     const std::string path = file.path(there, there.UserName);
+    if (WasNotRead(program, file)) return true;
     if (replace) DeleteFileIfThere(path);
     return FileExists(path) || file.save(program, path);
   });
+  if (!written) program.kept = before;
+  return written;
+}
+
+// Takes over what was there already. Work that no file holds yet stays, and counts as unsaved.
+void ReadUserFiles(Program& program, const Paths& there) {
+  for (const UserFile& file : kUserFiles) {
+    const std::string path = file.path(there, there.UserName);
+    const KeptFile& kept = program.kept.*file.kept;
+    if (kept.path != path && !kept.unwritten) file.load(program, path);
+  }
 }
 
 // The open day is not in the new folder before it is saved there.
@@ -103,9 +124,7 @@ bool ChangeUsersFolder(Program& program, const std::string& users_path) {
     return false;
   }
   program.paths = there;
-  if (other_data && !replace) {
-    for (const UserFile& file : kUserFiles) file.load(program, file.path(there, there.UserName));
-  }
+  ReadUserFiles(program, there);
   TakeDayAlong(program, other_day && !replace);
   if (BrowserView* const browser = program.windows.browser) {
     browser->Refresh_GebruikersLijst();

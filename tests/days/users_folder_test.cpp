@@ -9,6 +9,7 @@
 #include "storage/day_file.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"
+#include "storage/kept_files.h"
 #include "storage/profile_file.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
@@ -163,8 +164,35 @@ TEST_F(ChangedUsersFolder, AFolderThatTakesNothingLeavesEverythingAsItWas) {
   EXPECT_EQ(program.paths.UsersPath, Here());
   EXPECT_EQ(program.paths.FilesPath, Here("Anna/Files/"));
   EXPECT_FALSE(program.day.FileChanged);
-  SaveDay(program);
+  // Nothing counts as unsaved, and every save goes to the old folder as before.
+  EXPECT_FALSE(HoldsUnwrittenWork(program));
+  EXPECT_TRUE(SaveDay(program));
+  EXPECT_TRUE(Save_Custom(program, CustomFile(program.paths, "Anna")));
   EXPECT_EQ(test.boxes.shown.size(), 1u);
+}
+
+// One that could not be read is empty in memory, and no such list goes anywhere.
+TEST_F(ChangedUsersFolder, AListThatWasNotReadIsNotWritten) {
+  fs::remove(CustomFile(program.paths, "Anna"));
+  fs::create_directory(CustomFile(program.paths, "Anna"));
+  program.store.Custom_list.Clear();
+  Load_Custom(program, CustomFile(program.paths, "Anna"));
+  EXPECT_TRUE(SaveWithFolder());
+  EXPECT_FALSE(fs::exists(There("Anna/Databases/Custom.dat")));
+  EXPECT_TRUE(FileExists(There("Anna/Databases/Favorites.dat")));
+}
+
+// What lies in the new folder was read there: the next save of a list has nothing to ask.
+TEST_F(ChangedUsersFolder, TheNextSaveOfAListAsksNothing) {
+  fs::create_directories(There());
+  fs::copy(Here("Anna"), There("Anna"), fs::copy_options::recursive);
+  EXPECT_TRUE(SaveWithFolder());
+  test.boxes.shown.clear();
+  program.store.Custom_list.Add(LineOf({.product = "Own bread"}));
+  EXPECT_TRUE(Save_Custom(program, CustomFile(program.paths, "Anna")));
+  EXPECT_TRUE(test.boxes.shown.empty());
+  EXPECT_EQ(ReadFile(There("Anna/Databases/Custom.dat")),
+            EncodeRecord(Rec_ListLine{{PackBlock(program.store.Custom_list)}}.strings));
 }
 
 TEST_F(ChangedUsersFolder, WithoutAUserOnlyThePathsFollow) {
