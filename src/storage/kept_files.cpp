@@ -80,11 +80,12 @@ bool IsUnwritten(const Program& program, const KeptKind& kind) {
   return kind.file != &KeptFiles::profile || kept.stored_profile != program.profile;
 }
 
+// True if the file of the current user's profile was there and is no more.
 bool ProfileHasGone(const Program& program) {
-  const KeptFile& kept = program.kept.profile;
+  const KeptFiles& kept = program.kept;
   const Text& user = program.paths.UserName;
-  return kept.truly_read && !kept.path.empty() && !user.empty() &&
-         program.profile[ProfileField::name] == user && !PathIsTaken(kept.path);
+  return kept.stored_profile && !user.empty() && program.profile[ProfileField::name] == user &&
+         IsNowhere(kept.profile.path);
 }
 
 void UpdateCommands(Program& program) {

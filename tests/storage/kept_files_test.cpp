@@ -280,5 +280,16 @@ TEST(KeptFiles, AMissingProfileIsWrittenAgainWithTheNextDay) {
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
+TEST(KeptFiles, AUserWhoNeverHadAProfileGetsNoneWithADay) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  Program& program = test.program;
+  const std::string path = ProfileFile(program.paths, "Anna");
+  program.profile[ProfileField::name] = "Anna";
+  Load_Profile(program, path);
+  EXPECT_TRUE(SaveDay(program));
+  EXPECT_FALSE(FileExists(path));
+}
+
 }  // namespace
 }  // namespace kelvora
