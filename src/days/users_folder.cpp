@@ -118,11 +118,7 @@ bool ChangeUsersFolder(Program& program, const std::string& users_path) {
   const bool other_data = OtherDataLiesThere(program, there);
   const bool other_day = OtherDayLiesThere(program, there);
   const bool replace = other_data && UserWantsItReplaced(program);
-  const KeptFiles kept = program.kept;
-  if (!WriteUserFiles(program, there, replace)) {
-    program.kept = kept;
-    return false;
-  }
+  if (!WriteUserFiles(program, there, replace)) return false;
   program.paths = there;
   ReadUserFiles(program, there);
   TakeDayAlong(program, other_day && !replace);
