@@ -27,7 +27,13 @@ from pathlib import Path
 from breaks import breaks_of, switched
 
 VARIABLE = "KELVORA_BROKEN_LINE"
-SWITCH = f"""#pragma once
+# What a broken line leaves unused or converts is no reason not to compile it.
+HARMLESS = ("unused-variable", "unused-function", "unused-parameter", "unused-but-set-variable",
+            "unused-value", "conversion", "float-conversion", "sign-compare", "type-limits",
+            "empty-body", "return-type", "div-by-zero", "tautological-compare", "bool-compare",
+            "int-in-bool-context", "parentheses", "logical-op", "array-bounds", "nonnull",
+            "unused-but-set-parameter", "maybe-uninitialized", "uninitialized", "switch")
+SWITCH = "".join(f'#pragma GCC diagnostic ignored "-W{name}"\n' for name in HARMLESS) + f"""
 #include <cstdlib>
 namespace kelvora_broken {{
 inline bool IsBroken(int number) {{
@@ -52,7 +58,8 @@ class Change:
     noticed_by: str = ""
 
     def __str__(self):
-        return f"{self.path}:{self.line}: {self.kind}\n  - {self.old.strip()}\n  + {self.new.strip()}"
+        place = f"{self.path}:{self.line}: {self.kind}"
+        return f"{place}\n  - {self.old.strip()}\n  + {self.new.strip()}"
 
 
 @dataclass
@@ -132,10 +139,16 @@ def drawn(root, folders, seed):
         yield Change(path, number, way.kind, line, way.line)
 
 
+def with_switch(project, lines):
+    """The lines with what they need before them; their numbers stay."""
+    switch = project.root / "broken_lines.h"
+    if not switch.exists():
+        switch.write_text(SWITCH)
+    return [f'#include "{switch}"\n#line 1\n' + lines[0], *lines[1:]]
+
+
 def write_switched(project, sound, changes):
     """Writes the files with every change in `changes` (by number) beside its sound line."""
-    switch = project.root / "broken_lines.h"
-    switch.write_text(SWITCH)
     for path, lines in sound.items():
         lines = list(lines)
         inside = False
@@ -144,9 +157,7 @@ def write_switched(project, sound, changes):
                 inside = True
                 lines[change.line - 1] = switched(
                     change.old, change.new, f"kelvora_broken::IsBroken({number})")
-        if inside:
-            lines[0] = f'#include "{switch}"\n#line 1\n' + lines[0]
-        project.write(path, lines)
+        project.write(path, with_switch(project, lines) if inside else lines)
 
 
 def build_switched(project, sound, changes):
@@ -203,7 +214,8 @@ def break_lines(project, folders, wanted, seed):
         if change is None:
             break
         lines = project.read(change.path)
-        project.write(change.path, lines[:change.line - 1] + [change.new] + lines[change.line:])
+        broken = lines[:change.line - 1] + [change.new] + lines[change.line:]
+        project.write(change.path, with_switch(project, broken))
         made, _ = project.made()
         if made:
             judge(project, change)
@@ -245,22 +257,34 @@ class KelvoraSteps:
                    "--gtest_fail_fast", "--gtest_brief=1"]
         return [self.known.setdefault(tuple(command), Step(command))]
 
+    def included(self, file):
+        """The headers of src/ that a test file includes, itself or through a header of the tests."""
+        found = set(re.findall(r'#include "([^"]+)"', file.read_text()))
+        for name in list(found):
+            if (helper := self.root / "tests" / name).is_file():
+                found |= set(re.findall(r'#include "([^"]+)"', helper.read_text()))
+        return found
+
     def __call__(self, path):
-        tests, folder = self.root / "tests", path.split("/")[1]
-        files = sorted((tests / folder).rglob("*_test.cpp"))
+        folder = path.split("/")[1]
         stem = re.sub(WINDOW, "", path).rsplit("/")[-1].removesuffix(".cpp")
-        near = [suite for file in files if file.name.startswith(stem) for suite in suites_of(file)]
-        all_here = [suite for file in files for suite in suites_of(file)]
-        windows = [suite for file in sorted((tests / "windows").glob("*_test.cpp"))
-                   if f'#include "{folder}/' in file.read_text() for suite in suites_of(file)]
-        shown = self.step("window_tests", windows)
+
+        def steps(program, files):
+            near = [file for file in files if file.name.startswith(stem)]
+            return [step for some in (near, files)
+                    for step in self.step(program, [s for file in some for s in suites_of(file)])]
+
+        tests = self.root / "tests"
+        shown = steps("window_tests",
+                      [file for file in sorted((tests / "windows").glob("*_test.cpp"))
+                       if any(name.startswith(f"{folder}/") for name in self.included(file))])
         if WINDOW.search(path):
             return shown
-        return self.step("logic_tests", near) + self.step("logic_tests", all_here) + shown
+        return steps("logic_tests", sorted((tests / folder).rglob("*_test.cpp"))) + shown
 
 
 def kelvora(checkout, work):
-    """A copy of the tree below `work`, built and seen to pass its tests."""
+    """A copy of the tree below `work`; its sound objects are those of the preset dev."""
     root = work / "tree"
     root.mkdir(parents=True, exist_ok=True)
     names = subprocess.run(["git", "ls-files"], cwd=checkout, text=True, check=True,
@@ -274,8 +298,9 @@ def kelvora(checkout, work):
         if not (checkout / old.relative_to(root)).exists():
             old.unlink()
     build = root / "build/broken"
-    subprocess.run(["cmake", "-S", root, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
-                    "-DBUILD_TESTING=ON", "--log-level=WARNING"], check=True)
+    subprocess.run(["cmake", "-S", root, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                    "-DKELVORA_WERROR=ON", "-DBUILD_TESTING=ON", "--log-level=WARNING"],
+                   check=True, stdout=subprocess.DEVNULL)
     steps = KelvoraSteps(root)
     return Project(root, ["cmake", "--build", build, "--target", "logic_tests", "window_tests",
                           "--", "-k0"], steps, {"QT_QPA_PLATFORM": "offscreen"})
@@ -300,7 +325,8 @@ def main():
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--folders", nargs="+",
                         default=["src/food", "src/days", "src/storage", "src/core"])
-    parser.add_argument("--work", type=Path, help="where the copy lies; a temporary folder if absent")
+    parser.add_argument("--work", type=Path,
+                        help="where the copy lies, and stays; a temporary folder if absent")
     options = parser.parse_args()
     checkout = Path(__file__).resolve().parent.parent
     with tempfile.TemporaryDirectory(prefix="break_lines_") as temporary:

@@ -38,7 +38,7 @@ NO_STATEMENT = re.compile(r"^(return|throw|case|default|delete|else|if|for|while
 
 
 def masked(line: str) -> str:
-    """The line with texts, characters, comments and includes blotted out, each letter in its place."""
+    """The line with texts, comments and includes blotted out, each letter in its place."""
     if line.lstrip().startswith("#"):
         return " " * len(line)
     blot = lambda found: "_" * len(found.group())  # noqa: E731
@@ -57,8 +57,8 @@ def closing(text: str, opening: int) -> int:
 
 
 def is_statement(body: str) -> bool:
-    """Whether a line is a statement of its own that is no declaration."""
-    if not STATEMENT.match(body) or NO_STATEMENT.match(body):
+    """Whether a line is a statement of its own, no declaration, and does more than save time."""
+    if not STATEMENT.match(body) or NO_STATEMENT.match(body) or ".reserve(" in body:
         return False
     depth = 0
     for letter in body:
@@ -72,7 +72,7 @@ def breaks_of(line: str) -> list[Break]:
     """Every way to break this line."""
     clean = masked(line)
     body = clean.strip()
-    if not body or body.startswith(("template", "using ", "namespace ", "static_assert", "public:")):
+    if not body or body.startswith(("template", "using ", "namespace ", "static_assert")):
         return []
     found = []
 
