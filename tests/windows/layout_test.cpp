@@ -121,6 +121,17 @@ class Looker {
         Fault(widget, "has a letter that leads nowhere");
       }
     }
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+      if (label->text().isEmpty() && label->pixmap(Qt::ReturnByValue).isNull() &&
+          !TellsOfData(*label)) {
+        Fault(widget, "is empty");
+      }
+    }
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
+      for (int i = 0; i < tabs->count(); ++i) {
+        if (tabs->tabText(i).isEmpty()) Fault(widget, "has a tab without a word");
+      }
+    }
     if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) {
       if (group->title().isEmpty()) Fault(widget, "has no title");
     }
@@ -136,6 +147,13 @@ class Looker {
         !HasBuddyLabel(root_, widget)) {
       Fault(widget, "has no name that is read aloud");
     }
+  }
+  // Hints, values and messages, of which there are none in these windows yet.
+  static bool TellsOfData(const QLabel& label) {
+    const QString name = label.objectName();
+    return (name.startsWith(QLatin1String("lbl_")) && name.endsWith(QLatin1String("info"))) ||
+           name.startsWith(QLatin1String("StatusBar_")) ||
+           name.startsWith(QLatin1String("lbl_pr")) || name == QLatin1String("loader");
   }
   // Of tabs their words are read, of a child window its title.
   static bool HasNameOfItsOwn(const QWidget& widget) {
@@ -266,14 +284,18 @@ TEST(WindowLayoutFaults, AreFound) {
   auto* const loose = new QLineEdit(&window);
   loose->setObjectName(QStringLiteral("loose"));
   loose->setAccessibleName(QStringLiteral("Name"));
+  auto* const label = new QLabel(&window);
+  label->setObjectName(QStringLiteral("label"));
+  layout->addWidget(label);
   window.resize(300, 200);
   window.show();
   QApplication::processEvents();
   loose->setGeometry(laid->geometry().translated(0, -10));
   const Looker looker(window);
-  EXPECT_EQ(looker.Faults(), (std::vector<std::string>{
-                                 "loose lies in no layout", "loose lies on laid",
-                                 "laid has no name that is read aloud", "group has no title"}));
+  EXPECT_EQ(looker.Faults(),
+            (std::vector<std::string>{"loose lies in no layout", "loose lies on laid",
+                                      "laid has no name that is read aloud", "group has no title",
+                                      "label is empty"}));
 }
 
 }  // namespace
