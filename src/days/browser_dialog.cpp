@@ -8,6 +8,7 @@
 
 #include "days/day_dialogs.h"
 #include "language/browse_texts.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -103,12 +104,13 @@ QWidget* BrowserDialog::BuildProfilePane() {
   NameWidget(profile_pane_, "profile_pane");
   auto* const grid = new QGridLayout(profile_pane_);
   grid->setContentsMargins(0, 6, 0, 0);
-  lbl_profile_of_ = NewLabel(profile_pane_, "lbl_profile_of");
+  // A stored value may be of any length.
+  lbl_profile_of_ = new LongLabel(profile_pane_, QStringLiteral("lbl_profile_of"));
   grid->addWidget(lbl_profile_of_, 0, 0, 1, 4);
   for (int i = 0; i < 6; ++i) {
     const auto place = static_cast<std::size_t>(i);
     captions_[place] = NewLabel(profile_pane_, QStringLiteral("lbl_pr_caption_%1").arg(i));
-    lbl_pr_[place] = NewLabel(profile_pane_, QStringLiteral("lbl_pr_%1").arg(i));
+    lbl_pr_[place] = new LongLabel(profile_pane_, QStringLiteral("lbl_pr_%1").arg(i));
     const int row = 1 + i % 3;
     const int column = i / 3 * 2;
     grid->addWidget(captions_[place], row, column);

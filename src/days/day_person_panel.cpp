@@ -27,6 +27,7 @@ constexpr int kHintColumn = 2;
 // The columns of both groups stand below each other.
 constexpr int kFieldWidth = 172;
 constexpr int kColumnSpacing = 12;
+constexpr int kGenderLetters = 12;
 
 QGroupBox* NewGroup(QWidget* parent, const char* name) {
   auto* const group = new QGroupBox(parent);
@@ -64,10 +65,13 @@ QGroupBox* DayPersonPanel::BuildPerson() {
   int row = 0;
   AddFieldRow(group, row++, DayFieldId::pg_0);
   pg_7_ = new ChoiceList(group, "pg_7");
+  // A stored word may be of any length.
+  pg_7_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  pg_7_->setMinimumContentsLength(kGenderLetters);
   AddCaption(GridOf(group), row, QStringLiteral("lbl_pg_7"), kGender)->setBuddy(pg_7_);
   GridOf(group)->addWidget(pg_7_, row++, kFieldColumn);
-  connect(pg_7_, &QComboBox::currentTextChanged, this,
-          [this](const QString& text) { form_.pg_7 = FromQt(text); });
+  connect(pg_7_, &QComboBox::currentIndexChanged, this,
+          [this] { form_.pg_7 = FromQt(pg_7_->currentData().toString()); });
   AddFieldRow(group, row++, DayFieldId::pg_8);
   lbl_lengteinfo_ = AddHint(GridOf(group), row, "lbl_lengteinfo");
   if (metric_) {
@@ -208,11 +212,11 @@ void DayPersonPanel::FocusWeight() {
 void DayPersonPanel::ShowGender() {
   const QSignalBlocker quiet(pg_7_);
   pg_7_->clear();
-  pg_7_->addItem(ToQt(program_.texts[kMale]));
-  pg_7_->addItem(ToQt(program_.texts[kFemale]));
-  const QString gender = ToQt(form_.pg_7);
-  if (!gender.isEmpty() && pg_7_->findText(gender) < 0) pg_7_->addItem(gender);
-  pg_7_->setCurrentIndex(pg_7_->findText(gender));
+  std::vector<Text> genders = {program_.texts[kMale], program_.texts[kFemale]};
+  const bool listed = std::ranges::find(genders, form_.pg_7) != genders.end();
+  if (!form_.pg_7.empty() && !listed) genders.push_back(form_.pg_7);
+  for (const Text& gender : genders) pg_7_->addItem(ToQt(gender), ToQtWhole(gender));
+  pg_7_->setCurrentIndex(pg_7_->findData(ToQtWhole(form_.pg_7)));
 }
 
 void DayPersonPanel::ShowHints() {

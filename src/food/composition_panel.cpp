@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "food/long_label_panel.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 
 namespace kelvora {

@@ -1,6 +1,5 @@
 #include "food/consumption.h"
 
-#include <algorithm>
 #include <unordered_set>
 
 #include "core/common.h"
@@ -83,14 +82,6 @@ const Text& CellOf(const ConsumptionRow& row, std::size_t column) {
                                  &ConsumptionRow::product, &ConsumptionRow::unit,
                                  &ConsumptionRow::weight,  &ConsumptionRow::nutrient};
   return row.*kCells[column];
-}
-
-Text ShownCellOf(const ConsumptionRow& row, std::size_t column) {
-  constexpr std::size_t kMostShown = 500;
-  Text shown = CellOf(row, column).substr(0, kMostShown);
-  std::ranges::replace_if(
-      shown, [](char c) { return c >= 0 && c < ' '; }, ' ');
-  return shown;
 }
 
 std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {

@@ -29,9 +29,6 @@ struct ConsumptionRow {
 inline constexpr std::size_t kConsumptionColumns = 6;
 [[nodiscard]] const Text& CellOf(const ConsumptionRow& row, std::size_t column);
 
-// A cell as it is drawn: on one line, and no longer than anybody can read.
-[[nodiscard]] Text ShownCellOf(const ConsumptionRow& row, std::size_t column);
-
 // The rows of a day part, in the order of first appearance. Fills `Dupe_list` on the way. An amount
 // that no number can hold has an empty cell.
 [[nodiscard]] std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part);

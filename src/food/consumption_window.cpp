@@ -206,7 +206,7 @@ void ConsumptionWindow::Refresh_Consumpties() {
   const int current = LV_consumpties_->currentIndex().row();
   LV_consumpties_->Model().Show(std::move(columns), rows_->size(),
                                 [rows = rows_](std::size_t row, std::size_t column) {
-                                  return ShownCellOf((*rows)[row], column);
+                                  return CellOf((*rows)[row], column);
                                 });
   const auto to_select = RowsToSelect(program_, part_, *rows_);
   if (to_select.empty() && current >= 0 && !rows_->empty()) {

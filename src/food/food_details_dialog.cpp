@@ -9,10 +9,10 @@
 #include <QVBoxLayout>
 
 #include "food/composition_panel.h"
-#include "food/long_label_panel.h"
 #include "food/number_box_panel.h"
 #include "language/food_details_texts.h"
 #include "platform/qt/hint_label.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 

@@ -96,7 +96,7 @@ void FoodTable::startDrag(Qt::DropActions) {
   const Text payload = drag_payload ? drag_payload(SelectedRows()) : Text();
   if (payload.empty()) return;
   auto* const data = new QMimeData;  // the drag owns it
-  data->setText(ToQt(payload));
+  data->setText(ToQtWhole(payload));
   auto* const drag = new QDrag(this);  // the event loop of the drag owns it
   drag->setMimeData(data);
   drag->setPixmap(IconNamed("food-row").pixmap(24, 24));
@@ -110,7 +110,8 @@ void FoodTable::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 bool FoodTable::Takes(const QMimeData* data) const {
-  if (!data->hasText()) return false;
+  // What text can't hold is no drag of this program, and would become something else here.
+  if (!data->hasText() || !TextHolds(data->text())) return false;
   const Text payload = FromQt(data->text());
   return takes ? takes(payload) : IsDragText(payload);
 }

@@ -28,7 +28,7 @@ constexpr std::array kMoves = {
 
 CutFoods FoodsOnClipboard() {
   const QMimeData* const data = QApplication::clipboard()->mimeData();
-  if (data == nullptr) return {};
+  if (data == nullptr || !TextHolds(data->text())) return {};
   return {FromQt(data->text()), data->data(QLatin1String(kOriginFormat)).toStdString()};
 }
 
@@ -105,7 +105,7 @@ void RowMenu::Cut() {
   if (names.Empty()) return;
   const CutFoods cut = CutFromDayPart(program_, part_, names);
   auto* const data = new QMimeData;  // the clipboard owns it
-  data->setText(ToQt(cut.payload));
+  data->setText(ToQtWhole(cut.payload));
   data->setData(QLatin1String(kOriginFormat), QByteArray::fromStdString(cut.origin));
   QApplication::clipboard()->setMimeData(data);
 }

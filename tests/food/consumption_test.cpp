@@ -256,16 +256,6 @@ TEST_F(Consumption, AnAmountThatNoNumberHoldsLeavesItsCellEmpty) {
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
-TEST_F(Consumption, ACellIsDrawnOnOneLineAndNoLongerThanAnybodyReads) {
-  const Text name = "a\r\nb\tc" + Text(600, 'n');
-  ConsumptionRow row;
-  row.product = name;
-  EXPECT_EQ(CellOf(row, 2), name);
-  EXPECT_EQ(ShownCellOf(row, 2), "a  b c" + Text(494, 'n'));
-  row.product = "Cr\xE8me";
-  EXPECT_EQ(ShownCellOf(row, 2), row.product);
-}
-
 TEST_F(Consumption, TheLastColumnIsPrintedByThePatternOfItsNutrient) {
   store.L_avond.Add(LineOf({.product = "A", .kj = "1.5", .kcal = "0.4", .protein = "0,5"}));
   for (const auto& [priority, expected] :

@@ -92,7 +92,7 @@ class ConsumptionWindows : public testing::Test {
   }
   bool DropText(DayPart part, const Text& text) {
     QMimeData data;
-    data.setText(ToQt(text));
+    data.setText(ToQtWhole(text));
     return Drop(part, data);
   }
 

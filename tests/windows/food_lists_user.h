@@ -97,7 +97,7 @@ class FoodListsWindowTest : public testing::Test {
   }
   static bool Drop(FoodTable* list, const Text& text) {
     QMimeData data;
-    data.setText(ToQt(text));
+    data.setText(ToQtWhole(text));
     return Drop(list, data);
   }
   void RightClick(FoodTable* list, int row) {

@@ -72,7 +72,7 @@ class ProgramWindows : public testing::Test {
   // Drops text on a list the way the desktop does.
   void Drop(FoodTable* list, const Text& text) {
     QMimeData data;
-    data.setText(ToQt(text));
+    data.setText(ToQtWhole(text));
     const QPointF middle = list->viewport()->rect().center();
     QDragEnterEvent enter(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(list->viewport(), &enter);

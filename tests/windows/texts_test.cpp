@@ -3,19 +3,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMdiSubWindow>
-#include <QMenu>
 #include <QRegularExpression>
-#include <QStatusBar>
-#include <QTabBar>
-#include <QTableView>
 #include <QTest>
 
 #include "core/frame/arrangement.h"
@@ -35,6 +24,7 @@
 #include "storage/folders.h"
 #include "storage/profile_file.h"
 #include "support/test_program.h"
+#include "windows/shown_texts.h"
 
 namespace kelvora {
 namespace {
@@ -70,11 +60,6 @@ QString Foreign(QString text, const char* token) {
 constexpr const char* kSquare = "[a-z_]+\\[\\d+\\]";
 constexpr const char* kCurly = "[a-z_]+\\{\\d+\\}";
 
-struct Shown {
-  QString where;
-  QString text;
-};
-
 // The words that a window writes around a number by itself, as it is meant to.
 bool IsUnitOfATotal(const Shown& shown) {
   static const std::set<QString> kUnits = {QStringLiteral("KjKcal"), QStringLiteral("g")};
@@ -87,60 +72,6 @@ bool IsShareOfABar(const Shown& shown) {
 }
 bool IsNameOfTheProgram(const Shown& shown) {
   return shown.text.startsWith(QStringLiteral("Kelvora FOOD"));
-}
-
-// Everything that can be read on a widget, its tips and the names that are read aloud included.
-void CollectTexts(const QWidget& widget, std::vector<Shown>& shown) {
-  const auto add = [&](const QString& text) {
-    if (!text.isEmpty()) shown.push_back({widget.objectName(), text});
-  };
-  // The menu of a child window's frame and the arrows of a tab strip that is too long are Qt's own,
-  // in English or Dutch.
-  if (qobject_cast<const QTabBar*>(widget.parentWidget()) != nullptr) return;
-  if (qobject_cast<const QMenu*>(&widget) != nullptr &&
-      qobject_cast<const QMdiSubWindow*>(widget.parentWidget()) != nullptr) {
-    return;
-  }
-  add(widget.windowTitle());
-  add(widget.toolTip());
-  add(widget.statusTip());
-  add(widget.accessibleName());
-  add(widget.accessibleDescription());
-  if (const auto* label = qobject_cast<const QLabel*>(&widget)) add(label->text());
-  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) add(button->text());
-  if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) add(group->title());
-  if (const auto* menu = qobject_cast<const QMenu*>(&widget)) add(menu->title());
-  if (const auto* bar = qobject_cast<const QStatusBar*>(&widget)) add(bar->currentMessage());
-  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) add(edit->placeholderText());
-  if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
-    for (int i = 0; i < tabs->count(); ++i) {
-      add(tabs->tabText(i));
-      add(tabs->tabToolTip(i));
-    }
-  }
-  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-    add(combo->placeholderText());
-    // The names of files and printers are data.
-    if (combo->objectName() == QStringLiteral("Combo_taal")) return;
-    for (int i = 0; i < combo->count(); ++i) add(combo->itemText(i));
-  }
-  if (const auto* table = qobject_cast<const QTableView*>(&widget); table && table->model()) {
-    for (int i = 0; i < table->model()->columnCount(); ++i) {
-      add(table->model()->headerData(i, Qt::Horizontal).toString());
-    }
-  }
-  if (qobject_cast<const QMdiSubWindow*>(&widget) != nullptr) return;
-  for (const QAction* action : widget.actions()) {
-    add(action->text());
-    add(action->toolTip());
-  }
-}
-
-std::vector<Shown> AllTexts(const QWidget& root) {
-  std::vector<Shown> shown;
-  CollectTexts(root, shown);
-  for (const QWidget* widget : root.findChildren<QWidget*>()) CollectTexts(*widget, shown);
-  return shown;
 }
 
 // Each text is made of table entries and numbers; returns how many were looked at.

@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QWidget>
 
+#include "platform/qt/cell_tips.h"
 #include "platform/qt/text.h"
 
 // Outside of any namespace, as the macro wants. A static library's resources register only when
@@ -48,6 +49,7 @@ void MakeRowList(QTableView* table) {
   table->setCornerButtonEnabled(false);
   table->setTabKeyNavigation(false);
   table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  table->setItemDelegate(new CellTips(table));  // the table owns it
   table->verticalHeader()->hide();
   table->verticalHeader()->setDefaultSectionSize(RowHeight(*table));
   table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -28,7 +28,7 @@ void NameWidget(QWidget* widget, const char* object_name);
 [[nodiscard]] int RowHeight(const QWidget& widget);
 
 // Makes a table a list of rows: whole rows, several at once, nothing typed, striped, as high as
-// RowHeight, with a heading that follows no selection.
+// RowHeight, with a heading that follows no selection and tips for cells that are cut.
 void MakeRowList(QTableView* table);
 
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.

@@ -98,7 +98,7 @@ BoxAnswer QtBoxes::Show(const Box& box) {
   window.setObjectName(QStringLiteral("message_box"));
   window.setWindowTitle(ToQt(box.title));
   window.setTextFormat(Qt::PlainText);
-  window.setText(ToQt(box.text));
+  window.setText(ToQtMessage(box.text));
   window.setIcon(IconOf(box.icon));
   window.setStandardButtons(ButtonsOf(box.buttons));
   window.setDefaultButton(SafeButtonOf(box.buttons));

@@ -36,8 +36,7 @@ QVariant TextTableModel::data(const QModelIndex& index, int role) const {
   const auto column = static_cast<std::size_t>(index.column());
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
-      return Guarded([&] { return ToQt(cell_(row, column)); });
+      return Guarded([&] { return ToQtCell(cell_(row, column)); });
     case Qt::TextAlignmentRole:
       return QVariant(columns_[column].alignment | Qt::AlignVCenter);
     case Qt::DecorationRole:

@@ -1,9 +1,11 @@
-#include "food/long_label_panel.h"
+#include "platform/qt/long_label.h"
 
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QToolTip>
+
+#include "platform/qt/cell_tips.h"
 
 namespace kelvora {
 
@@ -29,9 +31,7 @@ void LongLabel::paintEvent(QPaintEvent*) {
 
 bool LongLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || Fitting() == text()) return QLabel::event(event);
-  // A plain text, whatever it looks like; wrapped, as long as it may be.
-  const QString whole = QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped());
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole, this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), PlainTip(text()), this);
   return true;
 }
 

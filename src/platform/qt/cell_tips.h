@@ -1,0 +1,26 @@
+// Draws the cells of a list, and tells the whole text of one that is cut as its tip. A cell that
+// shows all it has leaves the pointer to the tip of the list itself.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace kelvora {
+
+class CellTips : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+
+ private:
+  [[nodiscard]] bool IsCut(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+};
+
+// The tip that shows a text as it is, whatever it looks like, in ten lines at the most.
+[[nodiscard]] QString PlainTip(const QString& text);
+
+}  // namespace kelvora

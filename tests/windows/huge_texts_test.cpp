@@ -1,0 +1,160 @@
+// Texts of a million characters in days, foods and profiles. What a window draws of them is
+// bounded, so that its time and memory are.
+#include <gtest/gtest.h>
+
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include "core/drawn_text.h"
+#include "core/frame/arrangement.h"
+#include "core/frame/data_window.h"
+#include "core/frame/main_window.h"
+#include "days/browser_dialog.h"
+#include "days/day_settings_dialog.h"
+#include "food/food_details_dialog.h"
+#include "platform/qt/qt_platform.h"
+#include "storage/day_file.h"
+#include "storage/folders.h"
+#include "storage/profile_file.h"
+#include "support/test_program.h"
+#include "windows/find_in.h"
+#include "windows/shown_texts.h"
+
+namespace kelvora {
+namespace {
+
+constexpr qsizetype kMost = kDrawnCharacters;
+
+// The longest of all texts that a window draws: words, cells and names of list entries.
+struct Longest {
+  QString where;
+  qsizetype size = 0;
+  int cells = 0;  // that were looked at
+
+  void Look(const QString& place, const QString& text) {
+    if (text.size() > size) *this = {place, text.size(), cells};
+  }
+};
+
+void LookAtModel(const QAbstractItemModel& model, const QString& name, Longest& longest) {
+  for (int row = 0; row < model.rowCount(); ++row) {
+    for (int column = 0; column < model.columnCount(); ++column) {
+      for (const int role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::AccessibleTextRole}) {
+        longest.Look(name, model.index(row, column).data(role).toString());
+      }
+      ++longest.cells;
+    }
+  }
+}
+
+Longest LongestIn(const QWidget& window) {
+  Longest longest;
+  for (const Shown& shown : AllTexts(window)) longest.Look(shown.where, shown.text);
+  for (const auto* view : window.findChildren<QAbstractItemView*>()) {
+    if (view->model() != nullptr) LookAtModel(*view->model(), view->objectName(), longest);
+  }
+  return longest;
+}
+
+class HugeTexts : public testing::Test {
+ protected:
+  HugeTexts() {
+    for (Text& field : food) field = huge;
+    Text line;
+    for (const Text& field : food) line += field + "\xBD";
+    test.OpenDay("Anna");
+    Program& program = test.program;
+    for (std::size_t row = 1; row < program.store.L_gegevens.Count(); ++row) {
+      // What is no number is no height, and fails where one is divided by.
+      if (row != HeaderRow::kHeight) program.store.L_gegevens.Replace(row, huge);
+    }
+    program.store.L_ochtend.Add(line);
+    program.store.Default_list.Add(line);
+    program.store.Custom_list.Add(line);
+    for (std::size_t i = 0; i < kProfileFieldsInUse; ++i) {
+      program.profile[static_cast<ProfileField>(i)] = huge;
+    }
+    program.profile[ProfileField::name] = "Anna";
+    SetCurrentUser(program, "Anna");
+    SaveDay(program);
+    Save_Profile(program, ProfileFile(program.paths, "Anna"));
+    EXPECT_TRUE(test.boxes.shown.empty());
+  }
+
+  void ExpectBounded(const QWidget& window, int least_cells) {
+    const Longest longest = LongestIn(window);
+    EXPECT_LE(longest.size, kMost) << longest.where.toStdString();
+    EXPECT_GE(longest.cells, least_cells);
+    EXPECT_LE(window.width(), 1024) << window.objectName().toStdString();
+    EXPECT_LE(window.minimumSizeHint().width(), 1024) << window.objectName().toStdString();
+  }
+
+  const Text huge = Text(1'000'000, 'w');
+  std::array<Text, 12> food;
+  TestProgram test;
+};
+
+TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
+  MainWindow window(test.program);
+  window.resize(1024, 748);
+  window.show();
+  ApplyChosenArrangement(test.program);
+  window.UpdateStatusBar();
+  QApplication::processEvents();
+  ExpectBounded(window, 3 * 10);
+}
+
+TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {
+  BrowserDialog browser(test.program, nullptr);
+  browser.Open();
+  browser.show();
+  QApplication::processEvents();
+  ExpectBounded(browser, 8);
+  for (const auto mode : {DayDialogMode::new_day, DayDialogMode::day_settings}) {
+    test.program.day.DayDialogMode = mode;
+    DaySettingsDialog settings(test.program, nullptr);
+    settings.show();
+    QApplication::processEvents();
+    ExpectBounded(settings, 0);
+  }
+  DataWindow data(test.program, nullptr);
+  data.show();
+  ExpectBounded(data, 20);
+}
+
+TEST_F(HugeTexts, AreDrawnInPartByTheDetailsOfAFoodWhichCantBeEdited) {
+  FoodDetailsDialog details(test.program, "zoeken", test.program.store.Default_list[0], nullptr);
+  details.show();
+  QApplication::processEvents();
+  ExpectBounded(details, 0);
+}
+
+TEST_F(HugeTexts, AreDrawnInPartByAMessage) {
+  QString shown, title;
+  QTimer::singleShot(0, [&] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    shown = box->text();
+    title = box->windowTitle();
+    box->accept();
+  });
+  QtBoxes().Show({.title = huge, .text = "Remove " + huge + "?"});
+  EXPECT_EQ(shown.size(), kMost);
+  EXPECT_TRUE(shown.startsWith("Remove w") && shown.endsWith("w?"));
+  EXPECT_EQ(title.size(), kMost);
+}
+
+// A cell that draws everything is what these tests are there to find.
+TEST(HugeTextsInAList, AreFound) {
+  QWidget window;
+  QListWidget list(&window);
+  list.addItem(QString(kMost + 1, 'a'));
+  EXPECT_EQ(LongestIn(window).size, kMost + 1);
+  QLabel label(QString(kMost + 2, 'a'), &window);
+  EXPECT_EQ(LongestIn(window).size, kMost + 2);
+}
+
+}  // namespace
+}  // namespace kelvora
