@@ -4,8 +4,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSignalBlocker>
-#include <QTextCursor>
 
 #include "language/day_settings_texts.h"
 #include "platform/qt/look.h"
@@ -20,14 +18,6 @@ constexpr std::array kAddressFields = {
     DayFieldId::pg_1,  DayFieldId::pg_2,  DayFieldId::pg_3,  DayFieldId::pg_4,
     DayFieldId::pg_15, DayFieldId::pg_12, DayFieldId::pg_13,
 };
-
-// What the box holds, blanks of every kind as they are and each line break as "\n".
-QString TextIn(const QPlainTextEdit& box) {
-  return box.document()
-      ->toRawText()
-      .replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
-      .replace(QChar::LineSeparator, QLatin1Char('\n'));
-}
 
 }  // namespace
 
@@ -62,10 +52,10 @@ QGroupBox* DayAddressPanel::BuildAddress() {
 QGroupBox* DayAddressPanel::BuildRemarks() {
   auto* const group = new QGroupBox(this);
   NameWidget(group, "frame_remarks");
-  pg_14_ = new QPlainTextEdit(group);
-  NameWidget(pg_14_, "pg_14");
+  pg_14_ = new TextArea(group, QStringLiteral("pg_14"), EntryContextOf(program_),
+                        EntryRuleOf(DayFieldId::pg_14));
   pg_14_->setTabChangesFocus(true);
-  connect(pg_14_, &QPlainTextEdit::textChanged, this, &DayAddressPanel::TakeRemarks);
+  connect(pg_14_, &TextArea::Edited, this, &DayAddressPanel::TakeRemarks);
   auto* const layout = new QHBoxLayout(group);
   layout->addWidget(pg_14_);
   return group;
@@ -84,8 +74,7 @@ void DayAddressPanel::Set_Taal() {
 
 void DayAddressPanel::ShowForm() {
   for (const auto& [caption, box] : rows_) box->ShowForm();
-  const QSignalBlocker quiet(pg_14_);
-  pg_14_->setPlainText(ToQt(form_.pg_14.substr(0, FieldOfId(DayFieldId::pg_14).limit)));
+  pg_14_->ShowText(form_.pg_14.substr(0, FieldOfId(DayFieldId::pg_14).limit));
 }
 
 void DayAddressPanel::TakeForm() {
@@ -93,22 +82,7 @@ void DayAddressPanel::TakeForm() {
 }
 
 void DayAddressPanel::TakeRemarks() {
-  HoldRemarks();
-  TakeField(program_, form_, DayFieldId::pg_14, FromQt(TextIn(*pg_14_)));
-}
-
-void DayAddressPanel::HoldRemarks() {
-  const QString text = TextIn(*pg_14_);
-  const int place = pg_14_->textCursor().position();
-  const HeldText held =
-      HoldToField(FieldOfId(DayFieldId::pg_14), FromQt(text.left(place)), FromQt(text.mid(place)),
-                  program_.platform.locale.DecimalSeparator());
-  if (ToQt(held.text) == text) return;
-  const QSignalBlocker quiet(pg_14_);
-  pg_14_->setPlainText(ToQt(held.text));
-  QTextCursor cursor = pg_14_->textCursor();
-  cursor.setPosition(static_cast<int>(held.cursor));
-  pg_14_->setTextCursor(cursor);
+  TakeField(program_, form_, DayFieldId::pg_14, pg_14_->Entered());
 }
 
 }  // namespace kelvora

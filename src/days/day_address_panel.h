@@ -3,10 +3,10 @@
 
 #include <vector>
 
-#include <QPlainTextEdit>
 #include <QWidget>
 
 #include "days/day_field_panel.h"
+#include "platform/qt/text_area.h"
 
 class QGroupBox;
 class QLabel;
@@ -32,14 +32,13 @@ class DayAddressPanel : public QWidget {
   QGroupBox* BuildAddress();
   QGroupBox* BuildRemarks();
   void TakeRemarks();
-  void HoldRemarks();
 
   Program& program_;
   DayForm& form_;
   std::vector<Row> rows_;
   QGroupBox* address_;
   QGroupBox* remarks_;
-  QPlainTextEdit* pg_14_;
+  TextArea* pg_14_;
 };
 
 }  // namespace kelvora

@@ -15,20 +15,19 @@ bool IsPartOfDate(DayFieldId id) {
 }  // namespace
 
 DayFieldBox::DayFieldBox(Program& program, DayForm& form, DayFieldId id, QWidget* parent)
-    : QLineEdit(parent), program_(program), form_(form), id_(id) {
+    : TextBox(parent, ToQt(FieldOfId(id).name), EntryContextOf(program), EntryRuleOf(id)),
+      program_(program),
+      form_(form),
+      id_(id) {
   const DayField& field = FieldOfId(id);
-  setObjectName(ToQt(field.name));
-  if (field.filter == KeyFilter::none) {
-    setMaxLength(static_cast<int>(field.limit));
-  } else {
-    setAlignment(Qt::AlignRight);
-  }
+  if (field.filter != KeyFilter::none) setAlignment(Qt::AlignRight);
   if (field.limit <= kShortLimit) {
     // Room for the widest letters, the frame and the cursor.
     const int letters = static_cast<int>(field.limit) + 2;
     setFixedWidth(letters * fontMetrics().horizontalAdvance(QLatin1Char('0')) + 12);
   }
-  connect(this, &QLineEdit::textEdited, this, &DayFieldBox::HoldTyping);
+  // The date beside the boxes follows every key.
+  if (IsPartOfDate(id)) connect(this, &QLineEdit::textEdited, this, &DayFieldBox::TakeForm);
   connect(this, &QLineEdit::editingFinished, this, &DayFieldBox::TakeForm);
 }
 
@@ -44,28 +43,16 @@ void DayFieldBox::Set_Taal() {
 
 void DayFieldBox::ShowForm() {
   const DayField& field = FieldOfId(id_);
-  setText(ToQt((form_.*field.part).substr(0, field.limit)));
+  ShowText((form_.*field.part).substr(0, field.limit));
 }
 
 void DayFieldBox::TakeForm() {
   const DayForm before = form_;
-  TakeField(program_, form_, id_, FromQt(text()));
+  const Text entered = Entered();
+  TakeField(program_, form_, id_, entered);
   // Inches can be cleared.
-  if (ToQt((form_.*FieldOfId(id_).part)).left(text().size()) != text()) ShowForm();
+  if (!(form_.*FieldOfId(id_).part).starts_with(entered)) ShowForm();
   if (form_ != before) emit Taken();
-}
-
-void DayFieldBox::HoldTyping() {
-  const int cursor = cursorPosition();
-  const HeldText held =
-      HoldToField(FieldOfId(id_), FromQt(text().left(cursor)), FromQt(text().mid(cursor)),
-                  program_.platform.locale.DecimalSeparator());
-  if (ToQt(held.text) != text()) {
-    setText(ToQt(held.text));
-    setCursorPosition(static_cast<int>(held.cursor));
-  }
-  // The date beside the boxes follows every key.
-  if (IsPartOfDate(id_)) TakeForm();
 }
 
 }  // namespace kelvora

@@ -2,13 +2,12 @@
 // pasted through the field's filter and limit, and takes it into the form when it is left.
 #pragma once
 
-#include <QLineEdit>
-
 #include "days/day_form.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 
-class DayFieldBox : public QLineEdit {
+class DayFieldBox : public TextBox {
   Q_OBJECT
 
  public:
@@ -26,8 +25,6 @@ class DayFieldBox : public QLineEdit {
   void Taken();
 
  private:
-  void HoldTyping();
-
   Program& program_;
   DayForm& form_;
   DayFieldId id_;

@@ -71,12 +71,9 @@ const DayField& FieldOfId(DayFieldId id) {
   return kFields[static_cast<std::size_t>(id)];
 }
 
-HeldText HoldToField(const DayField& field, std::string_view before_cursor,
-                     std::string_view behind_cursor, std::string_view separator) {
-  const Text behind = ApplyKeyFilter(field.filter, behind_cursor, separator).substr(0, field.limit);
-  const Text before =
-      ApplyKeyFilter(field.filter, before_cursor, separator).substr(0, field.limit - behind.size());
-  return {before + behind, before.size()};
+EntryRule EntryRuleOf(DayFieldId id) {
+  const DayField& field = FieldOfId(id);
+  return {field.filter, field.limit, id == DayFieldId::pg_14};
 }
 
 void FillBoxes(Program& program, DayForm& form) {

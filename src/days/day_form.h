@@ -8,8 +8,8 @@
 #include <span>
 #include <string_view>
 
-#include "core/key_filter.h"
 #include "core/program.h"
+#include "core/text_entry.h"
 
 namespace kelvora {
 
@@ -73,18 +73,8 @@ inline constexpr std::size_t kDayFieldCount = 19;
 [[nodiscard]] std::span<const DayField, kDayFieldCount> DayFields();
 [[nodiscard]] const DayField& FieldOfId(DayFieldId id);
 
-// A box's text as it may stand, and the place of the cursor in it.
-struct HeldText {
-  Text text;
-  std::size_t cursor;
-
-  bool operator==(const HeldText&) const = default;
-};
-
-// Holds a text to the filter and the limit of its box. The cursor stands behind what was typed or
-// pasted last; of that, what has no room is dropped, so that a paste leaves what typing would.
-[[nodiscard]] HeldText HoldToField(const DayField& field, std::string_view before_cursor,
-                                   std::string_view behind_cursor, std::string_view separator);
+// What the box of a field takes.
+[[nodiscard]] EntryRule EntryRuleOf(DayFieldId id);
 
 // Fills the boxes of height and weights from the metric values.
 void FillBoxes(Program& program, DayForm& form);

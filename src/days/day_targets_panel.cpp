@@ -6,7 +6,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -16,6 +15,7 @@
 #include "platform/qt/choice_list.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 namespace {
@@ -86,9 +86,8 @@ QGroupBox* DayTargetsPanel::BuildTargets() {
   return group;
 }
 
-QLineEdit* DayTargetsPanel::MakeBox(QGroupBox* group, std::string_view name) {
-  auto* const box = new QLineEdit(group);
-  box->setObjectName(ToQt(name));
+TextBox* DayTargetsPanel::MakeBox(QGroupBox* group, std::string_view name) {
+  auto* const box = new TextBox(group, ToQt(name), EntryContextOf(program_));
   box->setReadOnly(true);
   box->setFocusPolicy(Qt::NoFocus);
   box->setAlignment(Qt::AlignRight);
@@ -109,7 +108,7 @@ void DayTargetsPanel::AddSliderRow(QGroupBox* group, Target target) {
           [this, target](int position) { TakeSlider(target, position); });
   QLabel* const caption = NewLabel(group, QStringLiteral("lbl_") + slider->objectName());
   caption->setBuddy(slider);
-  QLineEdit* const box = MakeBox(group, range.box_name);
+  TextBox* const box = MakeBox(group, range.box_name);
   QLabel* const unit = NewLabel(group, box->objectName() + QStringLiteral("_unit"));
   auto* const grid = static_cast<QGridLayout*>(group->layout());
   int column = 0;
@@ -188,9 +187,9 @@ void DayTargetsPanel::ShowBoxes() {
     const auto index = static_cast<std::size_t>(target);
     const QSignalBlocker quiet(rows_[index].slider);
     rows_[index].slider->setValue(PositionOf(form, target));
-    rows_[index].box->setText(ToQt(form.*TargetSliders()[index].box));
+    rows_[index].box->ShowText(form.*TargetSliders()[index].box);
   }
-  txt_kcal_->setText(ToQt(form.txt_kcal));
+  txt_kcal_->ShowText(form.txt_kcal);
 }
 
 }  // namespace kelvora

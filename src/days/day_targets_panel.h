@@ -15,10 +15,11 @@ class QComboBox;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
-class QLineEdit;
 class QSlider;
 
 namespace kelvora {
+
+class TextBox;
 
 class DayTargetsPanel : public QWidget {
   Q_OBJECT
@@ -33,13 +34,13 @@ class DayTargetsPanel : public QWidget {
   struct Row {
     QLabel* caption;
     QSlider* slider;
-    QLineEdit* box;
+    TextBox* box;
     QLabel* unit;
   };
 
   QGroupBox* BuildPriority();
   QGroupBox* BuildTargets();
-  QLineEdit* MakeBox(QGroupBox* group, std::string_view name);
+  TextBox* MakeBox(QGroupBox* group, std::string_view name);
   void AddSliderRow(QGroupBox* group, Target target);
   void TakeSlider(Target target, int position);
   void TakeAgeGroup(int index);
@@ -52,7 +53,7 @@ class DayTargetsPanel : public QWidget {
   QButtonGroup* type_prioriteit_;
   QGroupBox* targets_;
   std::array<Row, kTargetCount> rows_{};
-  QLineEdit* txt_kcal_;
+  TextBox* txt_kcal_;
   QLabel* kcal_unit_;
   QLabel* lbl_default_;
   QComboBox* Combo_default_;

@@ -15,6 +15,7 @@
 #include "platform/qt/choice_list.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 namespace {
@@ -137,8 +138,7 @@ void SettingsDialog::BuildFolder(QVBoxLayout* page) {
   QGroupBox* const group = AddGroup(page, kGroupFolder);
   AddTick(group, "chk_map", &SettingsForm::chk_map, kOtherFolder, kTipOtherFolder);
   group->layout()->addWidget(MakeCaption(group, "lbl_folder", kFolder));
-  txt_map_ = new QLineEdit(group);
-  NameWidget(txt_map_, "txt_map");
+  txt_map_ = new TextBox(group, QStringLiteral("txt_map"), EntryContextOf(program_));
   txt_map_->setReadOnly(true);
   captions_.push_back({txt_map_, "accessibleName", kFolder, kFolder});
   cmd_browse_ = MakeButton(group, "cmd_browse", kBrowse, kFolder);
@@ -312,7 +312,7 @@ void SettingsDialog::ShowForm() {
     const QSignalBlocker quiet(button);
     if (form_.*value == number) button->setChecked(true);
   }
-  txt_map_->setText(ToQt(form_.txt_map));
+  txt_map_->ShowText(form_.txt_map);
   const EnabledControls enabled = EnabledIn(form_);
   cmd_browse_->setEnabled(enabled.cmd_browse);
   for (const auto& [box, value] : ticks_) {

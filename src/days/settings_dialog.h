@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -22,6 +21,8 @@ class QLabel;
 class QVBoxLayout;
 
 namespace kelvora {
+
+class TextBox;
 
 class SettingsDialog : public QDialog, public WindowView {
   Q_OBJECT
@@ -83,7 +84,7 @@ class SettingsDialog : public QDialog, public WindowView {
   QTabWidget* TabStrip1_;
   QComboBox* Combo_taal_;
   QComboBox* combo_printer_;
-  QLineEdit* txt_map_;
+  TextBox* txt_map_;
   QPushButton* cmd_browse_;
 };
 

@@ -17,16 +17,14 @@ constexpr int kButtonMargin = 24;
 
 }  // namespace
 
-CombinePanel::CombinePanel(QWidget* parent) : QWidget(parent) {
+CombinePanel::CombinePanel(const EntryContext& entry, QWidget* parent) : QWidget(parent) {
   NameWidget(this, "Pic_SP");
   UseSmallLetters(this);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   txt_8_ = NewLabel(this, QStringLiteral("txt_8"));
-  txt_nfo_8_ = new QLineEdit(this);
-  NameWidget(txt_nfo_8_, "txt_nfo_8");
+  txt_nfo_8_ = new TextBox(this, QStringLiteral("txt_nfo_8"), entry);
   txt_7_ = NewLabel(this, QStringLiteral("txt_7"));
-  txt_nfo_7_ = new QLineEdit(this);
-  NameWidget(txt_nfo_7_, "txt_nfo_7");
+  txt_nfo_7_ = new TextBox(this, QStringLiteral("txt_nfo_7"), entry);
   txt_nfo_7_->setFixedWidth(kUnitWidth);
   cmd_opslaan_ = new QPushButton(this);
   NameWidget(cmd_opslaan_, "cmd_opslaan");
@@ -44,7 +42,7 @@ CombinePanel::CombinePanel(QWidget* parent) : QWidget(parent) {
   setFocusProxy(txt_nfo_8_);
 
   connect(cmd_opslaan_, &QPushButton::clicked, this, &CombinePanel::SavePressed);
-  for (const QLineEdit* box : {txt_nfo_8_, txt_nfo_7_}) {
+  for (const TextBox* box : {txt_nfo_8_, txt_nfo_7_}) {
     connect(box, &QLineEdit::returnPressed, this, &CombinePanel::SavePressed);
   }
 }
@@ -62,11 +60,11 @@ void CombinePanel::SetCaptions(const TextTables& texts, TextTable table) {
 }
 
 Text CombinePanel::Name() const {
-  return FromQt(txt_nfo_8_->text());
+  return txt_nfo_8_->Entered();
 }
 
 Text CombinePanel::Unit() const {
-  return FromQt(txt_nfo_7_->text());
+  return txt_nfo_7_->Entered();
 }
 
 void CombinePanel::Clear() {

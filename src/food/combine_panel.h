@@ -3,11 +3,10 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QWidget>
 
-#include "language/tables.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 
@@ -15,7 +14,7 @@ class CombinePanel : public QWidget {
   Q_OBJECT
 
  public:
-  explicit CombinePanel(QWidget* parent);
+  CombinePanel(const EntryContext& entry, QWidget* parent);
 
   void SetCaptions(const TextTables& texts, TextTable table);
   [[nodiscard]] Text Name() const;
@@ -31,9 +30,9 @@ class CombinePanel : public QWidget {
 
  private:
   QLabel* txt_8_;
-  QLineEdit* txt_nfo_8_;  // name
+  TextBox* txt_nfo_8_;  // name
   QLabel* txt_7_;
-  QLineEdit* txt_nfo_7_;  // unit
+  TextBox* txt_nfo_7_;  // unit
   QPushButton* cmd_opslaan_;
 };
 

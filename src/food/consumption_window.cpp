@@ -50,7 +50,7 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
       program_, part_, [this] { return SelectedNames(); }, LV_consumpties_);
   row_menu_->AddButtons({plus_action_, minus_action_, remove_action_});
   Info_bar_ = new TotalsPanel(this);
-  Pic_SP_ = new CombinePanel(this);
+  Pic_SP_ = new CombinePanel(EntryContextOf(program_), this);
   BuildStatusBar();
   LayOut();
   ConnectAll();

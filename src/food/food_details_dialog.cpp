@@ -5,7 +5,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 #include "food/composition_panel.h"
@@ -15,6 +14,7 @@
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 namespace {
@@ -45,11 +45,10 @@ constexpr std::array<ValueTexts, kValueCount> kValues = {{
 }};
 
 // Shows a text from its beginning. A box that shows it already keeps its cursor.
-void Show(QLineEdit* box, const Text& text) {
-  const QString shown = ToQt(text);
-  if (box->text() == shown) return;
-  box->setText(shown);
-  box->setCursorPosition(0);
+void Show(TextBox* box, const Text& text) {
+  const QString before = box->text();
+  box->ShowText(text);
+  if (box->text() != before) box->setCursorPosition(0);
 }
 
 }  // namespace
@@ -82,7 +81,7 @@ FoodDetailsDialog::FoodDetailsDialog(Program& program, std::string_view tag, std
 FoodDetailsDialog::~FoodDetailsDialog() {
   // A box that loses the focus in its own destruction still tells of it, and by then only the bare
   // dialog is left to hear.
-  for (QLineEdit* const box : findChildren<QLineEdit*>()) box->disconnect(this);
+  for (TextBox* const box : findChildren<TextBox*>()) box->disconnect(this);
 }
 
 QGridLayout* FoodDetailsDialog::BuildDescription() {
@@ -99,11 +98,11 @@ QGridLayout* FoodDetailsDialog::BuildDescription() {
 
 void FoodDetailsDialog::AddDescriptionRow(QGridLayout* grid, int row, std::size_t box,
                                           TextId caption) {
-  auto* const edit = new QLineEdit(this);
-  edit->setObjectName(QStringLiteral("bVar_%1").arg(box));
+  auto* const edit =
+      new TextBox(this, QStringLiteral("bVar_%1").arg(box), EntryContextOf(program_));
   bVar_[box] = edit;
   connect(edit, &QLineEdit::textEdited, this,
-          [this, box](const QString& typed) { details_.bVar[box] = FromQt(typed); });
+          [this, box, edit] { details_.bVar[box] = edit->Entered(); });
   QLabel* const label = AddCaption(QStringLiteral("lbl_bVar_%1").arg(box), caption);
   label->setBuddy(edit);
   grid->addWidget(label, row, 0);
@@ -111,9 +110,9 @@ void FoodDetailsDialog::AddDescriptionRow(QGridLayout* grid, int row, std::size_
 }
 
 void FoodDetailsDialog::AddWeightRow(QGridLayout* grid, int row) {
-  const Locale& locale = program_.platform.locale;
-  txt_gram_ = new NumberBox(this, QStringLiteral("txt_gram"), KeyFilter::whole_number, locale);
-  txt_oz_ = new NumberBox(this, QStringLiteral("txt_oz"), KeyFilter::decimal, locale);
+  const EntryContext entry = EntryContextOf(program_);
+  txt_gram_ = new NumberBox(this, QStringLiteral("txt_gram"), KeyFilter::whole_number, entry);
+  txt_oz_ = new NumberBox(this, QStringLiteral("txt_oz"), KeyFilter::decimal, entry);
   QLabel* const label = AddCaption(QStringLiteral("lbl_weight"), kWeight);
   label->setBuddy(txt_gram_);
   auto* const boxes = new QHBoxLayout;
@@ -161,8 +160,8 @@ void FoodDetailsDialog::BuildPortion() {
   Frame_a_ = MakeFrame("Frame_a");
   for (std::size_t value = 0; value < kValueCount; ++value) {
     const std::size_t place = PortionBoxOf(value);
-    auto* const box = new QLineEdit(Frame_a_.page);
-    box->setObjectName(QStringLiteral("bVar_%1").arg(place));
+    auto* const box =
+        new TextBox(Frame_a_.page, QStringLiteral("bVar_%1").arg(place), EntryContextOf(program_));
     box->setAlignment(Qt::AlignRight);
     SetLocked(box, true);  // the values of a portion always follow from those per 100 grams
     bVar_[place] = box;
@@ -174,9 +173,9 @@ void FoodDetailsDialog::BuildPer100Grams() {
   Frame_b_ = MakeFrame("Frame_b");
   for (std::size_t value = 0; value < kValueCount; ++value) {
     auto* const box = new NumberBox(Frame_b_.page, QStringLiteral("oVar_%1").arg(value),
-                                    KeyFilter::decimal, program_.platform.locale);
+                                    KeyFilter::decimal, EntryContextOf(program_));
     connect(box, &QLineEdit::textChanged, this,
-            [this, value](const QString& text) { details_.oVar[value] = FromQt(text); });
+            [this, value, box] { details_.oVar[value] = box->Entered(); });
     oVar_[value] = box;
     AddValueRow(Frame_b_, value, box);
   }
@@ -185,7 +184,7 @@ void FoodDetailsDialog::BuildPer100Grams() {
   Frame_b_.page->layout()->addWidget(edit_hint_);
 }
 
-void FoodDetailsDialog::AddValueRow(const Frame& frame, std::size_t value, QLineEdit* box) {
+void FoodDetailsDialog::AddValueRow(const Frame& frame, std::size_t value, TextBox* box) {
   const int row = static_cast<int>(value);
   QLabel* const caption =
       AddCaption(QStringLiteral("lbl_") + box->objectName(), kValues[value].caption);
@@ -310,7 +309,9 @@ void FoodDetailsDialog::ShowComposition() {
 
 void FoodDetailsDialog::ShowButtons() {
   const bool editing = details_.Bewerkmodus;
-  for (const auto box : kDescriptionBoxes) SetLocked(bVar_[box], !editing);
+  for (const auto box : kDescriptionBoxes) {
+    SetLocked(bVar_[box], !editing || !bVar_[box]->ShowsAll());
+  }
   for (NumberBox* const box : oVar_) SetLocked(box, !editing);
   const TextTables& texts = program_.texts;
   cmd_bewerk_->setText(ToQt(texts[details_.cmd_bewerk]));
@@ -329,7 +330,7 @@ void FoodDetailsDialog::TakeWeight() {
   NumberBox* const box = std::exchange(typed_weight_, nullptr);
   if (box == nullptr) return;
   const auto take = box == txt_gram_ ? &TakeGrams : &TakeOunces;
-  take(program_, details_, FromQt(box->text()));
+  take(program_, details_, box->Entered());
   ShowPortion();
 }
 

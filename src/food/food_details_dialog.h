@@ -14,13 +14,13 @@
 
 class QGridLayout;
 class QHBoxLayout;
-class QLineEdit;
 
 namespace kelvora {
 
 class CompositionPanel;
 class LongLabel;
 class NumberBox;
+class TextBox;
 
 class FoodDetailsDialog : public QDialog, public WindowView {
   Q_OBJECT
@@ -54,7 +54,7 @@ class FoodDetailsDialog : public QDialog, public WindowView {
   Frame MakeFrame(const char* name);
   void BuildPortion();
   void BuildPer100Grams();
-  void AddValueRow(const Frame& frame, std::size_t value, QLineEdit* box);
+  void AddValueRow(const Frame& frame, std::size_t value, TextBox* box);
   QWidget* BuildComposition();
   QHBoxLayout* BuildButtons();
   QLabel* AddCaption(const QString& name, TextId text);
@@ -73,7 +73,7 @@ class FoodDetailsDialog : public QDialog, public WindowView {
   OpenFlag<WindowView> open_flag_;
   FoodDetails details_;
   std::vector<Caption> captions_;
-  std::array<QLineEdit*, PortionBox::kCount> bVar_{};  // but for the weight, which has two boxes
+  std::array<TextBox*, PortionBox::kCount> bVar_{};  // but for the weight, which has two boxes
   std::array<NumberBox*, kValueCount> oVar_{};
   NumberBox* txt_gram_;
   NumberBox* txt_oz_;

@@ -75,21 +75,23 @@ void FoodListsWindow::BuildToolbar() {
 }
 
 void FoodListsWindow::BuildSearch() {
-  Pic_zoek_ = new FoodSearchPanel(this);
-  Pic_internet_ = new InternetSearchPanel(this);
-  QLineEdit* const search = &Pic_zoek_->Search();
+  const EntryContext entry = EntryContextOf(program_);
+  Pic_zoek_ = new FoodSearchPanel(entry, this);
+  Pic_internet_ = new InternetSearchPanel(entry, this);
+  TextBox* const search = &Pic_zoek_->Search();
   connect(&Pic_zoek_->Categories(), &QComboBox::textActivated, this,
           [this, search](const QString& category) {
-            search->setText(ToQt(lists_.ChooseCategory(FromQt(category))));
+            search->ShowText(lists_.ChooseCategory(FromQt(category)));
             ShowResults();
           });
-  connect(search, &QLineEdit::textEdited, this, [this](const QString& text) {
-    if (text.isEmpty()) return Toon_Standaardlijst();
-    lists_.SearchPrefix(FromQt(text));
+  connect(search, &QLineEdit::textEdited, this, [this, search] {
+    const Text text = search->Entered();
+    if (text.empty()) return Toon_Standaardlijst();
+    lists_.SearchPrefix(text);
     ShowResults();
   });
   connect(search, &QLineEdit::returnPressed, this, [this, search] {
-    if (lists_.Zoek_In_Lijsten(FromQt(search->text()))) ShowResults();
+    if (lists_.Zoek_In_Lijsten(search->Entered())) ShowResults();
   });
 }
 
@@ -330,7 +332,7 @@ void FoodListsWindow::Toon_Standaardlijst() {
   if (searched) {
     for (const std::string_view category : categories) shown.addItem(ToQt(category));
     shown.setCurrentIndex(0);
-    Pic_zoek_->Search().setText(ToQt(*searched));
+    Pic_zoek_->Search().ShowText(*searched);
     Pic_zoek_->Search().selectAll();
   }
   Populate(FoodView::standard, Scroll::to_top);

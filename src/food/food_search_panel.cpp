@@ -16,13 +16,13 @@ namespace {
 using namespace lists_text;
 
 // The box holds the name of the category most of the time: what is typed takes its place.
-class SearchBox : public QLineEdit {
+class SearchBox : public TextBox {
  public:
-  using QLineEdit::QLineEdit;
+  using TextBox::TextBox;
 
  protected:
   void focusInEvent(QFocusEvent* event) override {
-    QLineEdit::focusInEvent(event);
+    TextBox::focusInEvent(event);
     // A window that comes back to the front keeps what was being typed.
     if (event->reason() != Qt::MouseFocusReason) return;
     // After the click that brings the focus, which puts the cursor somewhere.
@@ -45,15 +45,14 @@ void SetCaption(QLabel* caption, QWidget* box, const Text& text) {
 
 }  // namespace
 
-FoodSearchPanel::FoodSearchPanel(QWidget* parent) : QWidget(parent) {
+FoodSearchPanel::FoodSearchPanel(const EntryContext& entry, QWidget* parent) : QWidget(parent) {
   NameWidget(this, "Pic_zoek");
   txt_catuitleg_ = NewLabel(this, "txt_catuitleg");
   combo_cat_ = new QComboBox(this);
   NameWidget(combo_cat_, "combo_cat");
   txt_zoekuitleg_ = NewLabel(this, "txt_zoekuitleg");
   txt_zoekuitleg_->setWordWrap(true);
-  txt_zoeken_ = new SearchBox(this);
-  NameWidget(txt_zoeken_, "txt_zoeken");
+  txt_zoeken_ = new SearchBox(this, QStringLiteral("txt_zoeken"), entry);
   txt_zoeken_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_catuitleg_->setBuddy(combo_cat_);
   txt_zoekuitleg_->setBuddy(txt_zoeken_);
@@ -72,12 +71,12 @@ void FoodSearchPanel::Set_Taal(const TextTables& texts) {
   txt_zoeken_->setToolTip(ToQt(texts[kTipSearch]));
 }
 
-InternetSearchPanel::InternetSearchPanel(QWidget* parent) : QWidget(parent) {
+InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* parent)
+    : QWidget(parent) {
   NameWidget(this, "Pic_internet");
   txt_internetzoektext_ = NewLabel(this, "txt_internetzoektext");
   txt_internetzoektext_->setWordWrap(true);
-  txt_internet_ = new QLineEdit(this);
-  NameWidget(txt_internet_, "txt_internet");
+  txt_internet_ = new TextBox(this, QStringLiteral("txt_internet"), entry);
   txt_internet_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_internet_->setEnabled(false);
   txt_internetzoektext_->setBuddy(txt_internet_);

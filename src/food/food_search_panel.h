@@ -4,10 +4,9 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QWidget>
 
-#include "language/tables.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 
@@ -16,17 +15,17 @@ class FoodSearchPanel : public QWidget {
   Q_OBJECT
 
  public:
-  explicit FoodSearchPanel(QWidget* parent);
+  FoodSearchPanel(const EntryContext& entry, QWidget* parent);
   void Set_Taal(const TextTables& texts);
 
   [[nodiscard]] QComboBox& Categories() { return *combo_cat_; }
-  [[nodiscard]] QLineEdit& Search() { return *txt_zoeken_; }
+  [[nodiscard]] TextBox& Search() { return *txt_zoeken_; }
 
  private:
   QLabel* txt_catuitleg_;
   QComboBox* combo_cat_;
   QLabel* txt_zoekuitleg_;
-  QLineEdit* txt_zoeken_;
+  TextBox* txt_zoeken_;
 };
 
 // Pic_internet. This version has no search on the food server yet: the box says so.
@@ -34,14 +33,14 @@ class InternetSearchPanel : public QWidget {
   Q_OBJECT
 
  public:
-  explicit InternetSearchPanel(QWidget* parent);
+  InternetSearchPanel(const EntryContext& entry, QWidget* parent);
   void Set_Taal(const TextTables& texts);
 
   [[nodiscard]] QLabel& Server() { return *txt_server_; }
 
  private:
   QLabel* txt_internetzoektext_;
-  QLineEdit* txt_internet_;
+  TextBox* txt_internet_;
   QLabel* txt_server_;
 };
 

@@ -12,6 +12,7 @@
 #include "platform/qt/hint_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 namespace {
@@ -52,12 +53,6 @@ QString Numbered(const char* stem, std::size_t index) {
 
 void SetBoxWidth(QLineEdit* box) {
   box->setFixedWidth(kBoxDigits * box->fontMetrics().horizontalAdvance(QLatin1Char('0')) + 12);
-}
-
-// A box whose text is right keeps its cursor.
-void ShowIfOther(QLineEdit* box, const Text& shown) {
-  const QString text = ToQt(shown);
-  if (text != box->text()) box->setText(text);
 }
 
 }  // namespace
@@ -178,11 +173,12 @@ void NewFoodDialog::AddIntroduction(QGridLayout* grid) {
 
 void NewFoodDialog::AddNameAndUnit(QGridLayout* grid) {
   QWidget* const frame = grid->parentWidget();
-  txt_dNaam_ = new QLineEdit(frame);
-  NameWidget(txt_dNaam_, "txt_dNaam");
+  const EntryContext entry = EntryContextOf(program_);
+  txt_dNaam_ = new TextBox(frame, QStringLiteral("txt_dNaam"), entry);
   combo_dEenheid_ = new QComboBox(frame);
   NameWidget(combo_dEenheid_, "combo_dEenheid");
-  combo_dEenheid_->setEditable(true);
+  unit_ = new TextBox(combo_dEenheid_, QStringLiteral("combo_dEenheid_box"), entry);
+  combo_dEenheid_->setLineEdit(unit_);
   combo_dEenheid_->setInsertPolicy(QComboBox::NoInsert);
   combo_dEenheid_->setCompleter(nullptr);  // what is typed stays as it is typed
   combo_dEenheid_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -221,11 +217,11 @@ NewFoodDialog::WeightEdits NewFoodDialog::AddWeight(QGridLayout* grid, const cha
 NumberBox* NewFoodDialog::AddWeightBox(QWidget* frame, const QString& name, WeightUnit unit,
                                        WeightBoxes NewFoodForm::*boxes) {
   const KeyFilter filter = unit == WeightUnit::gram ? KeyFilter::whole_number : KeyFilter::decimal;
-  auto* const box = new NumberBox(frame, name, filter, program_.platform.locale);
+  auto* const box = new NumberBox(frame, name, filter, EntryContextOf(program_));
   SetBoxWidth(box);
   number_boxes_.push_back(box);
   connect(box, &NumberBox::Typed, this,
-          [this, box, unit, boxes] { TypeWeight(form_.*boxes, unit, FromQt(box->text())); });
+          [this, box, unit, boxes] { TypeWeight(form_.*boxes, unit, box->Entered()); });
   connect(box, &NumberBox::Left, this, [this, unit, boxes] {
     AfterLeaving([&] { LeaveWeight(program_, form_, boxes, unit); });
   });
@@ -244,20 +240,19 @@ void NewFoodDialog::AddValueCaptions(QGridLayout* grid, const char* stem) {
 
 NumberBox* NewFoodDialog::AddPrintedValue(QWidget* frame, std::size_t index) {
   auto* const box =
-      new NumberBox(frame, Numbered("txt_s", index), KeyFilter::decimal, program_.platform.locale);
+      new NumberBox(frame, Numbered("txt_s", index), KeyFilter::decimal, EntryContextOf(program_));
   SetBoxWidth(box);
   number_boxes_.push_back(box);
   captions_.push_back({box, kValueRows[index].caption, kOriginalFrame});
   connect(box, &NumberBox::Typed, this,
-          [this, box, index] { TypeValue(form_, index, FromQt(box->text())); });
+          [this, box, index] { TypeValue(form_, index, box->Entered()); });
   connect(box, &NumberBox::Left, this,
           [this, index] { AfterLeaving([&] { LeaveValue(program_, form_, index); }); });
   return box;
 }
 
-QLineEdit* NewFoodDialog::AddPortionValue(QWidget* frame, std::size_t index) {
-  auto* const box = new QLineEdit(frame);
-  box->setObjectName(Numbered("txt_d", index));
+TextBox* NewFoodDialog::AddPortionValue(QWidget* frame, std::size_t index) {
+  auto* const box = new TextBox(frame, Numbered("txt_d", index), EntryContextOf(program_));
   box->setAlignment(Qt::AlignRight);
   SetBoxWidth(box);
   SetLocked(box, true);
@@ -306,7 +301,7 @@ void NewFoodDialog::Set_Taal() {
   combo_dEenheid_->clear();
   for (const Text& unit : UnitChoices(texts)) combo_dEenheid_->addItem(ToQt(unit));
   combo_dEenheid_->setCurrentIndex(-1);
-  combo_dEenheid_->setEditText(ToQt(form_.combo_dEenheid));
+  unit_->ShowText(form_.combo_dEenheid);
 }
 
 void NewFoodDialog::FollowSettings() {
@@ -316,22 +311,22 @@ void NewFoodDialog::FollowSettings() {
 }
 
 void NewFoodDialog::ShowForm() {
-  ShowIfOther(txt_dNaam_, form_.txt_dNaam);
-  ShowIfOther(combo_dEenheid_->lineEdit(), form_.combo_dEenheid);
+  txt_dNaam_->ShowText(form_.txt_dNaam);
+  unit_->ShowText(form_.combo_dEenheid);
   for (const auto& [edits, boxes] : {std::pair{printed_weight_, &form_.printed_weight},
                                      std::pair{portion_weight_, &form_.portion_weight}}) {
-    ShowIfOther(edits.gram, boxes->gram);
-    ShowIfOther(edits.oz, boxes->oz);
+    edits.gram->ShowText(boxes->gram);
+    edits.oz->ShowText(boxes->oz);
   }
   for (std::size_t i = 0; i < FoodValue::kCount; ++i) {
-    ShowIfOther(txt_s_[i], form_.txt_s[i]);
-    ShowIfOther(txt_d_[i], form_.txt_d[i]);
+    txt_s_[i]->ShowText(form_.txt_s[i]);
+    txt_d_[i]->ShowText(form_.txt_d[i]);
   }
 }
 
 void NewFoodDialog::TakeTexts() {
-  form_.txt_dNaam = FromQt(txt_dNaam_->text());
-  form_.combo_dEenheid = FromQt(combo_dEenheid_->currentText());
+  form_.txt_dNaam = txt_dNaam_->Entered();
+  form_.combo_dEenheid = unit_->Entered();
 }
 
 template <class Leave>

@@ -23,6 +23,7 @@ class QLabel;
 namespace kelvora {
 
 class NumberBox;
+class TextBox;
 
 class NewFoodDialog : public QDialog, public WindowView {
   Q_OBJECT
@@ -63,7 +64,7 @@ class NewFoodDialog : public QDialog, public WindowView {
                           WeightBoxes NewFoodForm::*boxes);
   void AddValueCaptions(QGridLayout* grid, const char* stem);
   NumberBox* AddPrintedValue(QWidget* frame, std::size_t index);
-  QLineEdit* AddPortionValue(QWidget* frame, std::size_t index);
+  TextBox* AddPortionValue(QWidget* frame, std::size_t index);
   QLabel* AddLabel(QWidget* frame, const QString& name, TextId text);
 
   void ShowForm();
@@ -84,11 +85,12 @@ class NewFoodDialog : public QDialog, public WindowView {
   std::vector<NumberBox*> number_boxes_;
   WeightEdits printed_weight_, portion_weight_;
   std::array<NumberBox*, FoodValue::kCount> txt_s_{};
-  std::array<QLineEdit*, FoodValue::kCount> txt_d_{};
+  std::array<TextBox*, FoodValue::kCount> txt_d_{};
   QLabel* lbl_info_;
   QCheckBox* chk_kj_;
-  QLineEdit* txt_dNaam_;
+  TextBox* txt_dNaam_;
   QComboBox* combo_dEenheid_;
+  TextBox* unit_;  // the box of combo_dEenheid_
   QCheckBox* chk_inet_;
   QPushButton* cmd_opslaan_;
   QPushButton* cmd_annuleer_;

@@ -2,19 +2,16 @@
 // dropped, and tells when a user leaves it. It knows nothing of what its number means.
 #pragma once
 
-#include <QLineEdit>
-
-#include "core/key_filter.h"
-#include "platform/locale.h"
+#include "platform/qt/text_box.h"
 
 namespace kelvora {
 
-class NumberBox : public QLineEdit {
+class NumberBox : public TextBox {
   Q_OBJECT
 
  public:
-  // `locale` is asked for the decimal separator at every key; it must outlive the box.
-  NumberBox(QWidget* parent, const QString& object_name, KeyFilter filter, const Locale& locale);
+  NumberBox(QWidget* parent, const QString& object_name, KeyFilter filter,
+            const EntryContext& context);
 
  signals:
   // Something was typed; the box already shows what the filter left of it.
@@ -25,12 +22,6 @@ class NumberBox : public QLineEdit {
 
  protected:
   void focusOutEvent(QFocusEvent* event) override;
-
- private:
-  void FilterTyping();
-
-  KeyFilter filter_;
-  const Locale& locale_;
 };
 
 }  // namespace kelvora

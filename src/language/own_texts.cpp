@@ -84,6 +84,14 @@ constexpr std::array kRows = {
                "Het profiel is nog niet opgeslagen."_w},
     OwnTextRow{OwnText::go_on_without_saving, "Do you want to go on without saving?"_w,
                "Wil je verdergaan zonder op te slaan?"_w},
+    OwnTextRow{OwnText::character_left_out, "This character can't be stored and was left out:"_w,
+               "Dit teken kan niet worden opgeslagen en is weggelaten:"_w},
+    OwnTextRow{OwnText::characters_left_out,
+               "These characters can't be stored and were left out:"_w,
+               "Deze tekens kunnen niet worden opgeslagen en zijn weggelaten:"_w},
+    OwnTextRow{OwnText::whole_numbers_only,
+               "Only whole numbers can be entered here; the decimal mark was left out."_w,
+               "Hier kunnen alleen hele getallen staan; het decimaalteken is weggelaten."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

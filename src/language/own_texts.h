@@ -54,6 +54,10 @@ enum class OwnText {
   favourites_unsaved,
   profile_unsaved,
   go_on_without_saving,
+  // What a text box says of what it didn't take; the characters follow.
+  character_left_out,
+  characters_left_out,
+  whole_numbers_only,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -67,6 +71,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 31;
+inline constexpr int kOwnTextCount = 34;
 
 }  // namespace kelvora

@@ -43,34 +43,13 @@ TEST(Boxes, EachHasItsLimitAndItsFilter) {
   }
 }
 
-// A digit passes every filter, and no box ever takes more than its limit, however it comes.
-TEST(Boxes, HoldNoMoreThanTheirLimit) {
-  for (const DayField& field : DayFields()) {
-    const Text full(field.limit, '1');
-    const HeldText at_the_limit{full, field.limit};
-    EXPECT_EQ(HoldToField(field, full, "", "."), at_the_limit) << field.name;
-    EXPECT_EQ(HoldToField(field, full + "2", "", "."), at_the_limit) << field.name;
-    // A key in front of a full box is dropped, and so is a paste.
-    EXPECT_EQ(HoldToField(field, "2", full, "."), (HeldText{full, 0})) << field.name;
-    EXPECT_EQ(HoldToField(field, Text(1000, '2'), full, "."), (HeldText{full, 0})) << field.name;
+TEST(Boxes, TakeWhatTheirFieldTellsAndRemarksTakeLines) {
+  for (std::size_t i = 0; i < kBoxes.size(); ++i) {
+    const EntryRule rule = EntryRuleOf(static_cast<DayFieldId>(i));
+    EXPECT_EQ(rule.limit, kBoxes[i].limit) << kBoxes[i].name;
+    EXPECT_EQ(rule.filter, kBoxes[i].filter) << kBoxes[i].name;
+    EXPECT_EQ(rule.many_lines, kBoxes[i].name == "pg_14") << kBoxes[i].name;
   }
-}
-
-TEST(Boxes, APasteLeavesWhatTypingWould) {
-  const DayField& weight = FieldOfId(DayFieldId::txt_gewicht);
-  const DayField& age = FieldOfId(DayFieldId::pg_8);
-  EXPECT_EQ(HoldToField(weight, "1a2b3c4d5e6f7g", "", "."), (HeldText{"123456", 6}));
-  EXPECT_EQ(HoldToField(weight,
-                        "7\xBD"
-                        "2,5 kg",
-                        "", ","),
-            (HeldText{"72,5", 4}));
-  EXPECT_EQ(HoldToField(weight, "70x.", "5", ","), (HeldText{"70,5", 3}));
-  EXPECT_EQ(HoldToField(weight, "\t\n\r", "80", "."), (HeldText{"80", 0}));
-  EXPECT_EQ(HoldToField(age, "-4.2", "", "."), (HeldText{"42", 2}));
-  EXPECT_EQ(HoldToField(age, "4.29", "", "."), (HeldText{"42", 2}));
-  EXPECT_EQ(HoldToField(FieldOfId(DayFieldId::pg_0), "A\xBD.1,", "\xBE", ","),
-            (HeldText{"A\xBD.1,\xBE", 5}));
 }
 
 // Taking fields.

@@ -204,9 +204,10 @@ TEST_F(FoodDetailsWindow, AnEndlessLineMakesNoEndlessWindow) {
                .remark = endless}));
   EXPECT_LE(dialog->width(), 1000);
   EXPECT_LE(dialog->minimumSizeHint().width(), 1000);
-  // As much of it as is drawn of any text.
+  // As much of it as is drawn of any text; the boxes have all.
   EXPECT_TRUE(Label("Frame_a_heading").contains(QString(400, 'W')));
   EXPECT_EQ(Label("Frame_a_heading").size(), 500);
+  EXPECT_EQ(Box("bVar_0")->text(), QString(900, 'W'));
 }
 
 TEST_F(FoodDetailsWindow, TheMainWindowShowsItModally) {
