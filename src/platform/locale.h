@@ -10,8 +10,13 @@ namespace kelvora {
 class Locale {
  public:
   virtual ~Locale() = default;
-  // The decimal separator; "," or "." nearly everywhere, but any text is possible.
-  [[nodiscard]] virtual Text DecimalSeparator() const = 0;
+  // What the system puts before the decimals: "," or "." nearly everywhere, but any text is
+  // possible.
+  [[nodiscard]] virtual Text SystemDecimalSeparator() const = 0;
+  // What numbers are written and typed with here: "," where the system has that, else ".".
+  [[nodiscard]] Text DecimalSeparator() const {
+    return SystemDecimalSeparator() == "," ? "," : ".";
+  }
   // The date as dd/mm/yyyy. The locale may put other separators in the place of "/".
   [[nodiscard]] virtual Text DayMonthYear(const LocalTime& time) const = 0;
   // The time as hh/mm/s, seconds without a leading zero. The locale may add AM or PM.
@@ -19,7 +24,7 @@ class Locale {
   // How the system writes a long date: d, M and y for day, month and year, as in
   // "dddd d MMMM yyyy", with no other text in it.
   [[nodiscard]] virtual Text LongDatePattern() const = 0;
-  // The full name of the weekday, in the system's language.
+  // The full name of the weekday, in the system's language; empty if text can't hold it.
   [[nodiscard]] virtual Text WeekdayName(const LocalTime& time) const = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "support/test_program.h"
 
+#include <array>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -30,6 +31,20 @@ Text FixedLocale::DayMonthYear(const LocalTime& time) const {
 Text FixedLocale::HourMinuteSecond(const LocalTime& time) const {
   return TwoDigits(time.hour) + date_mark + TwoDigits(time.minute) + date_mark +
          std::to_string(time.second) + time_suffix;
+}
+
+Text FixedLocale::WeekdayName(const LocalTime& time) const {
+  if (weekday) return *weekday;
+  // The first of January of the year 1 was a Monday; a year has 365 days and the leap days before.
+  constexpr std::array kNames = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                 "Thursday", "Friday", "Saturday"};
+  constexpr std::array kDaysBefore = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
+  const auto leap_days = [](int year) { return year / 4 - year / 100 + year / 400; };
+  const bool leaps = leap_days(time.year) != leap_days(time.year - 1);
+  const int days = 365 * (time.year - 1) + leap_days(time.year - 1) +
+                   kDaysBefore.at(static_cast<std::size_t>(time.month - 1)) +
+                   (leaps && time.month > 2 ? 1 : 0) + time.day;
+  return kNames.at(static_cast<std::size_t>(days % 7));
 }
 
 bool RecordingOpener::Open(const std::string& address) {

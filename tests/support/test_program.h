@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,15 +27,15 @@ struct RecordingPointer : Pointer {
 
 struct FixedLocale : Locale {
   Text separator = ".";
-  Text date_mark = "/";  // what the locale puts in the place of "/"
-  Text time_suffix;      // " PM" and the like
-  Text weekday = "Friday";
+  Text date_mark = "/";         // what the locale puts in the place of "/"
+  Text time_suffix;             // " PM" and the like
+  std::optional<Text> weekday;  // for every date; without it the true one, in English
   Text long_date = "dddd d MMMM yyyy";
-  Text DecimalSeparator() const override { return separator; }
+  Text SystemDecimalSeparator() const override { return separator; }
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
   Text LongDatePattern() const override { return long_date; }
-  Text WeekdayName(const LocalTime&) const override { return weekday; }
+  Text WeekdayName(const LocalTime& time) const override;
 };
 
 struct FixedClock : Clock {

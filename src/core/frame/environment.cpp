@@ -27,7 +27,7 @@ void CheckScreenResolution(Program& program) {
 }
 
 void CheckSeparatorIsValid(Program& program) {
-  const Text separator = program.platform.locale.DecimalSeparator();
+  const Text separator = program.platform.locale.SystemDecimalSeparator();
   if (separator == "," || separator == ".") return;
   const TextTables& texts = program.texts;
   Tell(program, BoxIcon::error,

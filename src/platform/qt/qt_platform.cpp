@@ -129,7 +129,7 @@ void QtPointer::Restore() {
   waiting_ = false;
 }
 
-Text QtLocale::DecimalSeparator() const {
+Text QtLocale::SystemDecimalSeparator() const {
   return FromQt(QLocale::system().decimalPoint());
 }
 
@@ -148,7 +148,9 @@ Text QtLocale::LongDatePattern() const {
 }
 
 Text QtLocale::WeekdayName(const LocalTime& time) const {
-  return FromQt(QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd")));
+  const QString name = QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd"));
+  const Text text = FromQt(name);
+  return ToQt(text) == name ? text : Text();
 }
 
 std::string QtFolders::ApplicationData() const {

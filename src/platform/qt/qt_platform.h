@@ -24,7 +24,7 @@ class QtPointer : public Pointer {
 
 class QtLocale : public Locale {
  public:
-  Text DecimalSeparator() const override;
+  Text SystemDecimalSeparator() const override;
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
   Text LongDatePattern() const override;
