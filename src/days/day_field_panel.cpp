@@ -8,10 +8,6 @@ namespace {
 // Boxes for more characters than this grow with the dialog.
 constexpr std::size_t kShortLimit = 10;
 
-bool IsPartOfDate(DayFieldId id) {
-  return id == DayFieldId::pg_9_a || id == DayFieldId::pg_9_b || id == DayFieldId::pg_9_c;
-}
-
 }  // namespace
 
 DayFieldBox::DayFieldBox(Program& program, DayForm& form, DayFieldId id, QWidget* parent)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "days/weekday.h"
 #include "language/day_settings_texts.h"
 #include "nutrition/numbers.h"
 #include "nutrition/totals.h"
@@ -111,7 +112,11 @@ void TakeField(Program& program, DayForm& form, DayFieldId id, std::string_view 
     case DayFieldId::txt_streefgewicht:
       form.pg_10 = KilogramsOf(program, box);
       break;
+    case DayFieldId::pg_11:
+      TellWhetherTyped(program, form);
+      break;
     default:
+      if (IsPartOfDate(id)) FollowDate(program, form);
       break;
   }
 }

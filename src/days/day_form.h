@@ -23,6 +23,7 @@ struct DayForm {
   Text pg_9_a, pg_9_b, pg_9_c;      // day, month, year; two digits each
   Text pg_10;                       // goal weight, kilograms
   Text pg_11;                       // name of the weekday
+  bool weekday_is_typed = false;    // then it doesn't follow the date
   Text pg_12, pg_13, pg_14, pg_15;  // country, reference ID, remark, state
   Text type_prioriteit;
   Text txt_kj, txt_kcal, txt_ovet, txt_vvet, txt_nat, txt_ew, txt_kdr;
@@ -69,6 +70,10 @@ enum class DayFieldId {
 };
 inline constexpr std::size_t kDayFieldCount = 19;
 
+[[nodiscard]] constexpr bool IsPartOfDate(DayFieldId id) {
+  return id == DayFieldId::pg_9_a || id == DayFieldId::pg_9_b || id == DayFieldId::pg_9_c;
+}
+
 // The text boxes, in the order of DayFieldId.
 [[nodiscard]] std::span<const DayField, kDayFieldCount> DayFields();
 [[nodiscard]] const DayField& FieldOfId(DayFieldId id);
@@ -81,7 +86,8 @@ void FillBoxes(Program& program, DayForm& form);
 
 // Takes what a box shows into the form, with the metric value behind it. A box that shows what it
 // was filled with changes nothing: a stored value longer than its box, or one that other units
-// can't show exactly, stays whole until something else is typed. Inches above 12 are cleared.
+// can't show exactly, stays whole until something else is typed. Inches above 12 are cleared. The
+// weekday follows the date until somebody types another one.
 void TakeField(Program& program, DayForm& form, DayFieldId id, std::string_view shown);
 
 // Puts a stored date, dd-mm-yy, into the three boxes; what has not six digits leaves them empty.

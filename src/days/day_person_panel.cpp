@@ -98,7 +98,10 @@ QGroupBox* DayPersonPanel::BuildDay() {
 
 DayFieldBox* DayPersonPanel::MakeBox(QGroupBox* group, DayFieldId id) {
   DayFieldBox* const box = boxes_.emplace_back(new DayFieldBox(program_, form_, id, group));
-  connect(box, &DayFieldBox::Taken, this, &DayPersonPanel::ShowHints);
+  connect(box, &DayFieldBox::Taken, this, [this, id] {
+    if (IsPartOfDate(id)) BoxOf(DayFieldId::pg_11)->ShowForm();  // it may have followed
+    ShowHints();
+  });
   return box;
 }
 

@@ -6,6 +6,7 @@
 #include "days/open_day.h"
 #include "days/targets.h"
 #include "days/user_list.h"
+#include "days/weekday.h"
 #include "language/day_settings_texts.h"
 #include "nutrition/dates.h"
 #include "nutrition/totals.h"
@@ -60,16 +61,16 @@ constexpr std::array<Text DayForm::*, HeaderRow::kCount> kHeaderParts = {
 static_assert(kHeaderParts[HeaderRow::kDate] == nullptr);
 
 // The form of a profile, dated today. The boxes of height and weights are not filled yet.
-DayForm FormOf(const Rec_Profile& profile, const Platform& platform) {
+DayForm FormOf(const Rec_Profile& profile, const Program& program) {
   DayForm form;
   for (const auto& [field, part] : kProfileParts) form.*part = profile[field];
   form.type_prioriteit = std::to_string(static_cast<int>(PriorityOf(form.type_prioriteit)));
   SettleSliders(form);
-  const LocalTime today = platform.clock.Now();
+  const LocalTime today = program.platform.clock.Now();
   form.pg_9_a = TwoDigits(today.day);
   form.pg_9_b = TwoDigits(today.month);
   form.pg_9_c = TwoDigits(today.year);
-  form.pg_11 = platform.locale.WeekdayName(today).substr(0, FieldOfId(DayFieldId::pg_11).limit);
+  form.pg_11 = WeekdayOf(program, today);
   return form;
 }
 
@@ -79,7 +80,7 @@ bool BelongsTo(const Rec_Profile& profile, std::string_view name) {
 }
 
 DayForm FormOfUser(const Program& program, std::string_view name) {
-  if (BelongsTo(program.profile, name)) return FormOf(program.profile, program.platform);
+  if (BelongsTo(program.profile, name)) return FormOf(program.profile, program);
   DayForm form = NewUserForm(program);
   form.pg_0 = name;
   return form;
@@ -155,7 +156,7 @@ void ForgetCurrentUser(Program& program) {
 }  // namespace
 
 DayForm NewUserForm(const Program& program) {
-  return FormOf(DefaultsOfNewUser(), program.platform);
+  return FormOf(DefaultsOfNewUser(), program);
 }
 
 DayEditing OpenDayEditing(const Program& program) {
@@ -203,6 +204,7 @@ void EditOpenDay(Program& program, DayEditing& editing) {
     form.pg_8 = day[HeaderRow::kAge];
     form.pg_11 = day[HeaderRow::kWeekday];
     SplitDate(form, day[HeaderRow::kDate]);
+    TellWhetherTyped(program, form);
     FillBoxes(program, form);
   });
 }

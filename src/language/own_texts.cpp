@@ -92,6 +92,13 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::whole_numbers_only,
                "Only whole numbers can be entered here; the decimal mark was left out."_w,
                "Hier kunnen alleen hele getallen staan; het decimaalteken is weggelaten."_w},
+    OwnTextRow{OwnText::sunday, "Sunday"_w, "zondag"_w},
+    OwnTextRow{OwnText::monday, "Monday"_w, "maandag"_w},
+    OwnTextRow{OwnText::tuesday, "Tuesday"_w, "dinsdag"_w},
+    OwnTextRow{OwnText::wednesday, "Wednesday"_w, "woensdag"_w},
+    OwnTextRow{OwnText::thursday, "Thursday"_w, "donderdag"_w},
+    OwnTextRow{OwnText::friday, "Friday"_w, "vrijdag"_w},
+    OwnTextRow{OwnText::saturday, "Saturday"_w, "zaterdag"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

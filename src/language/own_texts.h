@@ -58,6 +58,14 @@ enum class OwnText {
   character_left_out,
   characters_left_out,
   whole_numbers_only,
+  // The weekdays, where the system's own words can't be used.
+  sunday,
+  monday,
+  tuesday,
+  wednesday,
+  thursday,
+  friday,
+  saturday,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -71,6 +79,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 34;
+inline constexpr int kOwnTextCount = 41;
 
 }  // namespace kelvora

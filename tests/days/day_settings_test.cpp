@@ -58,12 +58,6 @@ TEST(Forms, ANewUserHasAnEmptyPersonTodayAndTheUsualTargets) {
   EXPECT_EQ(NewUserForm(test.program), expected);
 }
 
-TEST(Forms, ALongWeekdayIsCutAtNineCharacters) {
-  TestProgram test;
-  test.locale.weekday = "Donnerstag";
-  EXPECT_EQ(NewUserForm(test.program).pg_11, "Donnersta");
-}
-
 TEST(Forms, AUserThatIsChosenFillsEverythingFromTheProfileButTheDate) {
   TestProgram test;
   Program& program = test.program;

@@ -92,6 +92,7 @@ TEST_F(OpenDaySettings, TheFormIsTheProfileWithWhatTheDayKeeps) {
   expected.pg_9_b = "12";
   expected.pg_9_c = "99";
   expected.pg_11 = "Sunday";
+  expected.weekday_is_typed = true;  // it was a Friday
   expected.txt_lengte_m = "1.80";
   expected.txt_gewicht = "80.5";
   expected.txt_streefgewicht = "75";

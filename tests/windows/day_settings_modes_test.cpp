@@ -191,7 +191,7 @@ TEST_F(DaySettingsWindow, DaySettingsAreSavedIntoTheOpenDay) {
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_EQ(test.program.windows.day_settings, nullptr);
   EXPECT_EQ(PackBlock(test.program.store.L_gegevens),
-            Packed("Anna~Street 1~~~~1.80~71~Female~42~17-03-04~65.5~Friday~~~~"));
+            Packed("Anna~Street 1~~~~1.80~71~Female~42~17-03-04~65.5~Wednesday~~~~"));
   EXPECT_EQ(test.program.store.KV_bestand, file);
   EXPECT_TRUE(test.program.day.FileChanged);
   EXPECT_TRUE(test.core.opened.empty());
