@@ -72,7 +72,13 @@ Text& CleanText(Text& text) {
 }
 
 bool CanNameAFolder(std::string_view name) {
-  return name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
+  return IsFolderName(Utf8FromText(name));
+}
+
+bool IsFolderName(std::string_view utf8) {
+  constexpr std::size_t kMostBytes = 255;
+  return !utf8.empty() && utf8.size() <= kMostBytes && utf8 != "." && utf8 != ".." &&
+         utf8.find_first_of(std::string_view("/\0", 2)) == utf8.npos;
 }
 
 bool FileExists(const std::string& path) {

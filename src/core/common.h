@@ -51,9 +51,11 @@ void MoveConsumption(KV_data& store, std::string_view source, std::string_view k
 // Changes `text` in place and returns it.
 Text& CleanText(Text& text);
 
-// False for what this platform can't put in the name of a folder: "/", NUL, and the whole names
-// "." and "..".
+// False for what this platform can't put in the name of a folder: nothing at all, "/", NUL, the
+// whole names "." and "..", and what takes more than 255 bytes on disk. IsFolderName tells it of a
+// name as it stands on disk, in UTF-8.
 [[nodiscard]] bool CanNameAFolder(std::string_view name);
+[[nodiscard]] bool IsFolderName(std::string_view utf8);
 
 // True if `path` can be opened for reading. Only a regular file is one: a folder, a pipe or a
 // device is not.

@@ -8,6 +8,11 @@ namespace {
 // Below what is no folder there can be nothing.
 constexpr const char* kNowhere = "/dev/null/";
 
+// What the folder of a user of that name is called; empty for a name that no folder can have.
+std::string FolderNameFor(std::string_view name) {
+  return CanNameAFolder(name) ? Utf8FromText(name) : std::string();
+}
+
 }  // namespace
 
 FailureBox Program::FailurePath() {
@@ -24,13 +29,24 @@ Priority PriorityOfUser(const Program& program) {
 }
 
 std::string UserFolder(const Paths& paths, std::string_view name) {
+  if (name == paths.UserName && !paths.UserFolderName.empty()) {
+    return paths.UsersPath + paths.UserFolderName + "/";
+  }
   if (!CanNameAFolder(name)) return kNowhere;
   return paths.UsersPath + Utf8FromText(name) + "/";
 }
 
+void SetCurrentUser(Program& program, std::string_view name, std::string folder_name) {
+  Paths& paths = program.paths;
+  paths.UserName = name;
+  paths.UserFolderName = std::move(folder_name);
+  paths.FilesPath = UserFolder(paths, name) + "Files/";
+}
+
 void SetCurrentUser(Program& program, std::string_view name) {
-  program.paths.UserName = name;
-  program.paths.FilesPath = UserFolder(program.paths, name) + "Files/";
+  const Paths& paths = program.paths;
+  const bool is_current = name == paths.UserName && !paths.UserFolderName.empty();
+  SetCurrentUser(program, name, is_current ? paths.UserFolderName : FolderNameFor(name));
 }
 
 Text JoinLines(const TextTables& texts, std::initializer_list<std::optional<TextId>> lines) {

@@ -21,6 +21,9 @@ namespace kelvora {
 // Where files lie: UTF-8 paths; each that names a folder ends in "/".
 struct Paths {
   Text UserName;  // the current user; empty until one is chosen
+  // The folder of the current user below UsersPath, as it is named on disk: UTF-8, without "/". It
+  // need not be named as the user is, since text can't hold every name that a folder can have.
+  std::string UserFolderName;
   std::string UsersPath;
   std::string FilesPath;  // the day files of the current user
   std::string LanguagePath;
@@ -92,14 +95,18 @@ struct Program {
 // Sets the unsaved-changes flag and, with it, the Save button.
 void SetFileChanged(Program& program, bool changed);
 
-// Makes `name` the current user: name and folder of the day files.
+// Makes `name` the current user: name and folder of the day files. The folder is the one of that
+// name on disk; without one it goes by the user's name, and stays what it is for the user who is
+// the current one already, so that this also brings `FilesPath` in step with another `UsersPath`.
+void SetCurrentUser(Program& program, std::string_view name, std::string folder_name);
 void SetCurrentUser(Program& program, std::string_view name);
 
 // The nutrient that the current user gives priority.
 [[nodiscard]] Priority PriorityOfUser(const Program& program);
 
-// The folder of one user, with its closing "/". For a name that no folder can have it is one below
-// a file, so that whatever is read or written there fails and reaches no other folder.
+// The folder of one user, with its closing "/": that of the current one as it is on disk, any other
+// by the name. For a name that no folder can have it is one below a file, so that whatever is read
+// or written there fails and reaches no other folder.
 [[nodiscard]] std::string UserFolder(const Paths& paths, std::string_view name);
 
 // The texts of the tables joined as the lines of one box; an empty id gives an empty line.

@@ -44,7 +44,7 @@ bool AskYesNo(Program& program, TextId title, Text text) {
 }
 
 bool MayCloseDayForUser(Program& program) {
-  if (program.store.L_gegevens.Empty()) return true;
+  if (program.store.L_gegevens.Empty() && !program.store.DayIsOpen()) return true;
   return AskYesNo(program, kSwitchTitle,
                   JoinLines(program.texts, {kSwitchGoing, kSwitchLost, std::nullopt, kSwitchSure}));
 }
@@ -59,37 +59,45 @@ bool MayDelete(Program& program, const DayRow& row) {
 
 }  // namespace
 
-TextList UsersToBrowse(Program& program) {
-  TextList names;
-  program.Guard("#F3-2", [&] { ReadUserNames(program, names); });
-  return names;
+void TellOfUnreadUsers(Program& program, const UserList& list) {
+  list.unread.Report(program.FailurePath(), "#F3-2");
 }
 
-UserSwitch SwitchUser(Program& program, std::string_view name) {
-  if (name == program.paths.UserName) return UserSwitch::same;
-  const bool has_folder = program.Guard("#F3-3", [name] {
-    if (name.empty() || !CanNameAFolder(name)) ThrowSystemError(std::errc::invalid_argument);
-  });
-  if (!has_folder || !MayCloseDayForUser(program)) return UserSwitch::refused;
+UserSwitch SwitchUser(Program& program, const User& user) {
+  if (IsCurrent(program, user)) return UserSwitch::same;
+  const User chosen = user;  // the list that it stands in may be rebuilt
+  UserSwitch result = UserSwitch::refused;
   program.Guard("#F3-3", [&] {
+    if (!HasFolder(program, chosen)) {
+      if (program.windows.browser != nullptr) program.windows.browser->Refresh_GebruikersLijst();
+      ThrowSystemError(std::errc::no_such_file_or_directory);
+    }
+    if (!MayCloseDayForUser(program)) return;
+    result = UserSwitch::switched;
     CloseDay(program);
-    ChooseUser(program, name);
+    ChooseUser(program, chosen);
     if (program.windows.browser != nullptr) program.windows.browser->Refresh_Files();
     if (program.windows.core != nullptr) program.windows.core->UpdateCommands();
   });
-  return UserSwitch::switched;
+  return result;
 }
 
 void OpenDayOf(Program& program, const DayRow& row) {
   // The row belongs to a list that may be rebuilt while the day is opened.
   const DayRow chosen = row;
-  const bool has_name = program.Guard("#F3-5", [&chosen] {
+  const bool can_be_opened = program.Guard("#F3-5", [&] {
     // Another file may have the name that is left of this one's.
     if (chosen.folder + Utf8FromText(chosen.file_name) != chosen.path) {
       ThrowSystemError(std::errc::illegal_byte_sequence);
     }
+    try {
+      const InputFile file(chosen.path);
+    } catch (const std::exception&) {
+      if (program.windows.browser != nullptr) program.windows.browser->Refresh_Files();
+      throw;
+    }
   });
-  if (!has_name) return;
+  if (!can_be_opened) return;
   LoadDay(program, chosen.folder, chosen.file_name);
   const bool loaded = program.store.KV_bestand == chosen.file_name && !program.day.FileChanged;
   // Unsaved work that the user wanted to keep stays marked as unsaved.
@@ -111,6 +119,7 @@ ProfilePane ProfilePaneOf(Program& program) {
   program.Guard("#F3-4", [&] {
     const Rec_Profile& profile = program.profile;
     pane.heading = program.texts[kProfileOf] + " " + program.paths.UserName + ":";
+    if (!BelongsTo(profile, program.paths.UserName)) return;
     pane.lbl_pr = {profile[ProfileField::reference],
                    WeightWithUnit(program, profile[ProfileField::weight]),
                    WeightWithUnit(program, profile[ProfileField::goal_weight]),

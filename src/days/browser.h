@@ -7,22 +7,23 @@
 
 #include "core/program.h"
 #include "days/day_list.h"
+#include "days/user_list.h"
 
 namespace kelvora {
 
-// The names that the user list shows. A user without a readable profile ends the list with
-// "#F3-2".
-[[nodiscard]] TextList UsersToBrowse(Program& program);
+// Shows "#F3-2" if the list of users could not be read whole; for when it can be seen.
+void TellOfUnreadUsers(Program& program, const UserList& list);
 
 enum class UserSwitch { same, refused, switched };
 
-// Makes `name` the current user after closing the open day, for which it asks first, and lets the
-// browser rebuild its days. A failure shows "#F3-3". A profile may hold a name that no folder of a
-// user has, one that leads elsewhere among them: that is such a failure, and nothing changes.
-UserSwitch SwitchUser(Program& program, std::string_view name);
+// Makes `user` the current one after closing the open day, for which it asks first, and lets the
+// browser rebuild its days. A failure shows "#F3-3". A folder that is gone is such a failure:
+// nothing changes then, and the browser rebuilds its users.
+UserSwitch SwitchUser(Program& program, const User& user);
 
-// Opens the day of a row and closes the browser. A refusal of the user, or a file that is gone,
-// leaves everything as it is. A file whose name this program can't hold shows "#F3-5".
+// Opens the day of a row and closes the browser. A refusal of the user leaves everything as it is.
+// A file that is gone or can't be opened shows "#F3-5", and the browser rebuilds its days; so does
+// one whose name this program can't hold, which leaves everything as it is.
 void OpenDayOf(Program& program, const DayRow& row);
 
 // Deletes the file of a row if the user agrees, and lets the browser rebuild its days; true if so.

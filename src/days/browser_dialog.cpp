@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include "days/day_dialogs.h"
@@ -72,11 +71,10 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
 QWidget* BrowserDialog::BuildUsers() {
   auto* const side = new QWidget(this);
   lbl_users_ = NewLabel(side, "lbl_users");
-  lst_users_ = new QListWidget(side);
-  NameWidget(lst_users_, "lst_users");
+  lst_users_ = new UserRows(program_, side);
   lst_users_->setFixedWidth(kUsersWidth);
   lbl_users_->setBuddy(lst_users_);
-  connect(lst_users_, &QListWidget::itemSelectionChanged, this, &BrowserDialog::ChooseSelectedUser);
+  connect(lst_users_, &UserRows::Chosen, this, &BrowserDialog::ChooseSelectedUser);
   auto* const layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(lbl_users_);
@@ -134,6 +132,7 @@ void BrowserDialog::CloseWindow() {
 }
 
 void BrowserDialog::done(int result) {
+  lst_users_->TellNothing();
   open_flag_.Clear();
   ++readings_;
   QDialog::done(result);
@@ -174,22 +173,10 @@ void BrowserDialog::SetCaptions() {
 }
 
 void BrowserDialog::Refresh_GebruikersLijst() {
-  const TextList names = UsersToBrowse(program_);
-  const QSignalBlocker quiet(lst_users_);
-  lst_users_->clear();
-  for (const std::string_view name : names) {
-    auto* const user = new QListWidgetItem(ToQt(name), lst_users_);  // the list owns it
-    user->setSizeHint({0, RowHeight(*LV_browse_files_)});
-  }
-  SelectCurrentUser();
+  const UserList list = ReadUsers(program_);
+  lst_users_->ShowUsers(list.users);
   ShowProfile();
-}
-
-void BrowserDialog::SelectCurrentUser() {
-  const QSignalBlocker quiet(lst_users_);
-  const auto current = lst_users_->findItems(ToQt(program_.paths.UserName),
-                                             Qt::MatchFixedString | Qt::MatchCaseSensitive);
-  lst_users_->setCurrentItem(current.isEmpty() ? nullptr : current.front());
+  TellOfUnreadUsers(program_, list);
 }
 
 void BrowserDialog::Refresh_Files() {
@@ -197,10 +184,11 @@ void BrowserDialog::Refresh_Files() {
   ShowDays({});
   shown_by_ = ShownNow();
   const int reading = ++readings_;
-  std::vector<DayRow> rows = ReadDays(program_, [this, reading] { return reading != readings_; });
+  DayList days = ReadDays(program_, [this, reading] { return reading != readings_; });
   if (reading != readings_) return;
-  ShowDays(std::move(rows));
+  ShowDays(std::move(days.rows));
   ShowProfile();
+  TellOfUnreadDays(program_, days);
 }
 
 void BrowserDialog::ShowDays(std::vector<DayRow> rows) {
@@ -215,20 +203,20 @@ void BrowserDialog::ShowProfile() {
 }
 
 void BrowserDialog::ChooseSelectedUser() {
-  const QList<QListWidgetItem*> selected = lst_users_->selectedItems();
-  if (selected.isEmpty()) return;
-  if (SwitchUser(program_, FromQt(selected.front()->text())) == UserSwitch::refused) {
-    SelectCurrentUser();
-  }
+  const auto user = lst_users_->Selected();
+  if (!user) return;
+  if (SwitchUser(program_, *user) == UserSwitch::refused) lst_users_->SelectCurrentUser();
 }
 
 void BrowserDialog::OpenSelectedDay() {
+  lst_users_->TellNow();
   const DayTable& list = *LV_browse_files_;
   const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow());
   if (row) OpenDayOf(program_, list.Rows()[*row]);
 }
 
 void BrowserDialog::DeleteSelectedDay() {
+  lst_users_->TellNow();
   DayTable& list = *LV_browse_files_;
   const std::vector<std::size_t> selected = list.SelectedRows();
   if (selected.empty()) return;

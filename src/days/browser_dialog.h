@@ -7,13 +7,13 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 
 #include "core/views.h"
 #include "days/browser.h"
 #include "days/day_form.h"
 #include "days/day_table_panel.h"
+#include "days/user_rows_panel.h"
 
 namespace kelvora {
 
@@ -40,7 +40,6 @@ class BrowserDialog : public QDialog, public BrowserView {
   void SetCaptions();
   void ShowDays(std::vector<DayRow> rows);
   void ShowProfile();
-  void SelectCurrentUser();
   void ChooseSelectedUser();
   void OpenSelectedDay();
   void DeleteSelectedDay();
@@ -59,7 +58,7 @@ class BrowserDialog : public QDialog, public BrowserView {
   [[nodiscard]] ShownBy ShownNow() const;
   ShownBy shown_by_;
   QLabel* lbl_users_;
-  QListWidget* lst_users_;
+  UserRows* lst_users_;
   QLabel* lbl_days_;
   DayTable* LV_browse_files_;
   QWidget* profile_pane_;

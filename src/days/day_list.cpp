@@ -40,49 +40,65 @@ const NutrientColumn& NutrientOf(const Program& program) {
 // What the list needs of one day file.
 struct StoredDay {
   FolderFile file;
+  bool has_record = false;
   Text date, weekday, height, weight;
   Text trend;
 };
 
-StoredDay ReadDay(Program& program, FolderFile file) {
-  const Rec_DayFile& record = DecodeOrKeepRecord(ReadFile(file.path), program.last_read.day);
-  TextList header;
-  SplitBlock(record[DayFileField::Header], header);
-  return {std::move(file),
-          Text(header[HeaderRow::kDate]),
-          Text(header[HeaderRow::kWeekday]),
-          Text(header[HeaderRow::kHeight]),
-          Text(header[HeaderRow::kWeight]),
-          record[DayFileField::Trend]};
+// What is shorter than its count holds no record, and nothing of another file takes its place.
+bool HoldsRecord(std::string_view bytes) {
+  constexpr std::size_t kCountSize = 4;
+  return bytes.size() >= kCountSize;
 }
 
-std::vector<StoredDay> ReadStoredDays(Program& program, const std::string& folder,
+StoredDay ReadDay(const FolderFile& file) {
+  const std::string bytes = ReadFile(file.path);
+  StoredDay day;
+  day.file = file;
+  std::array<std::string_view, Rec_DayFile::kSize> strings;
+  day.has_record = HoldsRecord(bytes) && DecodeFirstRecord(bytes, strings);
+  if (!day.has_record) return day;
+  const auto field = [&strings](DayFileField id) { return strings[static_cast<std::size_t>(id)]; };
+  TextList header;
+  SplitBlock(field(DayFileField::Header), header);
+  day.date = header[HeaderRow::kDate];
+  day.weekday = header[HeaderRow::kWeekday];
+  day.height = header[HeaderRow::kHeight];
+  day.weight = header[HeaderRow::kWeight];
+  day.trend = field(DayFileField::Trend);
+  return day;
+}
+
+std::vector<StoredDay> ReadStoredDays(Program& program, const std::string& folder, Unread& unread,
                                       const Pause& pause) {
   std::vector<StoredDay> days;
-  program.Guard("#F3-0", [&] {
-    program.platform.pointer.ShowWait();
-    std::vector<FolderFile> files = FilesWithPathsIn(folder, ".kvf");
-    program.store.lst_files.Clear();
-    for (const FolderFile& file : files) program.store.lst_files.Add(file.name);
-    for (FolderFile& file : files) {
-      days.push_back(ReadDay(program, std::move(file)));
-      if (pause()) return;
-    }
-  });
+  program.platform.pointer.ShowWait();
+  const std::vector<FolderFile> files = FilesWithPathsIn(folder, ".kvf");
+  program.store.lst_files.Clear();
+  for (const FolderFile& file : files) program.store.lst_files.Add(file.name);
+  for (const FolderFile& file : files) {
+    unread.Try(file.name, [&] { days.push_back(ReadDay(file)); });
+    if (pause()) break;
+  }
   return days;
 }
 
-DayRow RowOf(Program& program, const std::string& folder, const StoredDay& day,
-             std::size_t number) {
+// The row of a day file of which nothing but the name is known.
+DayRow RowOf(const std::string& folder, const FolderFile& file, std::size_t number) {
+  DayRow row{folder, file.name, file.path, {}};
+  row.cells[BrowseColumn::kNumber] = std::to_string(number);
+  row.cells[BrowseColumn::kPath] = TextFromUtf8(file.path);
+  row.cells[BrowseColumn::kFile] = file.name;
+  return row;
+}
+
+void FillRow(Program& program, const StoredDay& day, DayRow& row) {
+  if (!day.has_record) return;
   const UnitContext units = UnitsOf(program);
   const NutrientColumn& nutrient = NutrientOf(program);
-  DayRow row{folder, day.file.name, day.file.path, {}};
+  auto& cells = row.cells;
   Text height = day.height;
   Text weight = day.weight;
-  auto& cells = row.cells;
-  cells[BrowseColumn::kNumber] = std::to_string(number);
-  cells[BrowseColumn::kPath] = TextFromUtf8(day.file.path);
-  cells[BrowseColumn::kFile] = day.file.name;
   cells[BrowseColumn::kDate] = Format_Datum(day.date, program.settings[Setting::opt_system], units);
   cells[BrowseColumn::kDay] = day.weekday;
   cells[BrowseColumn::kWeight] = BrowsedWeight(program, day.weight);
@@ -90,7 +106,6 @@ DayRow RowOf(Program& program, const std::string& folder, const StoredDay& day,
   cells[BrowseColumn::kNutrient] =
       FormatNumber(ReadStoredNumber(FieldOf(day.trend, nutrient.trend_field)),
                    PatternOf(PriorityOfUser(program)), units.locale.DecimalSeparator());
-  return row;
 }
 
 }  // namespace
@@ -122,7 +137,7 @@ Text DateKeyOf(std::string_view stored_date) {
   return last_two(digits) + last_two(day_and_month) + day_and_month.substr(0, 2);
 }
 
-std::vector<DayRow> ReadDays(Program& program, const std::function<bool()>& overtaken) {
+DayList ReadDays(Program& program, const std::function<bool()>& overtaken) {
   // Another user may be chosen while events run.
   const std::string folder = program.paths.FilesPath;
   bool wanted = true;
@@ -131,21 +146,29 @@ std::vector<DayRow> ReadDays(Program& program, const std::function<bool()>& over
     wanted = wanted && !overtaken();
     return !wanted;
   };
-  const std::vector<StoredDay> days = ReadStoredDays(program, folder, pause);
-  std::vector<DayRow> rows;
-  program.Guard("#F3-1", [&] {
+  DayList list;
+  std::vector<DayRow>& rows = list.rows;
+  list.values.Try({}, [&] {
+    const std::vector<StoredDay> days = ReadStoredDays(program, folder, list.files, pause);
     std::vector<double> keys;
     for (const StoredDay& day : days) keys.push_back(ReadStoredNumber(DateKeyOf(day.date)));
     std::vector<std::size_t> places;
     if (wanted) places = ExchangeSorted(keys, pause);
     for (const std::size_t place : places) {
       if (!wanted) break;
-      rows.push_back(RowOf(program, folder, days[place], rows.size() + 1));
+      const StoredDay& day = days[place];
+      DayRow& row = rows.emplace_back(RowOf(folder, day.file, rows.size() + 1));
+      list.values.Try(day.file.name, [&] { FillRow(program, day, row); });
       pause();
     }
     program.platform.pointer.Restore();
   });
-  return rows;
+  return list;
+}
+
+void TellOfUnreadDays(Program& program, const DayList& days) {
+  days.files.Report(program.FailurePath(), "#F3-0");
+  days.values.Report(program.FailurePath(), "#F3-1");
 }
 
 bool ClickHeading(DayListSort& sort, std::size_t column) {

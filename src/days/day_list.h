@@ -11,6 +11,7 @@
 #include "core/column_sort.h"
 #include "core/exchange_sort.h"
 #include "core/program.h"
+#include "core/unread.h"
 
 namespace kelvora {
 
@@ -36,14 +37,25 @@ struct DayRow {
 // with their two digits: 99 comes after 04. Marks and blanks don't matter.
 [[nodiscard]] Text DateKeyOf(std::string_view stored_date);
 
-// The day files of the current user, oldest date first. A file that can't be read ends the list
-// with "#F3-0"; a failure while rows are made shows "#F3-1". Both leave the rows made so far, those
-// of the files before it in order of their names.
+// The days of one user and what could not be read of them.
+struct DayList {
+  std::vector<DayRow> rows;
+  Unread files;
+  Unread values;
+};
+
+// The day files of the current user, oldest date first. A file that holds no record has a row with
+// its name and nothing else; one that can't be read is passed over, and a value that no column can
+// show leaves the rest of its row empty: TellOfUnreadDays names them.
 //
 // Other events run meanwhile, and may call this again. `overtaken` is asked after them: once it
 // answers true the reading ends, and its rows are of no use.
-[[nodiscard]] std::vector<DayRow> ReadDays(
+[[nodiscard]] DayList ReadDays(
     Program& program, const std::function<bool()>& overtaken = [] { return false; });
+
+// Shows "#F3-0" if a file was passed over, and "#F3-1" for values that could not be shown; for when
+// the rows can be seen.
+void TellOfUnreadDays(Program& program, const DayList& days);
 
 // By which column the list is sorted, if by any, and how.
 struct DayListSort {

@@ -3,11 +3,12 @@
 #include <array>
 
 #include "days/day_form_check.h"
+#include "days/kept_state.h"
 #include "days/open_day.h"
 #include "days/targets.h"
-#include "days/user_list.h"
 #include "days/weekday.h"
 #include "language/day_settings_texts.h"
+#include "language/own_texts.h"
 #include "nutrition/dates.h"
 #include "nutrition/totals.h"
 #include "storage/day_file.h"
@@ -74,11 +75,6 @@ DayForm FormOf(const Rec_Profile& profile, const Program& program) {
   return form;
 }
 
-// A profile that bears another name says nothing of this user: nobody is given another's data.
-bool BelongsTo(const Rec_Profile& profile, std::string_view name) {
-  return profile[ProfileField::name] == name;
-}
-
 DayForm FormOfUser(const Program& program, std::string_view name) {
   if (BelongsTo(program.profile, name)) return FormOf(program.profile, program);
   DayForm form = NewUserForm(program);
@@ -114,28 +110,62 @@ void UpdateCommands(Program& program) {
 }
 
 // What only a new day needs, before the form is taken.
-void BeginDay(Program& program, const Text& name) {
+void BeginDay(Program& program, const User& user) {
   const Platform& platform = program.platform;
-  MakeUserFolders(program.paths, name);
-  TakeOver(program, name);
+  TakeOver(program, user);
+  MakeUserFolders(program.paths, user.name);
   program.store.KV_bestand = NewDayFileName(platform.locale, platform.clock.Now());
-  Load_Custom(program, CustomFile(program.paths, name));
-  Load_Favorites(program, FavoritesFile(program.paths, name));
+  Load_Custom(program, CustomFile(program.paths, user.name));
+  Load_Favorites(program, FavoritesFile(program.paths, user.name));
 }
 
-void TakeIntoDay(Program& program, const DayForm& form) {
+// False if the profile can't be written.
+bool TakeIntoDay(Program& program, const DayForm& form) {
   Apply_To_Profile(program, form);
   program.store.L_gegevens = HeaderOf(form);
   // Once more: the trend text takes the body weight out of the header.
   Apply_To_Profile(program, form);
-  Save_Profile(program, ProfileFile(program.paths, form.pg_0));
+  if (!Save_Profile(program, ProfileFile(program.paths, form.pg_0))) return false;
   SetFileChanged(program, true);
   UpdateCommands(program);
+  return true;
 }
 
-bool UserWantsRemoval(Program& program, std::string_view name) {
+// Undoes what was done before the profile could not be written.
+void PutBack(Program& program, const KeptState& before) {
+  before.PutBack(program);
+  RefreshDayWindows(program);
+  ShowFoodsOfUser(program);
+  if (program.windows.core != nullptr) program.windows.core->UpdateStatusBar();
+  UpdateCommands(program);
+  // The re-totalling has made the trend text anew.
+  before.PutBack(program);
+}
+
+// The user of a confirmed form: the chosen one, or the one whose name was typed.
+User UserOf(const DayEditing& editing) {
+  return editing.user.value_or(UserNamed(editing.form.pg_0));
+}
+
+// Whether the form may be taken; says why not.
+bool Passes(Program& program, const DayEditing& editing) {
+  if (const auto error = CheckForm(editing.form)) {
+    Tell(program, BoxIcon::error, TextOf(program.texts, *error));
+    return false;
+  }
+  // The folder of a chosen user is there already, whatever the user is called.
+  const bool new_user = editing.mode == DayDialogMode::new_day && !editing.user;
+  if (new_user && !CanNameAFolder(editing.form.pg_0)) {
+    Tell(program, BoxIcon::error,
+         OwnTextOf(program.texts, OwnText::name_not_possible) + "\n" +
+             OwnTextOf(program.texts, OwnText::name_advice));
+    return false;
+  }
+  return true;
+}
+
+bool UserWantsRemoval(Program& program, const Text& user) {
   const TextTables& texts = program.texts;
-  const Text user(name);
   const Box box{.title = texts[kDeleteTitle] + " " + user + texts[kDeleteTitleEnd],
                 .text = texts[kDeleteGoing] + " " + user + " " + texts[kDeleteSure] + "\n" +
                         texts[kDeleteFiles],
@@ -146,6 +176,7 @@ bool UserWantsRemoval(Program& program, std::string_view name) {
 
 void ForgetCurrentUser(Program& program) {
   program.paths.UserName.clear();
+  program.paths.UserFolderName.clear();
   program.paths.FilesPath.clear();
   program.profile = DefaultsOfNewUser();
   ForgetFoodsOfUser(program);
@@ -167,22 +198,25 @@ DayEditing OpenDayEditing(const Program& program) {
   return editing;
 }
 
-TextList UsersForNewDay(Program& program) {
-  TextList names;
-  program.Guard("#F2-0", [&] { ReadUserNames(program, names); });
-  return names;
+void TellOfUnreadUsersForDay(Program& program, const UserList& list) {
+  list.unread.Report(program.FailurePath(), "#F2-0");
 }
 
-void ChooseUserForDay(Program& program, DayEditing& editing, std::string_view name) {
-  const Text user(name);
+void ChooseUserForDay(Program& program, DayEditing& editing, const User& user) {
+  editing.user = user;
   // A profile that can't be opened leaves the working copy as it is, and what was applied to it
   // belongs to another user.
   program.profile = editing.kept_profile;
   program.Guard("#F2-1", [&] { ChooseUser(program, user); });
   KeepWorkingCopy(program, editing);
-  editing.form = FormOfUser(program, user);
+  editing.form = FormOfUser(program, user.name);
   FillBoxes(program, editing.form);
   UpdateCommands(program);
+}
+
+void BeginNewUser(Program& program, DayEditing& editing) {
+  editing.user.reset();
+  editing.form = NewUserForm(program);
 }
 
 void EditOpenDay(Program& program, DayEditing& editing) {
@@ -248,18 +282,19 @@ TextList HeaderOf(const DayForm& form) {
 }
 
 bool ConfirmDay(Program& program, DayEditing& editing) {
-  const DayForm& form = editing.form;
-  if (const auto error = CheckForm(form)) {
-    Tell(program, BoxIcon::error, TextOf(program.texts, *error));
-    return false;
-  }
+  if (!Passes(program, editing)) return false;
   const bool new_day = editing.mode == DayDialogMode::new_day;
-  editing.confirmed = program.Guard("#F2-3", [&] {
-    if (new_day) BeginDay(program, form.pg_0);
-    TakeIntoDay(program, form);
+  const User user = UserOf(editing);
+  const KeptState before(program, program.paths.UsersPath + user.folder_name + "/");
+  bool taken = false;
+  const bool completed = program.Guard("#F2-3", [&] {
+    if (new_day) BeginDay(program, user);
+    taken = TakeIntoDay(program, editing.form);
+    if (!taken) return PutBack(program, before);
     if (!new_day) RebuildBrowser(program);
   });
-  editing.start_failed = new_day && !editing.confirmed;
+  editing.confirmed = completed && taken;
+  editing.start_failed = new_day && !completed;
   return editing.confirmed;
 }
 
@@ -281,18 +316,21 @@ void CancelDay(Program& program, DayEditing& editing) {
   });
 }
 
-UserRemoval RemoveUser(Program& program, DayEditing& editing, std::string_view name) {
-  const Text user(name);
-  const bool wanted = UserWantsRemoval(program, user);
+UserRemoval RemoveUser(Program& program, DayEditing& editing, const User& chosen) {
+  const User user = chosen;  // the list that it stands in is rebuilt
+  const bool wanted = UserWantsRemoval(program, user.name);
   const bool removed = program.Guard("#F2-7", [&] {
     if (!wanted) return;
-    DeleteUserFolder(program.paths, program.paths.UsersPath + Utf8FromText(user));
-    if (program.paths.UserName == user) ForgetCurrentUser(program);
+    const std::string folder = program.paths.UsersPath + user.folder_name;
     const KV_data& store = program.store;
-    const bool day_is_theirs = store.DayIsOpen() && store.L_gegevens[HeaderRow::kName] == user;
+    const bool day_is_theirs =
+        store.DayIsOpen() &&
+        UserFolder(program.paths, store.L_gegevens[HeaderRow::kName]) == folder + "/";
+    DeleteUserFolder(program.paths, folder);
+    if (IsCurrent(program, user)) ForgetCurrentUser(program);
     if (day_is_theirs) SetFileChanged(program, true);
     KeepWorkingCopy(program, editing);
-    editing.form = NewUserForm(program);
+    BeginNewUser(program, editing);
     UpdateCommands(program);
   });
   RebuildBrowser(program);

@@ -6,13 +6,18 @@
 // profile at once; cancelling brings back what stood there.
 #pragma once
 
+#include <optional>
+
 #include "days/day_form.h"
+#include "days/user_list.h"
 
 namespace kelvora {
 
 struct DayEditing {
   DayDialogMode mode = DayDialogMode::new_day;
   DayForm form;
+  // The user that was chosen in the list; none while a new one is typed.
+  std::optional<User> user;
   // The working copy and the trend text as they were before something was applied at once.
   Rec_Profile kept_profile;
   Text kept_trend;
@@ -27,13 +32,15 @@ struct DayEditing {
 // Begins in the mode of the program, with the form of a new user.
 [[nodiscard]] DayEditing OpenDayEditing(const Program& program);
 
-// The names that the user list shows. A user without a readable profile ends the list with
-// "#F2-0".
-[[nodiscard]] TextList UsersForNewDay(Program& program);
+// Shows "#F2-0" if the list of users could not be read whole; for when it can be seen.
+void TellOfUnreadUsersForDay(Program& program, const UserList& list);
 
-// Makes `name` the current user and gives the form of the profile, dated today. A profile that
-// can't be read or bears another name leaves the person empty. A failure shows "#F2-1".
-void ChooseUserForDay(Program& program, DayEditing& editing, std::string_view name);
+// Makes `user` the current one and gives the form of the profile, dated today. A profile that can't
+// be read or bears another name leaves the person empty. A failure shows "#F2-1".
+void ChooseUserForDay(Program& program, DayEditing& editing, const User& user);
+
+// Gives the form of a new user, whose name is still to be typed.
+void BeginNewUser(Program& program, DayEditing& editing);
 
 // Gives the form of the open day: the profile of the current user, read anew, with weight, age,
 // weekday and date of the day. A failure shows "#F2-4".
@@ -62,7 +69,9 @@ void SetAppliesAtOnce(Program& program, bool applies);
 // Confirms the form. A new day makes the folders of its user, makes that user current and names the
 // day file; a user of that name keeps all days. Both modes then bring the form into the store and
 // the profile file, which is written anew. False with nothing changed after the box of a failed
-// test, and false after a failure, which shows "#F2-3".
+// test, and false after a failure, which shows "#F2-3". A profile that can't be written shows its
+// own box and is false too, with user, day and working copy as they were before: a day must not go
+// on whose folder takes no files.
 [[nodiscard]] bool ConfirmDay(Program& program, DayEditing& editing);
 
 // Shows the windows of a day that was begun; an open day keeps those it has.
@@ -78,6 +87,6 @@ enum class UserRemoval { refused, removed };
 // one leaves none: name, working copy and food lists go, so that nobody else gets them. Of an open
 // day nothing is lost: it stays in memory, and counts as unsaved if it was that user's. An open
 // browser rebuilds its lists after either answer. A failure shows "#F2-7" and counts as a refusal.
-UserRemoval RemoveUser(Program& program, DayEditing& editing, std::string_view name);
+UserRemoval RemoveUser(Program& program, DayEditing& editing, const User& user);
 
 }  // namespace kelvora

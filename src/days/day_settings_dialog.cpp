@@ -102,6 +102,7 @@ void DaySettingsDialog::CloseWindow() {
 }
 
 void DaySettingsDialog::done(int result) {
+  users_->TellNothing();
   CancelDay(program_, editing_);
   open_flag_.Clear();
   QDialog::done(result);
@@ -143,10 +144,13 @@ void DaySettingsDialog::PutFocus() {
 }
 
 void DaySettingsDialog::ShowUsers() {
-  const TextList names = UsersForNewDay(program_);
-  user_count_ = names.Count();
+  const UserList list = ReadUsers(program_);
+  user_count_ = list.users.size();
   lbl_info_->setText(ToQt(program_.texts[InstructionFor(editing_.mode, user_count_)]));
-  users_->ShowNames(names);
+  users_->ShowUsers(list.users);
+  // Behind the list, which can be seen by then.
+  QMetaObject::invokeMethod(
+      this, [this, list] { TellOfUnreadUsersForDay(program_, list); }, Qt::QueuedConnection);
 }
 
 void DaySettingsDialog::ShowForm() {
@@ -161,7 +165,9 @@ void DaySettingsDialog::TakeForm() {
 }
 
 void DaySettingsDialog::ChooseSelectedUser() {
-  ChooseUserForDay(program_, editing_, users_->Selected());
+  const auto user = users_->Selected();
+  if (!user) return;
+  ChooseUserForDay(program_, editing_, *user);
   person_->SetNameEnabled(false);
   users_->SetRemovable(true);
   ShowForm();
@@ -170,19 +176,22 @@ void DaySettingsDialog::ChooseSelectedUser() {
 void DaySettingsDialog::BeginNewUser() {
   users_->SelectNone();
   users_->SetRemovable(false);
-  editing_.form = NewUserForm(program_);
+  kelvora::BeginNewUser(program_, editing_);
   person_->SetNameEnabled(true);
   ShowForm();
   person_->FocusName();
 }
 
 void DaySettingsDialog::RemoveSelectedUser() {
-  if (RemoveUser(program_, editing_, users_->Selected()) == UserRemoval::refused) return;
+  users_->TellNow();
+  const auto user = users_->Selected();
+  if (!user || RemoveUser(program_, editing_, *user) == UserRemoval::refused) return;
   ShowUsers();
   BeginNewUser();
 }
 
 void DaySettingsDialog::Confirm() {
+  users_->TellNow();
   TakeForm();
   if (!ConfirmDay(program_, editing_)) return;
   // Out of sight first: the arrangement opens the windows of the day, and closes this one.

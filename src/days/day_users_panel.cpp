@@ -1,14 +1,12 @@
 #include "days/day_users_panel.h"
 
-#include <functional>
 #include <utility>
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "days/user_rows_panel.h"
 #include "language/day_settings_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -19,23 +17,6 @@ namespace {
 using namespace day_settings_text;
 
 constexpr int kUsersWidth = 200;
-
-// The space bar selects and confirms an entry, as a click on it does.
-class UserList : public QListWidget {
- public:
-  UserList(QWidget* parent, std::function<void()> confirm)
-      : QListWidget(parent), confirm_(std::move(confirm)) {}
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Space) setCurrentRow(currentRow());
-    if (event->key() == Qt::Key_Space && !selectedItems().isEmpty()) return confirm_();
-    QListWidget::keyPressEvent(event);
-  }
-
- private:
-  std::function<void()> confirm_;
-};
 
 QToolButton* NewToolButton(QWidget* bar, const char* name, std::string_view icon) {
   auto* const button = new QToolButton(bar);
@@ -58,14 +39,11 @@ void SetTip(QWidget* widget, std::string_view text) {
 DayUsersPanel::DayUsersPanel(Program& program, QWidget* parent)
     : QWidget(parent), program_(program) {
   lbl_users_ = NewLabel(this, "lbl_users");
-  lst_users_ = new UserList(this, [this] { emit Confirmed(); });
-  NameWidget(lst_users_, "lst_users");
+  lst_users_ = new UserRows(program, this);
   lst_users_->setFixedWidth(kUsersWidth);
   lbl_users_->setBuddy(lst_users_);
-  connect(lst_users_, &QListWidget::itemSelectionChanged, this, [this] {
-    if (AnySelected()) emit Chosen();
-  });
-  connect(lst_users_, &QListWidget::itemClicked, this, &DayUsersPanel::Confirmed);
+  connect(lst_users_, &UserRows::Chosen, this, &DayUsersPanel::Chosen);
+  connect(lst_users_, &UserRows::Confirmed, this, &DayUsersPanel::Confirmed);
 
   Toolbar_control_ = new QWidget(this);
   NameWidget(Toolbar_control_, "Toolbar_control");
@@ -94,30 +72,28 @@ void DayUsersPanel::Set_Taal() {
   SetTip(delete_user_, texts[kTipDeleteUser]);
 }
 
-void DayUsersPanel::ShowNames(const TextList& names) {
-  const QSignalBlocker quiet(lst_users_);
-  lst_users_->clear();
-  for (const std::string_view name : names) {
-    auto* const user = new QListWidgetItem(ToQt(name), lst_users_);  // the list owns it
-    user->setSizeHint({0, RowHeight(*lst_users_)});
-  }
-  const auto current = lst_users_->findItems(ToQt(program_.paths.UserName),
-                                             Qt::MatchFixedString | Qt::MatchCaseSensitive);
-  if (!current.isEmpty()) lst_users_->setCurrentItem(current.front());
+void DayUsersPanel::ShowUsers(std::vector<User> users) {
+  lst_users_->ShowUsers(std::move(users));
 }
 
 bool DayUsersPanel::AnySelected() const {
-  return !lst_users_->selectedItems().isEmpty();
+  return Selected().has_value();
 }
 
-Text DayUsersPanel::Selected() const {
-  return AnySelected() ? FromQt(lst_users_->selectedItems().front()->text()) : Text();
+std::optional<User> DayUsersPanel::Selected() const {
+  return lst_users_->Selected();
+}
+
+void DayUsersPanel::TellNow() {
+  lst_users_->TellNow();
+}
+
+void DayUsersPanel::TellNothing() {
+  lst_users_->TellNothing();
 }
 
 void DayUsersPanel::SelectNone() {
-  const QSignalBlocker quiet(lst_users_);
-  lst_users_->clearSelection();
-  lst_users_->setCurrentItem(nullptr);
+  lst_users_->SelectNone();
 }
 
 void DayUsersPanel::FocusList() {

@@ -2,15 +2,19 @@
 // given and tells what is chosen.
 #pragma once
 
-#include <QListWidget>
+#include <optional>
+#include <vector>
+
 #include <QToolButton>
 #include <QWidget>
 
-#include "core/program.h"
+#include "days/user_list.h"
 
 class QLabel;
 
 namespace kelvora {
+
+class UserRows;
 
 class DayUsersPanel : public QWidget {
   Q_OBJECT
@@ -19,10 +23,13 @@ class DayUsersPanel : public QWidget {
   DayUsersPanel(Program& program, QWidget* parent);
 
   void Set_Taal();
-  // Shows the names; the current user is selected, without a word, if `names` has one.
-  void ShowNames(const TextList& names);
+  // Shows the users; the current one is selected, without a word, if it is among them.
+  void ShowUsers(std::vector<User> users);
   [[nodiscard]] bool AnySelected() const;
-  [[nodiscard]] Text Selected() const;
+  [[nodiscard]] std::optional<User> Selected() const;
+  // As in UserRows.
+  void TellNow();
+  void TellNothing();
   void SelectNone();
   void FocusList();
   void SetRemovable(bool removable);
@@ -39,7 +46,7 @@ class DayUsersPanel : public QWidget {
  private:
   Program& program_;
   QLabel* lbl_users_;
-  QListWidget* lst_users_;
+  UserRows* lst_users_;
   QWidget* Toolbar_control_;
   QToolButton* new_user_;
   QToolButton* delete_user_;

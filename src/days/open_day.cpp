@@ -14,19 +14,23 @@ void BeginNewDay(Program& program) {
   if (program.windows.core != nullptr) program.windows.core->OpenWindow(WindowId::day_settings);
 }
 
-void ChooseUser(Program& program, std::string_view name) {
-  const Text user(name);
+void ChooseUser(Program& program, const User& user) {
   TakeOver(program, user);
-  Load_Profile(program, ProfileFile(program.paths, user));
-  Load_Custom(program, CustomFile(program.paths, user));
-  Load_Favorites(program, FavoritesFile(program.paths, user));
+  const std::string folder = UserFolder(program.paths, program.paths.UserName);
+  Load_Profile(program, ProfileFileIn(folder));
+  Load_Custom(program, CustomFileIn(folder));
+  Load_Favorites(program, FavoritesFileIn(folder));
   FollowSettings(program);
 }
 
-void TakeOver(Program& program, std::string_view name) {
-  const bool another = program.paths.UserName != name;
-  SetCurrentUser(program, name);
-  if (another) ForgetFoodsOfUser(program);
+void TakeOver(Program& program, const User& user) {
+  const bool another = !IsCurrent(program, user);
+  SetCurrentUser(program, user.name, user.folder_name);
+  if (!another) return;
+  program.profile = DefaultsOfNewUser();
+  program.profile[ProfileField::name] = user.name;
+  ForgetFoodsOfUser(program);
+  if (program.windows.core != nullptr) program.windows.core->UpdateStatusBar();
 }
 
 void ForgetFoodsOfUser(Program& program) {
@@ -34,6 +38,10 @@ void ForgetFoodsOfUser(Program& program) {
   program.kept.favourites = {};
   program.store.Custom_list.Clear();
   program.store.Favorites_list.Clear();
+  ShowFoodsOfUser(program);
+}
+
+void ShowFoodsOfUser(Program& program) {
   if (FoodListsView* const lists = program.windows.lists) {
     lists->Populate_Food_List_Custom();
     lists->Populate_Food_List_Favo();

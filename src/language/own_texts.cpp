@@ -99,6 +99,11 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::thursday, "Thursday"_w, "donderdag"_w},
     OwnTextRow{OwnText::friday, "Friday"_w, "vrijdag"_w},
     OwnTextRow{OwnText::saturday, "Saturday"_w, "zaterdag"_w},
+    OwnTextRow{OwnText::name_not_possible, "This name can't be used for your folder."_w,
+               "Deze naam kan niet voor je map worden gebruikt."_w},
+    OwnTextRow{OwnText::name_advice,
+               "Choose a name without \"/\" that is not \".\" or \"..\" and isn't too long."_w,
+               "Kies een naam zonder \"/\" die niet \".\" of \"..\" is en niet te lang."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

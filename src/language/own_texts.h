@@ -66,6 +66,9 @@ enum class OwnText {
   thursday,
   friday,
   saturday,
+  // What the day dialog says to a name that no folder can have.
+  name_not_possible,
+  name_advice,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -79,6 +82,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 41;
+inline constexpr int kOwnTextCount = 43;
 
 }  // namespace kelvora

@@ -7,6 +7,7 @@
 #include "core/common.h"
 #include "language/common_texts.h"
 #include "language/main_texts.h"
+#include "storage/folders.h"
 #include "storage/kept_files.h"
 #include "storage/record_file.h"
 
@@ -98,9 +99,8 @@ bool SaveDay(Program& program) {
     const KV_data& store = program.store;
     program.platform.pointer.ShowWait();
     if (!store.DayIsOpen()) return;  // meant: the next routine restores the pointer
-    WriteRecord(UserFolder(program.paths, store.L_gegevens[HeaderRow::kName]) + "Files/" +
-                    Utf8FromText(store.KV_bestand),
-                PackDay(store), NewFileMode::owner_only);
+    WriteRecord(FolderOfDay(program) + "Files/" + Utf8FromText(store.KV_bestand), PackDay(store),
+                NewFileMode::owner_only);
     program.platform.pointer.Restore();
     SetFileChanged(program, false);
   });

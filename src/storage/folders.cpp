@@ -114,11 +114,20 @@ void MakeUserFolders(const Paths& paths, std::string_view name) {
   }
 }
 
+std::string FolderOfDay(const Program& program) {
+  const Paths& paths = program.paths;
+  const std::string_view name = program.store.L_gegevens[HeaderRow::kName];
+  const std::string by_name = UserFolder(paths, name);
+  std::error_code ignored;
+  const bool use_name = paths.UserName.empty() || fs::is_directory(by_name, ignored);
+  return use_name ? by_name : UserFolder(paths, paths.UserName);
+}
+
 void DeleteUserFolder(const Paths& paths, const std::string& path) {
   const bool below = path.starts_with(paths.UsersPath);
   std::string_view name = std::string_view(path).substr(below ? paths.UsersPath.size() : 0);
   if (name.ends_with('/')) name.remove_suffix(1);
-  if (!below || name.empty() || !CanNameAFolder(name)) {
+  if (!below || !IsFolderName(name)) {
     ThrowSystemError(std::errc::invalid_argument);
   }
   const fs::path folder = paths.UsersPath + std::string(name);

@@ -32,6 +32,10 @@ bool MakeFolder(const std::string& path);
 // profile.
 void MakeUserFolders(const Paths& paths, std::string_view name);
 
+// The folder of the user of the open day: the one that its header names. A day without a name, or
+// with one that no folder has, is the current user's; so it can be saved where it was opened.
+[[nodiscard]] std::string FolderOfDay(const Program& program);
+
 // Removes the folder of one user with all its content, write-protected or not. `path` must be a
 // direct child of the users folder, or std::system_error is thrown; a link is removed as a
 // link. Throws std::filesystem::filesystem_error.

@@ -65,7 +65,7 @@ class Browser : public testing::Test {
 
   std::vector<Text> Column(std::size_t column) {
     std::vector<Text> cells;
-    for (const DayRow& row : ReadDays(program)) cells.push_back(row.cells[column]);
+    for (const DayRow& row : ReadDays(program).rows) cells.push_back(row.cells[column]);
     return cells;
   }
 

@@ -11,51 +11,11 @@
 namespace kelvora {
 namespace {
 
-TEST_F(Browser, AFolderWithoutAProfileEndsTheUserListWithItsCode) {
-  std::filesystem::create_directories(program.paths.UsersPath + "Bert");
-  AddUser("Carl");
-  const TextList names = UsersToBrowse(program);
-  ASSERT_EQ(names.Count(), 1u);
-  EXPECT_EQ(names[0], "Anna");
-  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-2"));
-}
-
-TEST_F(Browser, AnEmptyAndACutProfileShowWhatIsThere) {
-  for (const char* name : {"Bert", "Carl", "Dora"}) AddUser(name);
-  // Cut before the first string, and behind two letters of the name.
-  WriteFileAnew(ProfileFile(program.paths, "Bert"), "");
-  WriteFileAnew(ProfileFile(program.paths, "Carl"), std::string_view("\1\0\0\0\4\0Ca", 8));
-  const TextList names = UsersToBrowse(program);
-  EXPECT_TRUE(test.boxes.shown.empty());
-  ASSERT_EQ(names.Count(), 4u);
-  EXPECT_EQ(names[1], "");
-  EXPECT_EQ(names[2], "Ca");
-  EXPECT_EQ(names[3], "Dora");
-}
-
-TEST_F(Browser, AForeignProfileCannotLeadOutOfTheUsersFolder) {
-  const std::string outside = program.paths.UsersPath + "../outside/";
-  MakeFolder(outside + "Files");
-  for (const char* name : {"../outside", "..", ".", ""}) {
-    AddUser("Bert");
-    Rec_Profile foreign;
-    foreign[ProfileField::name] = name;
-    WriteRecord(ProfileFile(program.paths, "Bert"), foreign);
-    EXPECT_EQ(UsersToBrowse(program)[1], name);
-    test.boxes.shown.clear();
-    EXPECT_EQ(SwitchUser(program, name), UserSwitch::refused);
-    ASSERT_EQ(test.boxes.shown.size(), 1u);
-    EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-3"));
-    EXPECT_EQ(program.paths.UserName, "Anna");
-    EXPECT_EQ(program.paths.FilesPath, program.paths.UsersPath + "Anna/Files/");
-  }
-}
-
 // Another user.
 
 TEST_F(Browser, TheCurrentUserChosenAgainChangesNothing) {
   test.OpenDay("Anna");
-  EXPECT_EQ(SwitchUser(program, "Anna"), UserSwitch::same);
+  EXPECT_EQ(SwitchUser(program, UserNamed("Anna")), UserSwitch::same);
   EXPECT_TRUE(program.store.DayIsOpen());
   EXPECT_TRUE(test.boxes.shown.empty());
 }
@@ -66,7 +26,7 @@ TEST_F(Browser, WithADayOpenAnotherUserIsAskedForFirst) {
   program.windows.browser = &window;
   test.OpenDay("Anna");
   test.boxes.answers = {BoxAnswer::no};
-  EXPECT_EQ(SwitchUser(program, "Bert"), UserSwitch::refused);
+  EXPECT_EQ(SwitchUser(program, UserNamed("Bert")), UserSwitch::refused);
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   const Box& box = test.boxes.shown[0];
   EXPECT_EQ(box.title, "Switch to another user.");
@@ -81,7 +41,7 @@ TEST_F(Browser, WithADayOpenAnotherUserIsAskedForFirst) {
   EXPECT_EQ(window.refreshed, 0);
 
   test.boxes.answers = {BoxAnswer::yes};
-  EXPECT_EQ(SwitchUser(program, "Bert"), UserSwitch::switched);
+  EXPECT_EQ(SwitchUser(program, UserNamed("Bert")), UserSwitch::switched);
   EXPECT_EQ(program.paths.UserName, "Bert");
   EXPECT_EQ(program.paths.FilesPath, program.paths.UsersPath + "Bert/Files/");
   EXPECT_EQ(program.profile[ProfileField::name], "Bert");
@@ -93,7 +53,7 @@ TEST_F(Browser, WithADayOpenAnotherUserIsAskedForFirst) {
 
 TEST_F(Browser, WithoutADayNothingIsAsked) {
   AddUser("Bert");
-  EXPECT_EQ(SwitchUser(program, "Bert"), UserSwitch::switched);
+  EXPECT_EQ(SwitchUser(program, UserNamed("Bert")), UserSwitch::switched);
   EXPECT_TRUE(test.boxes.shown.empty());
   EXPECT_EQ(program.paths.UserName, "Bert");
 }
@@ -110,7 +70,7 @@ class OpeningADay : public Browser {
 };
 
 TEST_F(OpeningADay, LoadsItClosesTheBrowserAndArrangesTheWindows) {
-  const auto rows = ReadDays(program);
+  const auto rows = ReadDays(program).rows;
   ASSERT_EQ(rows.size(), 1u);
   OpenDayOf(program, rows[0]);
   EXPECT_EQ(program.store.KV_bestand, "a.kvf");
@@ -124,7 +84,7 @@ TEST_F(OpeningADay, LoadsItClosesTheBrowserAndArrangesTheWindows) {
 }
 
 TEST_F(OpeningADay, ARefusalKeepsTheUnsavedDayAndItsMark) {
-  const auto rows = ReadDays(program);
+  const auto rows = ReadDays(program).rows;
   test.OpenDay("Anna", "open.kvf");
   program.day.FileChanged = true;
   test.boxes.answers = {BoxAnswer::no};
@@ -136,18 +96,25 @@ TEST_F(OpeningADay, ARefusalKeepsTheUnsavedDayAndItsMark) {
   EXPECT_TRUE(test.core.opened.empty());
 }
 
-TEST_F(OpeningADay, AFileThatIsGoneLeavesTheBrowserOpen) {
-  const auto rows = ReadDays(program);
+TEST_F(OpeningADay, AFileThatIsGoneIsToldOfAndTheListRebuilt) {
+  const auto rows = ReadDays(program).rows;
+  test.OpenDay("Anna", "open.kvf");
+  program.day.FileChanged = true;
   std::filesystem::remove(program.paths.FilesPath + "a.kvf");
   OpenDayOf(program, rows[0]);
-  EXPECT_FALSE(program.store.DayIsOpen());
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "An error occured.\n\nNo such file or directory\nBrelux CODE:#F3-5");
+  EXPECT_EQ(window.refreshed, 1);
   EXPECT_EQ(window.closed, 0);
+  EXPECT_EQ(program.store.KV_bestand, "open.kvf");
+  EXPECT_TRUE(program.day.FileChanged);
 }
 
 TEST_F(OpeningADay, AFileWhoseNameTextCannotHoldIsNotTakenForAnother) {
   AddDay("\xE6\x97\xA5.kvf", {.date = "01-03-04"});
   AddDay("?.kvf", {.date = "02-03-04"});
-  const auto rows = ReadDays(program);
+  const auto rows = ReadDays(program).rows;
   ASSERT_EQ(rows.size(), 3u);
   EXPECT_EQ(rows[0].file_name, rows[1].file_name);
   OpenDayOf(program, rows[0]);
@@ -163,7 +130,7 @@ TEST_F(OpeningADay, AFileWhoseNameTextCannotHoldIsNotTakenForAnother) {
 class DeletingADay : public OpeningADay {
  protected:
   std::string PathOf(const char* name) { return program.paths.FilesPath + name; }
-  DayRow OnlyRow() { return ReadDays(program).at(0); }
+  DayRow OnlyRow() { return ReadDays(program).rows.at(0); }
 };
 
 TEST_F(DeletingADay, AsksWithTheDateAsItIsShown) {
@@ -184,7 +151,7 @@ TEST_F(DeletingADay, AsksWithTheDateAsItIsShown) {
 TEST_F(DeletingADay, AYesDeletesThatFileOnlyAndRebuildsTheList) {
   AddDay("b.kvf", {.date = "06-03-04"});
   test.boxes.answers = {BoxAnswer::yes};
-  EXPECT_TRUE(DeleteDayOf(program, ReadDays(program).at(0)));
+  EXPECT_TRUE(DeleteDayOf(program, ReadDays(program).rows.at(0)));
   EXPECT_FALSE(FileExists(PathOf("a.kvf")));
   EXPECT_TRUE(FileExists(PathOf("b.kvf")));
   EXPECT_EQ(window.refreshed, 1);
@@ -237,7 +204,7 @@ TEST_F(DeletingADay, OfTwoFilesThatLookAlikeTheChosenOneGoes) {
   AddDay("\xE6\x97\xA5.kvf", {.date = "01-03-04"});
   AddDay("?.kvf", {.date = "02-03-04"});
   test.boxes.answers = {BoxAnswer::yes};
-  EXPECT_TRUE(DeleteDayOf(program, ReadDays(program).at(0)));
+  EXPECT_TRUE(DeleteDayOf(program, ReadDays(program).rows.at(0)));
   EXPECT_FALSE(FileExists(PathOf("\xE6\x97\xA5.kvf")));
   EXPECT_TRUE(FileExists(PathOf("?.kvf")));
 }
@@ -262,6 +229,7 @@ TEST_F(Browser, TheProfilePaneShowsTheUserInTheUnitsOfTheSettings) {
   profile[ProfileField::height] = "1.80";
   profile[ProfileField::gender] = "Female";
   profile[ProfileField::age] = "42";
+  profile[ProfileField::name] = "Anna";
   using Labels = std::array<Text, 6>;
   ProfilePane pane = ProfilePaneOf(program);
   EXPECT_EQ(pane.heading, "Profile of Anna:");

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <sys/stat.h>
 
 #include "days/browser_fixture.h"
 #include "nutrition/dates.h"
@@ -36,7 +37,7 @@ TEST_F(Browser, ListsTheDaysOldestFirstByTwoDigitYears) {
 
 TEST_F(Browser, ARowTellsTheKeyFiguresOfItsDay) {
   AddDay("a.kvf", {.date = "05-03-04", .weight = "80,5", .height = "1,80"});
-  const auto rows = ReadDays(program);
+  const auto rows = ReadDays(program).rows;
   ASSERT_EQ(rows.size(), 1u);
   // 80.5 / (1.80 x 1.80) = 24.8457
   const std::array<Text, 8> expected = {
@@ -102,34 +103,92 @@ TEST_F(Browser, OnlyDayFilesAreListed) {
 }
 
 TEST_F(Browser, AUserWithoutDaysHasAnEmptyListAndNoMessage) {
-  EXPECT_TRUE(ReadDays(program).empty());
+  EXPECT_TRUE(ReadDays(program).rows.empty());
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
-TEST_F(Browser, AFileThatCannotBeReadEndsTheListWithItsCode) {
-  AddDay("a.kvf", {.date = "05-03-04"});
-  std::filesystem::create_symlink("nowhere", program.paths.FilesPath + "b.kvf");
-  AddDay("c.kvf", {.date = "01-03-04"});
-  EXPECT_EQ(Column(BrowseColumn::kFile), (std::vector<Text>{"a.kvf"}));
+// What can't be read, or holds nothing to show.
+
+TEST_F(Browser, FilesThatCannotBeReadArePassedOverAndNamedInOneBox) {
+  AddDay("b.kvf", {.date = "05-03-04"});
+  AddDay("d.kvf", {.date = "01-03-04"});
+  AddDay("f.kvf", {.date = "02-03-04"});
+  std::filesystem::create_symlink("nowhere", program.paths.FilesPath + "a.kvf");
+  ASSERT_EQ(mkfifo((program.paths.FilesPath + "c.kvf").c_str(), 0600), 0);
+  std::filesystem::create_symlink("nowhere", program.paths.FilesPath + "e.kvf");
+  const DayList days = ReadDays(program);
+  ASSERT_EQ(days.rows.size(), 3u);
+  EXPECT_EQ(days.rows[0].file_name, "d.kvf");
+  EXPECT_EQ(days.rows[1].file_name, "f.kvf");
+  EXPECT_EQ(days.rows[2].file_name, "b.kvf");
+  EXPECT_TRUE(test.boxes.shown.empty());
+  TellOfUnreadDays(program, days);
   ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_EQ(test.boxes.shown[0].text,
-            "An error occured.\n\nNo such file or directory\nBrelux CODE:#F3-0");
+  const Text& text = test.boxes.shown[0].text;
+  EXPECT_TRUE(text.starts_with("An error occured.\n\nNo such file or directory: a.kvf, e.kvf\n"));
+  EXPECT_TRUE(text.find(": c.kvf\n") != Text::npos) << text;
+  EXPECT_TRUE(text.ends_with("\nBrelux CODE:#F3-0"));
 }
 
-TEST_F(Browser, AValueBeyondAllMeasureEndsTheListWithACodeOfItsOwn) {
+TEST_F(Browser, NothingPassedOverIsNotTold) {
+  AddDay("a.kvf", {.date = "05-03-04"});
+  TellOfUnreadDays(program, ReadDays(program));
+  EXPECT_TRUE(test.boxes.shown.empty());
+}
+
+// One value that no pattern can print doesn't hide the days behind it.
+TEST_F(Browser, AValueBeyondAllMeasureLeavesTheRestOfItsRowEmpty) {
   AddDay("a.kvf", {.date = "05-03-04"});
   const Text huge(400, '9');
   AddDay("b.kvf", {.date = "06-03-04", .weight = huge});
   AddDay("c.kvf", {.date = "07-03-04"});
-  EXPECT_EQ(ReadDays(program).size(), 1u);
-  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-1"));
+  const DayList days = ReadDays(program);
+  ASSERT_EQ(days.rows.size(), 3u);
+  EXPECT_EQ(days.rows[1].cells[BrowseColumn::kDate], "06-03-04");
+  EXPECT_EQ(days.rows[1].cells[BrowseColumn::kWeight], "");
+  EXPECT_EQ(days.rows[1].cells[BrowseColumn::kNutrient], "");
+  EXPECT_EQ(days.rows[2].cells[BrowseColumn::kWeight], "80.50");
+  TellOfUnreadDays(program, days);
+  EXPECT_TRUE(LastBoxEndsWith(": b.kvf\nBrelux CODE:#F3-1"));
+}
+
+// A file with no record shows its name and nothing of the file, the day or the user before it,
+// wherever it stands in the list.
+TEST_F(Browser, AFileWithoutARecordHasARowWithItsNameAndEmptyCells) {
+  AddUser("Bert");
+  SetCurrentUser(program, "Bert");
+  AddDay("berts.kvf", {.date = "07-03-04", .weight = "99"});
+  ASSERT_EQ(ReadDays(program).rows.size(), 1u);  // read last before Anna's
+  SetCurrentUser(program, "Anna");
+  AddDay("c.kvf", {.date = "05-03-04"});
+  AddDay("e.kvf", {.date = "06-03-04"});
+  // The name says where it stands among the others: in front, between, behind.
+  for (const char* name : {"a.kvf", "d.kvf", "f.kvf"}) {
+    for (const std::string_view bytes :
+         {std::string_view(""), std::string_view("\1", 1), std::string_view("\1\0", 2),
+          std::string_view("\1\0\0", 3), std::string_view("\0\0\0\0", 4),
+          std::string_view("\xFF\xFF\xFF\xFF", 4), std::string_view("\0\0\0\0\1\0x", 7)}) {
+      WriteFileAnew(program.paths.FilesPath + name, bytes);
+      const DayList days = ReadDays(program);
+      ASSERT_EQ(days.rows.size(), 3u) << name << bytes.size();
+      // Without a date it stands first.
+      const std::array<Text, 8> expected = {
+          "1", program.paths.FilesPath + name, name, "", "", "", "", ""};
+      EXPECT_EQ(days.rows[0].cells, expected);
+      EXPECT_EQ(days.rows[1].file_name, "c.kvf");
+      EXPECT_EQ(days.rows[2].cells[BrowseColumn::kWeight], "80.50");
+      TellOfUnreadDays(program, days);
+      EXPECT_TRUE(test.boxes.shown.empty());
+    }
+    std::filesystem::remove(program.paths.FilesPath + name);
+  }
 }
 
 TEST_F(Browser, ReadingDoesNotTouchTheOpenDay) {
   test.OpenDay("Anna", "open.kvf");
   const KV_data before = program.store;
   AddDay("a.kvf", {.date = "05-03-04"});
-  EXPECT_EQ(ReadDays(program).size(), 1u);
+  EXPECT_EQ(ReadDays(program).rows.size(), 1u);
   EXPECT_EQ(program.store.L_gegevens, before.L_gegevens);
   EXPECT_EQ(program.store.txt_trenddata, before.txt_trenddata);
   EXPECT_EQ(program.store.KV_bestand, "open.kvf");
@@ -154,7 +213,7 @@ TEST_F(Browser, OfFiveThousandFilesTheBrokenOnesShowWhatTheyHold) {
   for (std::size_t i = 0; i < kFiles; ++i) {
     const std::string path = program.paths.FilesPath + NameOfNumber(i);
     switch (i % 50) {
-      case 1:  // cut before the first string, as the next shows it
+      case 1:  // holds no record, and neither does the next
         WriteFileAnew(path, "");
         break;
       case 2:
@@ -173,7 +232,7 @@ TEST_F(Browser, OfFiveThousandFilesTheBrokenOnesShowWhatTheyHold) {
         AddDay(NameOfNumber(i), {.date = DateOfNumber(i)});
     }
   }
-  const std::vector<DayRow> rows = ReadDays(program);
+  const std::vector<DayRow> rows = ReadDays(program).rows;
   EXPECT_TRUE(test.boxes.shown.empty());
   EXPECT_FALSE(test.pointer.waiting);
   ASSERT_EQ(rows.size(), kFiles - kOfEachKind);
@@ -193,7 +252,7 @@ TEST_F(Browser, OfFiveThousandFilesTheBrokenOnesShowWhatTheyHold) {
   for (std::size_t i = 5; i < kFiles; i += 50) EXPECT_EQ(dates[DateOfNumber(i)], 1u);
 }
 
-TEST_F(Browser, AnUnreadableFileAmongThousandsEndsTheListThere) {
+TEST_F(Browser, AnUnreadableFileAmongThousandsIsPassedOver) {
   for (std::size_t i = 0; i < 2000; ++i) AddDay(NameOfNumber(i), {.date = DateOfNumber(i)});
   std::filesystem::path folder = test.folders.home.Path();
   for (const auto& part : std::filesystem::relative(program.paths.FilesPath, folder)) {
@@ -203,22 +262,17 @@ TEST_F(Browser, AnUnreadableFileAmongThousandsEndsTheListThere) {
   std::filesystem::permissions(program.paths.FilesPath, std::filesystem::perms::all);
   std::filesystem::permissions(program.paths.FilesPath + NameOfNumber(1500),
                                std::filesystem::perms::none);
-  std::vector<DayRow> rows;
+  DayList days;
   {
     const AsNobody nobody;
-    rows = ReadDays(program);
+    days = ReadDays(program);
   }
-  EXPECT_EQ(rows.size(), 1500u);
+  EXPECT_EQ(days.rows.size(), 1999u);
+  TellOfUnreadDays(program, days);
   ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_EQ(test.boxes.shown[0].text, "An error occured.\n\nPermission denied\nBrelux CODE:#F3-0");
+  EXPECT_EQ(test.boxes.shown[0].text, "An error occured.\n\nPermission denied: " +
+                                          NameOfNumber(1500) + "\nBrelux CODE:#F3-0");
   EXPECT_FALSE(test.pointer.waiting);
-}
-
-TEST_F(Browser, AFolderWhoseFirstFileHoldsNoRecordHasNothingToShowForIt) {
-  WriteFileAnew(program.paths.FilesPath + "a.kvf", std::string(4, '\0'));
-  AddDay("b.kvf", {.date = "05-03-04"});
-  EXPECT_TRUE(ReadDays(program).empty());
-  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-0"));
 }
 
 TEST_F(Browser, FilesWithNamesOfEveryKindAreListed) {
@@ -233,7 +287,7 @@ TEST_F(Browser, FilesWithNamesOfEveryKindAreListed) {
   }
   std::set<std::string> listed;
   std::multiset<Text> shown;
-  for (const DayRow& row : ReadDays(program)) {
+  for (const DayRow& row : ReadDays(program).rows) {
     listed.insert(row.path);
     shown.insert(row.cells[BrowseColumn::kFile]);
   }
@@ -245,7 +299,7 @@ TEST_F(Browser, FilesWithNamesOfEveryKindAreListed) {
 
 TEST_F(Browser, OtherEventsRunWhileTheDaysAreReadSortedAndMadeIntoRows) {
   for (const char* name : {"a.kvf", "b.kvf", "c.kvf"}) AddDay(name, {.date = "05-03-04"});
-  EXPECT_EQ(ReadDays(program).size(), 3u);
+  EXPECT_EQ(ReadDays(program).rows.size(), 3u);
   EXPECT_EQ(test.events.yields, 9);
 }
 
@@ -283,7 +337,7 @@ TEST_F(Browser, RowsAreSortedByTheWholePartOfWhatTheyShow) {
   AddDay("b.kvf", {.date = "02-03-04", .weight = "79.1"});
   AddDay("c.kvf", {.date = "03-03-04", .weight = "80.2"});
   AddDay("d.kvf", {.date = "04-03-04", .weight = "100"});
-  std::vector<DayRow> rows = ReadDays(program);
+  std::vector<DayRow> rows = ReadDays(program).rows;
   DayListSort sort;
   const auto numbers = [&rows] {
     Text all;
@@ -304,7 +358,7 @@ TEST_F(Browser, RowsAreSortedByTheWholePartOfWhatTheyShow) {
 TEST_F(Browser, AnUnsortedListStaysAsItIs) {
   AddDay("a.kvf", {.date = "01-03-04", .weight = "80"});
   AddDay("b.kvf", {.date = "02-03-04", .weight = "70"});
-  std::vector<DayRow> rows = ReadDays(program);
+  std::vector<DayRow> rows = ReadDays(program).rows;
   EXPECT_EQ(SortRows(rows, {}), (std::vector<std::uint32_t>{0, 1}));
   EXPECT_EQ(rows[0].file_name, "a.kvf");
 }

@@ -34,7 +34,7 @@ bool Confirm(Program& program, const DayForm& form) {
 
 DayForm FormOfChosen(Program& program, std::string_view name) {
   DayEditing editing = OpenDayEditing(program);
-  ChooseUserForDay(program, editing, name);
+  ChooseUserForDay(program, editing, UserNamed(name));
   return editing.form;
 }
 
@@ -112,33 +112,6 @@ TEST(Forms, AUserThatIsChosenFillsEverythingFromTheProfileButTheDate) {
   expected.pg_9_c = "04";
   expected.pg_11 = "Friday";
   EXPECT_EQ(form, expected);
-}
-
-TEST(Forms, TheUserListShowsTheNamesInTheProfilesAndLeavesTheCurrentUserAlone) {
-  TestProgram test;
-  test.program.profile[ProfileField::name] = "Current";
-  WriteProfile(test.program, "bert", ProfileNamed("Bert"));
-  WriteProfile(test.program, "Anna", ProfileNamed("Anna B."));
-  const TextList names = UsersForNewDay(test.program);
-  ASSERT_EQ(names.Count(), 2u);
-  EXPECT_EQ(names[0], "Anna B.");
-  EXPECT_EQ(names[1], "Bert");
-  EXPECT_EQ(test.program.store.lst_data_dir[0], "Anna");
-  EXPECT_EQ(test.program.profile[ProfileField::name], "Current");
-  EXPECT_TRUE(test.boxes.shown.empty());
-}
-
-TEST(Forms, AFolderWithoutAProfileEndsTheUserListWithItsCode) {
-  TestProgram test;
-  WriteProfile(test.program, "Anna", ProfileNamed("Anna"));
-  std::filesystem::create_directories(test.program.paths.UsersPath + "Bert");
-  WriteProfile(test.program, "Carl", ProfileNamed("Carl"));
-  const TextList names = UsersForNewDay(test.program);
-  ASSERT_EQ(names.Count(), 1u);
-  EXPECT_EQ(names[0], "Anna");
-  ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_EQ(test.boxes.shown[0].text,
-            "An error occured.\n\nNo such file or directory\nBrelux CODE:#F2-0");
 }
 
 TEST(Forms, TheInstructionGoesByTheNumberOfUsers) {
@@ -220,17 +193,6 @@ TEST(StartingADay, LoadsTheListsOfTheUser) {
   ASSERT_TRUE(Confirm(program, GoodForm()));
   EXPECT_EQ(program.store.Custom_list[0], bread);
   EXPECT_EQ(program.store.Favorites_list[0], apple);
-}
-
-TEST(StartingADay, AProfileThatCannotBeWrittenIsToldAndTheDayGoesOn) {
-  TestProgram test;
-  Program& program = test.program;
-  std::filesystem::create_directories(ProfileFile(program.paths, "Anna") + "/in the way");
-  EXPECT_TRUE(Confirm(program, GoodForm()));
-  ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF1-7"));
-  EXPECT_TRUE(program.store.DayIsOpen());
-  EXPECT_TRUE(program.day.FileChanged);
 }
 
 struct FailingCore : RecordingCore {

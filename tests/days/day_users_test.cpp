@@ -9,6 +9,7 @@
 #include "days/open_day.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
+#include "storage/profile_file.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
 
@@ -29,7 +30,7 @@ class DayUsers : public testing::Test {
   }
   DayEditing Choose(std::string_view name) {
     DayEditing editing = OpenDayEditing(program);
-    ChooseUserForDay(program, editing, name);
+    ChooseUserForDay(program, editing, UserNamed(name));
     return editing;
   }
   bool Start(std::string_view name) {
@@ -74,56 +75,60 @@ TEST_F(DayUsers, NamesThatAFolderCanHaveAreUsedAsTyped) {
   }
 }
 
-TEST_F(DayUsers, ANameThatNoFolderCanHaveFailsAtTheFirstWriteAndTouchesNothing) {
+TEST_F(DayUsers, ANameThatNoFolderCanHaveIsRefusedBeforeAnythingIsMade) {
   AddUser("Anna");
   fs::create_directories(program.paths.UsersPath + "../My Reports/Profile");
   const auto before = Everything();
   for (const Text& name :
        {Text(".."), Text("."), Text("/"), Text("../My Users/Anna"), Text("Anna/"), Text("./Anna"),
-        Text("Anna/."), Text("../My Reports"), Text("/tmp"), Text("a\0b", 3)}) {
+        Text("Anna/."), Text("../My Reports"), Text("/tmp"), Text("a\0b", 3), Text(256, 'x'),
+        Text(128, '\xEB')}) {  // the last takes 256 bytes on disk
     test.boxes.shown.clear();
-    EXPECT_TRUE(Start(name)) << name;
+    EXPECT_FALSE(Start(name)) << name;
     ASSERT_EQ(test.boxes.shown.size(), 1u) << name;
-    EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF1-7")) << name;
-    // The day stays in memory, and saving it fails likewise.
-    EXPECT_TRUE(program.store.DayIsOpen());
-    SaveDay(program);
-    ASSERT_EQ(test.boxes.shown.size(), 2u) << name;
-    EXPECT_TRUE(test.boxes.shown[1].text.ends_with("Brelux CODE:#FF1-9")) << name;
-    EXPECT_TRUE(program.day.FileChanged);
-    EXPECT_EQ(FilesIn(program.paths.FilesPath, ".kvf").Count(), 0u);
-    CloseDay(program);
+    EXPECT_EQ(test.boxes.shown[0].text,
+              "This name can't be used for your folder.\nChoose a name without \"/\" that is not "
+              "\".\" or \"..\" and isn't too long.");
+    EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::error);
+    EXPECT_FALSE(program.store.DayIsOpen());
+    EXPECT_EQ(program.paths.UserName, "");
   }
   EXPECT_EQ(Everything(), before);
+  // As long as a name may be.
+  EXPECT_TRUE(Start(Text(255, 'x')));
+  CloseDay(program);
+  EXPECT_TRUE(Start(Text(127, '\xEB')));
+}
+
+TEST_F(DayUsers, TheNameOfTheFolderIsTestedBehindEverythingElse) {
+  DayEditing editing = OpenDayEditing(program);
+  editing.form = GoodForm();
+  editing.form.pg_0 = "a/b";
+  editing.form.pg_9_a = "32";
+  EXPECT_FALSE(ConfirmDay(program, editing));
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_TRUE(test.boxes.shown[0].text.starts_with("You did not enter the date correctly."));
 }
 
 TEST_F(DayUsers, ASecondSpellingInCaseIsAnotherUser) {
   AddUser("Anna");
   EXPECT_TRUE(Start("anna"));
-  EXPECT_EQ(UsersForNewDay(program).Count(), 2u);
+  EXPECT_EQ(ReadUsers(program).users.size(), 2u);
 }
 
-TEST_F(DayUsers, AFolderThatCannotBeWrittenIsToldAndTheDayStaysInMemory) {
+TEST_F(DayUsers, AFolderThatCannotBeWrittenIsToldAndNothingIsBegun) {
   // A file where the folder would be stops everybody, whoever runs this test.
   std::ofstream(program.paths.UsersPath + "Anna") << "in the way";
-  EXPECT_TRUE(Start("Anna"));
+  EXPECT_FALSE(Start("Anna"));
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("#FF1-7"));
-  EXPECT_TRUE(program.store.DayIsOpen());
-  SaveDay(program);
-  EXPECT_TRUE(program.day.FileChanged);
+  EXPECT_FALSE(program.store.DayIsOpen());
+  EXPECT_FALSE(program.day.FileChanged);
+  EXPECT_EQ(program.paths.UserName, "");
   EXPECT_EQ(ReadFile(program.paths.UsersPath + "Anna"), "in the way");
 }
 
 // Profiles.
-
-TEST_F(DayUsers, AnEmptyProfileEndsTheListUnlessOneWasReadBefore) {
-  MakeUserFolders(program.paths, "Anna");
-  std::ofstream(ProfileFile(program.paths, "Anna")).write("\0\0\0\0", 4);
-  EXPECT_EQ(UsersForNewDay(program).Count(), 0u);
-  ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_TRUE(test.boxes.shown[0].text.ends_with("#F2-0"));
-}
 
 TEST_F(DayUsers, ACutProfileIsReadAsFarAsItGoes) {
   AddUser("Anna");
@@ -166,9 +171,11 @@ TEST_F(DayUsers, WhatWasAppliedForOneUserNeverReachesTheNext) {
   editing.form.pg_0 = "Carl";
   ApplyAtOnce(program, editing);
   MakeUserFolders(program.paths, "Bert");  // without a profile
-  ChooseUserForDay(program, editing, "Bert");
-  EXPECT_EQ(program.profile, Rec_Profile{});
-  ChooseUserForDay(program, editing, "Anna");
+  ChooseUserForDay(program, editing, UserNamed("Bert"));
+  Rec_Profile nothing_filled_in = DefaultsOfNewUser();
+  nothing_filled_in[ProfileField::name] = "Bert";
+  EXPECT_EQ(program.profile, nothing_filled_in);
+  ChooseUserForDay(program, editing, UserNamed("Anna"));
   EXPECT_EQ(program.profile[ProfileField::remark], "Anna's remark");
 }
 
@@ -178,7 +185,7 @@ TEST_F(DayUsers, RemovalAsksWithNoAsTheSafeAnswer) {
   AddUser("Anna");
   DayEditing editing = Choose("Anna");
   const DayForm before = editing.form;
-  EXPECT_EQ(RemoveUser(program, editing, "Anna"), UserRemoval::refused);
+  EXPECT_EQ(RemoveUser(program, editing, UserNamed("Anna")), UserRemoval::refused);
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_EQ(test.boxes.shown[0].title, "Remove Anna?");
   EXPECT_EQ(test.boxes.shown[0].text,
@@ -203,7 +210,7 @@ TEST_F(DayUsers, ARemovedUserLeavesNothingBehind) {
   DayEditing editing = Choose("Anna");
   ASSERT_EQ(program.store.Custom_list.Count(), 1u);
   test.boxes.answers = {BoxAnswer::yes};
-  EXPECT_EQ(RemoveUser(program, editing, "Anna"), UserRemoval::removed);
+  EXPECT_EQ(RemoveUser(program, editing, UserNamed("Anna")), UserRemoval::removed);
   EXPECT_FALSE(fs::exists(program.paths.UsersPath + "Anna"));
   EXPECT_TRUE(fs::exists(ProfileFile(program.paths, "Bert")));
   EXPECT_EQ(editing.form, NewUserForm(program));
@@ -221,7 +228,7 @@ TEST_F(DayUsers, AnotherUserThanTheCurrentOneIsRemovedWithoutTouchingIt) {
   AddUser("Bert");
   DayEditing editing = Choose("Bert");
   test.boxes.answers = {BoxAnswer::yes};
-  EXPECT_EQ(RemoveUser(program, editing, "Anna"), UserRemoval::removed);
+  EXPECT_EQ(RemoveUser(program, editing, UserNamed("Anna")), UserRemoval::removed);
   EXPECT_EQ(program.paths.UserName, "Bert");
   EXPECT_EQ(program.profile[ProfileField::remark], "Bert's remark");
 }
@@ -233,7 +240,7 @@ TEST_F(DayUsers, AnOpenDayOfARemovedUserStaysInMemoryAsUnsaved) {
   const Text header = PackBlock(program.store.L_gegevens);
   DayEditing editing = OpenDayEditing(program);
   test.boxes.answers = {BoxAnswer::yes};
-  EXPECT_EQ(RemoveUser(program, editing, "Anna"), UserRemoval::removed);
+  EXPECT_EQ(RemoveUser(program, editing, UserNamed("Anna")), UserRemoval::removed);
   EXPECT_TRUE(program.store.DayIsOpen());
   EXPECT_EQ(PackBlock(program.store.L_gegevens), header);
   EXPECT_TRUE(program.day.FileChanged);
@@ -253,9 +260,9 @@ TEST_F(DayUsers, AnOpenBrowserRebuildsItsListsAfterEitherAnswer) {
   AddUser("Anna");
   DayEditing editing = Choose("Anna");
   test.boxes.answers = {BoxAnswer::no, BoxAnswer::yes};
-  static_cast<void>(RemoveUser(program, editing, "Anna"));
+  static_cast<void>(RemoveUser(program, editing, UserNamed("Anna")));
   EXPECT_EQ(browser.rebuilt, 2);
-  static_cast<void>(RemoveUser(program, editing, "Anna"));
+  static_cast<void>(RemoveUser(program, editing, UserNamed("Anna")));
   EXPECT_EQ(browser.rebuilt, 4);
 }
 
@@ -267,7 +274,7 @@ TEST_F(DayUsers, RemovalNeverReachesOutsideTheUsersFolder) {
        {Text(".."), Text("."), Text(""), Text("../My Reports"), Text("Anna/Files"), Text("/")}) {
     test.boxes.shown.clear();
     test.boxes.answers = {BoxAnswer::yes};
-    EXPECT_EQ(RemoveUser(program, editing, name), UserRemoval::refused) << name;
+    EXPECT_EQ(RemoveUser(program, editing, UserNamed(name)), UserRemoval::refused) << name;
     ASSERT_EQ(test.boxes.shown.size(), 2u) << name;
     EXPECT_TRUE(test.boxes.shown[1].text.ends_with("Brelux CODE:#F2-7")) << name;
   }
@@ -285,9 +292,9 @@ TEST(AnotherUser, TakesNothingOfTheFormerOnesFoods) {
   SetCurrentUser(program, "Zoe");
   program.store.Custom_list.Add(LineOf({.product = "Bread"}));
   program.store.Favorites_list.Add(LineOf({.product = "Apple"}));
-  ChooseUser(program, "Zoe");  // the same one: files that are not there change nothing
+  ChooseUser(program, UserNamed("Zoe"));  // the same one: files that are not there change nothing
   EXPECT_EQ(program.store.Custom_list.Count(), 1u);
-  ChooseUser(program, "Anna");
+  ChooseUser(program, UserNamed("Anna"));
   EXPECT_TRUE(program.store.Custom_list.Empty());
   EXPECT_TRUE(program.store.Favorites_list.Empty());
 }

@@ -258,26 +258,16 @@ TEST_F(BrowserDays, TabGoesThroughTheWindowInReadingOrder) {
   }
 }
 
-TEST_F(BrowserDays, ADayThatIsGoneOpensNothing) {
-  OpenAsAnna();
-  std::filesystem::remove(PathOf("old.kvf"));
-  ClickRow(0);
-  QTest::keyClick(List(), Qt::Key_Return);
-  EXPECT_FALSE(program.store.DayIsOpen());
-  EXPECT_TRUE(dialog->isVisible());
-  EXPECT_TRUE(test.boxes.shown.empty());
-}
-
-TEST_F(BrowserDays, AUserWhoseProfileLeadsElsewhereIsNotSwitchedTo) {
+TEST_F(BrowserDays, AUserWhoseProfileLeadsElsewhereStaysInItsFolder) {
   AddUser("Carl");
   Rec_Profile foreign;
   foreign[ProfileField::name] = "../elsewhere";
   WriteRecord(ProfileFile(program.paths, "Carl"), foreign);
   OpenAsAnna();
   ClickUser("../elsewhere");
-  EXPECT_TRUE(test.boxes.shown.back().text.ends_with("Brelux CODE:#F3-3"));
-  EXPECT_EQ(SelectedUser(), "Anna");
-  EXPECT_EQ(List()->model()->rowCount(), 2);
+  EXPECT_EQ(SelectedUser(), "../elsewhere");
+  EXPECT_EQ(program.paths.FilesPath, program.paths.UsersPath + "Carl/Files/");
+  EXPECT_EQ(List()->model()->rowCount(), 0);
 }
 
 // While the days are read.

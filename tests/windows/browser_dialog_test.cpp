@@ -102,7 +102,7 @@ TEST_F(BrowserWindow, AUserChosenWhileDaysAreReadHasTheLastWord) {
   Make_Taal_English(busy.texts);
   DetermineFolders(busy);
   SetCurrentUser(busy, "Anna");
-  acting.act = [&busy] { SwitchUser(busy, "Bert"); };
+  acting.act = [&busy] { SwitchUser(busy, UserNamed("Bert")); };
   dialog = std::make_unique<BrowserDialog>(busy, nullptr);
   dialog->Open();
   ASSERT_EQ(List()->model()->rowCount(), 1);

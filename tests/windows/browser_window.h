@@ -115,6 +115,7 @@ class BrowserWindow : public testing::Test {
     auto* const users = Find<QListWidget>("lst_users");
     const QRect place = users->visualItemRect(users->findItems(user, Qt::MatchExactly).front());
     QTest::mouseClick(users->viewport(), Qt::LeftButton, {}, place.center());
+    QApplication::processEvents();  // the list tells of it when it is done with the click
   }
   QString SelectedUser() {
     const auto selected = Find<QListWidget>("lst_users")->selectedItems();

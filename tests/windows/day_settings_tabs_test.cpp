@@ -206,8 +206,10 @@ TEST_F(DaySettingsWindow, TheKeyboardAloneDoesTheSame) {
   Open();
   EXPECT_TRUE(Find<QListWidget>("lst_users")->hasFocus());
   QTest::keyClicks(QApplication::focusWidget(), "b");
+  QApplication::processEvents();
   EXPECT_EQ(Shown("pg_0"), "Bert");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  QApplication::processEvents();
   EXPECT_TRUE(Find<QLineEdit>("txt_gewicht")->hasFocus());
   QTest::keyClicks(QApplication::focusWidget(), "71");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

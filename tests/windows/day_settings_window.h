@@ -72,6 +72,7 @@ class DaySettingsWindow : public testing::Test {
   void ClickUser(const char* user) {
     QTest::mouseClick(Find<QListWidget>("lst_users")->viewport(), Qt::LeftButton, {},
                       PlaceOf(user));
+    QApplication::processEvents();  // the list tells of it when it is done with the click
   }
   void Click(const char* button) {
     auto* const found = Find<QAbstractButton>(button);
@@ -108,7 +109,7 @@ class DaySettingsWindow : public testing::Test {
   void BeginDayOfAnna() {
     AddUser("Anna");
     DayEditing editing = OpenDayEditing(test.program);
-    ChooseUserForDay(test.program, editing, "Anna");
+    ChooseUserForDay(test.program, editing, UserNamed("Anna"));
     ASSERT_TRUE(ConfirmDay(test.program, editing));
     SetFileChanged(test.program, false);
     test.program.day.DayDialogMode = DayDialogMode::day_settings;

@@ -63,18 +63,17 @@ TEST(StartUpFailures, AnAlternativeUsersFolderThatIsGoneHasNoUsersAndTakesNoDay)
   StartUp(program);
   EXPECT_TRUE(machine.boxes.shown.empty());
   EXPECT_EQ(program.paths.UsersPath, machine.folders.home.Path("stick/users/"));
-  EXPECT_TRUE(UsersToBrowse(program).Empty());
+  EXPECT_TRUE(ReadUsers(program).users.empty());
 
-  // Making the folders fails, and that shows when the profile and the day are written.
+  // Making the folders fails, and that shows when the profile is written; no day is begun.
   machine.boxes.shown.clear();
   DayEditing editing = OpenDayEditing(program);
   editing.form = GoodForm();
-  EXPECT_TRUE(ConfirmDay(program, editing));
+  EXPECT_FALSE(ConfirmDay(program, editing));
   EXPECT_EQ(CodesOf(machine.boxes), std::vector<Text>{"#FF1-7"});
-  SaveDay(program);
-  EXPECT_EQ(CodesOf(machine.boxes), (std::vector<Text>{"#FF1-7", "#FF1-9"}));
-  EXPECT_TRUE(program.day.FileChanged);
-  EXPECT_EQ(program.store.L_gegevens.Count(), 15u);
+  EXPECT_FALSE(program.store.DayIsOpen());
+  EXPECT_FALSE(program.day.FileChanged);
+  EXPECT_TRUE(program.store.L_gegevens.Empty());
 }
 
 TEST(StartUpFailures, AnAlternativeUsersFolderThatIsReadOnlyIsReadAndTakesNoDay) {
@@ -94,16 +93,16 @@ TEST(StartUpFailures, AnAlternativeUsersFolderThatIsReadOnlyIsReadAndTakesNoDay)
   }
   {
     const AsNobody nobody;
-    EXPECT_EQ(UsersToBrowse(program).Count(), 1u);
-    ChooseUser(program, "Anna");
+    EXPECT_EQ(ReadUsers(program).users.size(), 1u);
+    ChooseUser(program, UserNamed("Anna"));
     DayEditing editing = OpenDayEditing(program);
     editing.form = GoodForm();
     editing.form.pg_0 = "Anna";
-    EXPECT_TRUE(ConfirmDay(program, editing));
-    SaveDay(program);
+    EXPECT_FALSE(ConfirmDay(program, editing));
   }
-  EXPECT_EQ(CodesOf(machine.boxes), (std::vector<Text>{"#FF1-7", "#FF1-9"}));
-  EXPECT_TRUE(program.day.FileChanged);
+  EXPECT_EQ(CodesOf(machine.boxes), std::vector<Text>{"#FF1-7"});
+  EXPECT_FALSE(program.store.DayIsOpen());
+  EXPECT_EQ(program.paths.UserName, "Anna");
   const auto kept = ReadFirstRecord<Rec_Profile>(ProfileFile(program.paths, "Anna"));
   ASSERT_TRUE(kept.has_value());
   EXPECT_EQ(*kept, profile);
