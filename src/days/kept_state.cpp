@@ -17,6 +17,7 @@ bool IsThere(const std::string& folder) {
 KeptState::KeptState(const Program& program, const std::string& user_folder)
     : paths_(program.paths),
       profile_(program.profile),
+      kept_(program.kept),
       L_gegevens_(program.store.L_gegevens),
       Custom_list_(program.store.Custom_list),
       Favorites_list_(program.store.Favorites_list),
@@ -28,6 +29,8 @@ KeptState::KeptState(const Program& program, const std::string& user_folder)
 void KeptState::PutBack(Program& program) const {
   program.paths = paths_;
   program.profile = profile_;
+  // A profile that was deleted and not written is unwritten work of its user.
+  if (program.kept.profile.path != kept_.profile.path) program.kept = kept_;
   KV_data& store = program.store;
   store.L_gegevens = L_gegevens_;
   store.Custom_list = Custom_list_;

@@ -19,6 +19,7 @@ class KeptState {
  private:
   Paths paths_;
   Rec_Profile profile_;
+  KeptFiles kept_;
   TextList L_gegevens_, Custom_list_, Favorites_list_;
   Text txt_trenddata_, KV_bestand_;
   std::string user_folder_;

@@ -27,6 +27,8 @@ void TakeOver(Program& program, const User& user) {
   const bool another = !IsCurrent(program, user);
   SetCurrentUser(program, user.name, user.folder_name);
   if (!another) return;
+  program.kept.profile = {};
+  program.kept.stored_profile.reset();
   program.profile = DefaultsOfNewUser();
   program.profile[ProfileField::name] = user.name;
   ForgetFoodsOfUser(program);
