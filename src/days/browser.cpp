@@ -8,6 +8,7 @@
 #include "nutrition/totals.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
+#include "storage/kept_files.h"
 #include "storage/record_file.h"
 #include "storage/settings_file.h"
 
@@ -72,7 +73,7 @@ UserSwitch SwitchUser(Program& program, const User& user) {
       if (program.windows.browser != nullptr) program.windows.browser->Refresh_GebruikersLijst();
       ThrowSystemError(std::errc::no_such_file_or_directory);
     }
-    if (!MayCloseDayForUser(program)) return;
+    if (!MayCloseDayForUser(program) || !MayLeaveUser(program)) return;
     result = UserSwitch::switched;
     CloseDay(program);
     ChooseUser(program, chosen);

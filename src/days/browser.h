@@ -16,9 +16,10 @@ void TellOfUnreadUsers(Program& program, const UserList& list);
 
 enum class UserSwitch { same, refused, switched };
 
-// Makes `user` the current one after closing the open day, for which it asks first, and lets the
-// browser rebuild its days. A failure shows "#F3-3". A folder that is gone is such a failure:
-// nothing changes then, and the browser rebuilds its users.
+// Makes `user` the current one after closing the open day, for which it asks first, as for work of
+// the user before that could not be saved, and lets the browser rebuild its days. A failure shows
+// "#F3-3". A folder that is gone is such a failure: nothing changes then, and the browser rebuilds
+// its users.
 UserSwitch SwitchUser(Program& program, const User& user);
 
 // Opens the day of a row and closes the browser. A refusal of the user leaves everything as it is.

@@ -14,6 +14,7 @@
 #include "storage/day_file.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"
+#include "storage/kept_files.h"
 #include "storage/profile_file.h"
 #include "storage/settings_file.h"
 
@@ -115,8 +116,7 @@ void BeginDay(Program& program, const User& user) {
   TakeOver(program, user);
   MakeUserFolders(program.paths, user.name);
   program.store.KV_bestand = NewDayFileName(platform.locale, platform.clock.Now());
-  Load_Custom(program, CustomFile(program.paths, user.name));
-  Load_Favorites(program, FavoritesFile(program.paths, user.name));
+  LoadFoodsOfUser(program);
 }
 
 // False if the profile can't be written.
@@ -202,7 +202,8 @@ void TellOfUnreadUsersForDay(Program& program, const UserList& list) {
   list.unread.Report(program.FailurePath(), "#F2-0");
 }
 
-void ChooseUserForDay(Program& program, DayEditing& editing, const User& user) {
+bool ChooseUserForDay(Program& program, DayEditing& editing, const User& user) {
+  if (!IsCurrent(program, user) && !MayLeaveUser(program)) return false;
   editing.user = user;
   // A profile that can't be opened leaves the working copy as it is, and what was applied to it
   // belongs to another user.
@@ -212,6 +213,7 @@ void ChooseUserForDay(Program& program, DayEditing& editing, const User& user) {
   editing.form = FormOfUser(program, user.name);
   FillBoxes(program, editing.form);
   UpdateCommands(program);
+  return true;
 }
 
 void BeginNewUser(Program& program, DayEditing& editing) {
@@ -285,6 +287,7 @@ bool ConfirmDay(Program& program, DayEditing& editing) {
   if (!Passes(program, editing)) return false;
   const bool new_day = editing.mode == DayDialogMode::new_day;
   const User user = UserOf(editing);
+  if (new_day && !IsCurrent(program, user) && !MayLeaveUser(program)) return false;
   const KeptState before(program, program.paths.UsersPath + user.folder_name + "/");
   bool taken = false;
   const bool completed = program.Guard("#F2-3", [&] {

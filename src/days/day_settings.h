@@ -36,8 +36,9 @@ struct DayEditing {
 void TellOfUnreadUsersForDay(Program& program, const UserList& list);
 
 // Makes `user` the current one and gives the form of the profile, dated today. A profile that can't
-// be read or bears another name leaves the person empty. A failure shows "#F2-1".
-void ChooseUserForDay(Program& program, DayEditing& editing, const User& user);
+// be read or bears another name leaves the person empty. A failure shows "#F2-1". False with
+// nothing changed if work of the user before could not be saved and is not to be left.
+bool ChooseUserForDay(Program& program, DayEditing& editing, const User& user);
 
 // Gives the form of a new user, whose name is still to be typed.
 void BeginNewUser(Program& program, DayEditing& editing);

@@ -167,7 +167,7 @@ void DaySettingsDialog::TakeForm() {
 void DaySettingsDialog::ChooseSelectedUser() {
   const auto user = users_->Selected();
   if (!user) return;
-  ChooseUserForDay(program_, editing_, *user);
+  if (!ChooseUserForDay(program_, editing_, *user)) return users_->SelectCurrentUser();
   person_->SetNameEnabled(false);
   users_->SetRemovable(true);
   ShowForm();

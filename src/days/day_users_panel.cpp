@@ -96,6 +96,10 @@ void DayUsersPanel::SelectNone() {
   lst_users_->SelectNone();
 }
 
+void DayUsersPanel::SelectCurrentUser() {
+  lst_users_->SelectCurrentUser();
+}
+
 void DayUsersPanel::FocusList() {
   lst_users_->setFocus();
 }

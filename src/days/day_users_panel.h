@@ -31,6 +31,7 @@ class DayUsersPanel : public QWidget {
   void TellNow();
   void TellNothing();
   void SelectNone();
+  void SelectCurrentUser();
   void FocusList();
   void SetRemovable(bool removable);
   // While the settings of a day are changed, its user can't be.

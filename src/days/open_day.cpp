@@ -16,11 +16,17 @@ void BeginNewDay(Program& program) {
 
 void ChooseUser(Program& program, const User& user) {
   TakeOver(program, user);
-  const std::string folder = UserFolder(program.paths, program.paths.UserName);
-  Load_Profile(program, ProfileFileIn(folder));
-  Load_Custom(program, CustomFileIn(folder));
-  Load_Favorites(program, FavoritesFileIn(folder));
+  Load_Profile(program, ProfileFile(program.paths, program.paths.UserName));
+  LoadFoodsOfUser(program);
   FollowSettings(program);
+}
+
+void LoadFoodsOfUser(Program& program) {
+  const Paths& paths = program.paths;
+  if (!program.kept.custom.unwritten) Load_Custom(program, CustomFile(paths, paths.UserName));
+  if (!program.kept.favourites.unwritten) {
+    Load_Favorites(program, FavoritesFile(paths, paths.UserName));
+  }
 }
 
 void TakeOver(Program& program, const User& user) {

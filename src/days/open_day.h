@@ -17,6 +17,10 @@ void ChooseUser(Program& program, const User& user);
 // yet.
 void TakeOver(Program& program, const User& user);
 
+// Loads the own list and the favourites of the current user. What could not be saved is newer than
+// its file and stays.
+void LoadFoodsOfUser(Program& program);
+
 // Empties the own list and the favourites, in an open window too.
 void ForgetFoodsOfUser(Program& program);
 

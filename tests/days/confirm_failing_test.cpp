@@ -3,11 +3,13 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
+#include "days/browser.h"
 #include "days/day_settings.h"
 #include "days/good_form.h"
 #include "days/open_day.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
+#include "storage/food_files.h"
 #include "storage/profile_file.h"
 #include "storage/record_file.h"
 #include "support/file_faults.h"
@@ -167,6 +169,57 @@ TEST_F(ProfileThatCannotBeWritten, GivesTheUserBeforeBackWithTheFoods) {
   EXPECT_FALSE(Confirm(editing));
   EXPECT_EQ(StateOf(program), before);
   EXPECT_TRUE(fs::exists(program.paths.UsersPath + "Anna/Files/old.kvf"));
+}
+
+// Foods that no file holds yet.
+
+class FoodsThatCouldNotBeSaved : public testing::Test {
+ protected:
+  FoodsThatCouldNotBeSaved() {
+    for (const char* name : {"Anna", "Bert"}) {
+      MakeUserFolders(program.paths, name);
+      Rec_Profile profile;
+      profile[ProfileField::name] = name;
+      WriteRecord(ProfileFile(program.paths, name), profile);
+    }
+    ChooseUser(program, anna);
+    program.store.Custom_list.Add(LineOf({.product = "Bread"}));
+    const InjectedFault full({.disk_full_after = 0});
+    EXPECT_FALSE(Save_Custom(program, CustomFile(program.paths, "Anna")));
+    test.boxes.shown.clear();
+  }
+  TestProgram test;
+  Program& program = test.program;
+  const User anna = UserNamed("Anna");
+  const User bert = UserNamed("Bert");
+};
+
+TEST_F(FoodsThatCouldNotBeSaved, AreAskedAboutBeforeAnotherUserIsChosen) {
+  DayEditing editing = OpenDayEditing(program);
+  EXPECT_FALSE(ChooseUserForDay(program, editing, bert));
+  EXPECT_EQ(SwitchUser(program, bert), UserSwitch::refused);
+  editing.form = GoodForm();
+  editing.form.pg_0 = "Carl";
+  EXPECT_FALSE(ConfirmDay(program, editing));
+  ASSERT_EQ(test.boxes.shown.size(), 3u);
+  for (const Box& box : test.boxes.shown) EXPECT_EQ(box.buttons, BoxButtons::yes_no);
+  EXPECT_EQ(program.paths.UserName, "Anna");
+  EXPECT_EQ(program.store.Custom_list.Count(), 1u);
+  EXPECT_FALSE(fs::exists(program.paths.UsersPath + "Carl"));
+  test.boxes.answers = {BoxAnswer::yes};
+  EXPECT_EQ(SwitchUser(program, bert), UserSwitch::switched);
+  EXPECT_TRUE(program.store.Custom_list.Empty());
+}
+
+TEST_F(FoodsThatCouldNotBeSaved, StayWhileTheirUserIsChosenAgainAndBeginsADay) {
+  DayEditing editing = OpenDayEditing(program);
+  EXPECT_TRUE(ChooseUserForDay(program, editing, anna));
+  editing.form = GoodForm();
+  ASSERT_TRUE(ConfirmDay(program, editing));
+  EXPECT_TRUE(test.boxes.shown.empty());
+  EXPECT_EQ(program.store.Custom_list.Count(), 1u);
+  EXPECT_TRUE(SaveDay(program));
+  EXPECT_TRUE(fs::exists(CustomFile(program.paths, "Anna")));
 }
 
 struct NotingCore : RecordingCore {

@@ -71,6 +71,15 @@ TEST_F(Browser, NumbersTakeTheSeparatorOfTheLocale) {
   EXPECT_EQ(Column(BrowseColumn::kWeight), (std::vector<Text>{"177,47"}));
 }
 
+TEST_F(Browser, ASeparatorOtherThanACommaCountsAsAPoint) {
+  AddDay("a.kvf", {.date = "05-03-04"});
+  for (const char* system : {"'", "?", "", "\xB7", "."}) {
+    test.locale.separator = system;
+    EXPECT_EQ(test.locale.DecimalSeparator(), ".");
+    EXPECT_EQ(Column(BrowseColumn::kWeight), (std::vector<Text>{"80.50"})) << system;
+  }
+}
+
 TEST_F(Browser, TheLastColumnIsThatOfThePriority) {
   struct Expected {
     const char* code;
