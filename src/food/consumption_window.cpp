@@ -204,10 +204,9 @@ void ConsumptionWindow::Refresh_Consumpties() {
   }
   rows_ = std::make_shared<const std::vector<ConsumptionRow>>(ConsumptionRows(program_, part_));
   const int current = LV_consumpties_->currentIndex().row();
-  LV_consumpties_->Model().Show(std::move(columns), rows_->size(),
-                                [rows = rows_](std::size_t row, std::size_t column) {
-                                  return CellOf((*rows)[row], column);
-                                });
+  LV_consumpties_->Model().Show(
+      std::move(columns), rows_->size(),
+      [rows = rows_](std::size_t row, std::size_t column) { return CellOf((*rows)[row], column); });
   const auto to_select = RowsToSelect(program_, part_, *rows_);
   if (to_select.empty() && current >= 0 && !rows_->empty()) {
     // Nothing is selected, but the arrow keys go on from where they were.

@@ -40,7 +40,7 @@ struct OrderedFolders : TemporaryFolders {
 };
 struct OrderedLocale : FixedLocale {
   explicit OrderedLocale(Steps& all) : steps(all) {}
-  Text DecimalSeparator() const override {
+  Text SystemDecimalSeparator() const override {
     steps.Note("separator");
     return separator;
   }
