@@ -1,7 +1,7 @@
 # What nearly every file of a layer includes, compiled once instead of with each of them. Library
 # headers only: a change to a header of our own must not compile everything again. Each file still
-# includes all it uses; the presets release, bench and fuzz build without these headers and would
-# not compile otherwise.
+# includes all it uses; the presets release and bench build without these headers and would not
+# compile otherwise.
 set(standard_headers
     <algorithm> <array> <charconv> <cmath> <cstdint> <cstdio> <cstring> <filesystem> <functional>
     <iterator> <limits> <map> <memory> <numeric> <optional> <set> <span> <string> <string_view>
@@ -17,8 +17,11 @@ set(qt_headers
     <QTabWidget> <QTableView> <QTableWidget> <QTimer> <QToolBar> <QToolButton> <QToolTip>
     <QTreeWidget> <QVBoxLayout> <QVariant> <QWidget>)
 
-# gcc reads a precompiled header by its include line, which the compiler cache sees only where the
-# preprocessor keeps it.
+# The compiler cache must see a precompiled header as a part of what it compiles: gcc shows it where
+# the preprocessor keeps its include line, clang where it holds no time.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   add_compile_options(-fpch-preprocess)
+else()
+  set(CMAKE_PCH_INSTANTIATE_TEMPLATES ON)
+  add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
 endif()
