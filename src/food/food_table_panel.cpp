@@ -39,8 +39,7 @@ std::vector<std::size_t> FoodTable::SelectedRows() const {
     }
   }
   std::ranges::sort(rows);
-  const auto repeated = std::ranges::unique(rows);
-  rows.erase(repeated.begin(), repeated.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   return rows;
 }
 

@@ -74,7 +74,7 @@ TEST_F(Details, AnotherFoodOfTheNameIsAskedAboutBeforeItIsReplaced) {
       test.boxes.answers = {answer};
       const bool yes = answer == BoxAnswer::yes;
       EXPECT_EQ(SaveDetails(program, details), yes);
-      EXPECT_EQ(Said(), kReplaceBread);
+      ASSERT_EQ(Said(), kReplaceBread);
       EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::question);
       EXPECT_EQ(test.boxes.shown[0].buttons, BoxButtons::yes_no);
       if (yes) {

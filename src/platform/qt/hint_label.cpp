@@ -27,7 +27,8 @@ int Between(int from, int to, int percent) {
 }  // namespace
 
 double ContrastOf(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax(LuminanceOf(one), LuminanceOf(other));
+  // As a list: of two temporaries minmax would give references.
+  const auto [darker, lighter] = std::minmax({LuminanceOf(one), LuminanceOf(other)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 
