@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   program.paths.UsersPath = "stays/";
   ApplyAlternativeUsersFolder(program);
-  const bool elsewhere = filled.strings[16] == "1";
+  const bool elsewhere = filled.strings[16] == "1" && !filled.strings[18].empty();
   Check(program.paths.UsersPath == (elsewhere ? Utf8FromText(filled.strings[18]) : "stays/"),
         "the users folder is that of the settings only where they ask for it");
   Check(TextFromUtf8(Utf8FromText(filled.strings[18])) == filled.strings[18],
