@@ -83,7 +83,7 @@ Diary& DiaryOf(std::size_t days) {
 void Read(benchmark::State& state, std::size_t days) {
   Diary& diary = DiaryOf(days);
   std::size_t rows = 0;
-  for (auto _ : state) rows = ReadDays(diary.test.program).size();
+  for (auto _ : state) rows = ReadDays(diary.test.program).rows.size();
   if (rows != days || !diary.test.boxes.shown.empty()) state.SkipWithError("days are missing");
 }
 
