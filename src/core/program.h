@@ -54,8 +54,6 @@ struct OpenedDay {
 // What the previous read of a file kind left; a file with no record falls back on it.
 struct LastRead {
   std::optional<OpenedDay> opened_day;
-  std::optional<Rec_DayFile> day;
-  std::optional<Rec_Profile> profile;
 };
 
 // The addresses of the chosen food server; empty while it is not known.

@@ -68,12 +68,6 @@ template <class AnyRecord>
   return DecodeRecord<AnyRecord>(ReadFile(path));
 }
 
-// The first record of a file image; one that counts none leaves the record of the previous read of
-// that kind standing, and fails before any read. Throws std::system_error.
-template <class AnyRecord>
-[[nodiscard]] const AnyRecord& DecodeOrKeepRecord(std::string_view bytes,
-                                                  std::optional<AnyRecord>& last_read);
-
 // Writes a file of one record, deleting the old one first. Throws std::system_error.
 template <class AnyRecord>
 void WriteRecord(const std::string& path, const AnyRecord& record,
@@ -83,12 +77,5 @@ void WriteRecord(const std::string& path, const AnyRecord& record,
 
 // Thrown where a record is needed and no file has yielded one.
 [[noreturn]] void ThrowNoRecord();
-
-template <class AnyRecord>
-const AnyRecord& DecodeOrKeepRecord(std::string_view bytes, std::optional<AnyRecord>& last_read) {
-  if (auto record = DecodeRecord<AnyRecord>(bytes)) last_read = std::move(record);
-  if (!last_read) ThrowNoRecord();
-  return *last_read;
-}
 
 }  // namespace kelvora
