@@ -51,11 +51,6 @@ struct OpenedDay {
   std::string bytes;
 };
 
-// What the previous read of a file kind left; a file with no record falls back on it.
-struct LastRead {
-  std::optional<OpenedDay> opened_day;
-};
-
 // The addresses of the chosen food server; empty while it is not known.
 struct ServerAddresses {
   std::string search;
@@ -74,7 +69,7 @@ struct Program {
   Paths paths;
   DayState day;
   OpenWindows windows;
-  LastRead last_read;
+  std::optional<OpenedDay> opened_day;  // what a day file with no record falls back on
   KeptFiles kept;
   ServerAddresses servers;
   Text StartSeparator;  // the decimal separator that the locale had at start

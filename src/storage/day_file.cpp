@@ -53,7 +53,7 @@ void TakeDay(KV_data& store, const DayStrings& strings) {
 // The strings of the file that was just read; of one that counts no record, those of the day that
 // was opened before it in the same folder.
 DayStrings StringsOf(Program& program, const std::string& folder, std::string bytes) {
-  auto& opened = program.last_read.opened_day;
+  auto& opened = program.opened_day;
   DayStrings strings;
   const bool holds_a_record = DecodeFirstRecord(bytes, std::span(strings));
   if (!holds_a_record && (!opened || opened->folder != folder)) ThrowNoRecord();

@@ -4,11 +4,11 @@
 #include <array>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <system_error>
 #include <unordered_set>
 
 #include "core/common.h"
+#include "core/unread.h"
 #include "language/common_texts.h"
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
@@ -46,26 +46,6 @@ bool SaveUserList(Program& program, KeptFile& kept, const std::string& path, std
 Text CategoryOf(const FolderFile& file) {
   return file.name.substr(0, file.name.size() - kEnding.size()).append(kEnding);
 }
-
-// What could not be read, for one box: name and reason, a line each.
-class Unread {
- public:
-  void Add(std::string_view name, const Text& reason) {
-    if (++count_ > kMostLines) return;
-    if (!lines_.empty()) lines_ += '\n';
-    lines_.append(name).append(": ").append(reason);
-  }
-  // Fails with the lines, if there are any.
-  void ThrowIfAny() const {
-    if (count_ == 0) return;
-    throw std::runtime_error(Utf8FromText(lines_) + (count_ > kMostLines ? "\n..." : ""));
-  }
-
- private:
-  static constexpr std::size_t kMostLines = 10;
-  Text lines_;
-  std::size_t count_ = 0;
-};
 
 // The line of that key that becomes a favourite; nothing if there is none.
 std::optional<Text> CandidateOf(const KV_data& store, std::string_view key) {
@@ -126,23 +106,21 @@ void Load_Databases(Program& program) {
     const auto files = FilesWithPathsIn(folder, kEnding, failure);
     Unread unread;
     if (failure && failure != std::errc::no_such_file_or_directory) {
-      unread.Add("Databases", DescribeFailure(std::system_error(failure)));
+      unread.Add("Databases", std::system_error(failure));
     }
     store.database_lst.Clear();
     for (const FolderFile& file : files) store.database_lst.Add(file.name);
     store.Default_list.Clear();
     for (const FolderFile& file : files) {
       const Text category = CategoryOf(file);
-      try {
+      unread.Try(file.name, [&] {
         const std::string bytes = ReadFile(file.path);
         if (!CategoryKnown(store, category)) store.lst_categorien.Add(category);
         AppendFoodLines(bytes, category, store.Default_list);
-      } catch (const std::exception& reason) {
-        unread.Add(file.name, DescribeFailure(reason));
-      }
+      });
     }
     program.platform.pointer.Restore();
-    unread.ThrowIfAny();
+    unread.Report(program.FailurePath(), "#FF1-1");
   });
 }
 

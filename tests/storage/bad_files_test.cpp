@@ -148,7 +148,7 @@ TEST_P(BadFile, NoRecordAtAll) {
        {std::string_view("\0\0\0\0", 4), std::string_view("\0\0\0\0\5\0wrong", 11),
         std::string_view("\xFF\xFF\xFF\xFF\5\0wrong", 11),
         std::string_view("\0\0\0\x80\5\0wrong", 11)}) {
-    test.program.last_read = {};
+    test.program.opened_day.reset();
     test.program.profile = {};
     LoadBytes(bytes);
     EXPECT_EQ(Held(), "|");
