@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include "platform/qt/cell_tips.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -14,6 +15,7 @@ namespace kelvora {
 
 UserRows::UserRows(Program& program, QWidget* parent) : QListWidget(parent), program_(program) {
   NameWidget(this, "lst_users");
+  setItemDelegate(new CellTips(this));  // the list owns it
   const auto tell_chosen = [this] {
     if (Selected()) emit Chosen();
   };
@@ -26,7 +28,7 @@ void UserRows::ShowUsers(std::vector<User> users) {
   users_ = std::move(users);
   clear();
   for (const User& user : users_) {
-    auto* const row = new QListWidgetItem(ToQt(user.name), this);  // the list owns it
+    auto* const row = new QListWidgetItem(ToQtCell(user.name), this);  // the list owns it
     row->setSizeHint({0, RowHeight(*this)});
   }
   SelectCurrentUser();

@@ -2,6 +2,10 @@
 // and the selection behind it.
 #include <filesystem>
 
+#include <QHelpEvent>
+#include <QTextDocumentFragment>
+#include <QToolTip>
+
 #include "windows/browser_window.h"
 
 namespace kelvora {
@@ -156,6 +160,24 @@ TEST_F(BrowserUsers, ADayThatHasGoneIsToldOfAndLeavesTheList) {
   EXPECT_EQ(Column(2), "new.kvf");
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_FALSE(program.store.DayIsOpen());
+}
+
+TEST_F(BrowserUsers, ANameIsDrawnInOneLineAndToldWholeWhereItIsCut) {
+  const Text name = "Dora\tthe " + Text(60, 'x');
+  AddUser(name);
+  OpenAsAnna();
+  ASSERT_EQ(Users()->count(), 4);
+  EXPECT_EQ(Users()->item(3)->text(), QStringLiteral("Dora the ") + QString(60, 'x'));
+  const auto tip_of = [this](int row) {
+    QToolTip::hideText();
+    const QPoint place = Users()->visualItemRect(Users()->item(row)).center();
+    QHelpEvent event(QEvent::ToolTip, place, Users()->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(Users()->viewport(), &event);
+    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText().remove('\n');
+  };
+  EXPECT_EQ(tip_of(0), "");
+  EXPECT_EQ(tip_of(3), Users()->item(3)->text());
+  QToolTip::hideText();
 }
 
 }  // namespace
