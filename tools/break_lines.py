@@ -21,6 +21,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from concurrent.futures import ThreadPoolExecutor
 from dataclasses import dataclass, field
 from pathlib import Path
 
@@ -28,7 +29,7 @@ from breaks import breaks_of, switched
 
 VARIABLE = "KELVORA_BROKEN_LINE"
 # What a broken line leaves unused or converts is no reason not to compile it.
-HARMLESS = ("unused-variable", "unused-function", "unused-parameter", "unused-but-set-variable",
+HARMLESS = ("pragmas", "unknown-warning-option", "unused-variable", "unused-function", "unused-parameter", "unused-but-set-variable",
             "unused-value", "conversion", "float-conversion", "sign-compare", "type-limits",
             "empty-body", "return-type", "div-by-zero", "tautological-compare", "bool-compare",
             "int-in-bool-context", "parentheses", "logical-op", "array-bounds", "nonnull",
@@ -99,6 +100,7 @@ class Project:
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
         with tempfile.TemporaryDirectory(prefix="break_lines_") as home:
+            os.chmod(home, 0o755)  # some tests read it as another user
             environment = {**os.environ, **self.environment, "HOME": home, "TMPDIR": home,
                            "XDG_RUNTIME_DIR": home}
             if number:
@@ -193,8 +195,8 @@ def tell(change, count, total):
           f"{change.noticed_by or 'SURVIVED'}", file=sys.stderr, flush=True)
 
 
-def break_lines(project, folders, wanted, seed):
-    """The list of changes that were tried."""
+def break_lines(project, folders, wanted, seed, jobs):
+    """The list of changes that were tried; those of one build are judged `jobs` at a time."""
     order = drawn(project.root, folders, seed)
     chosen = dict(enumerate((change for change, _ in zip(order, range(wanted))), 1))
     sound = {change.path: project.read(change.path) for change in chosen.values()}
@@ -202,10 +204,14 @@ def break_lines(project, folders, wanted, seed):
     alone = {n: c for n, c in chosen.items() if n not in changes}
     alone |= build_switched(project, sound, changes)
     done = []
-    for number, change in sorted(changes.items(), key=lambda item: item[1].path):
-        judge(project, change, number)
-        done.append(change)
-        tell(change, len(done), wanted)
+
+    def judged(item):
+        judge(project, item[1], item[0])
+        done.append(item[1])
+        tell(item[1], len(done), wanted)
+
+    with ThreadPoolExecutor(jobs) as pool:
+        list(pool.map(judged, sorted(changes.items(), key=lambda item: item[1].path)))
     for path, lines in sound.items():
         project.write(path, lines)
     waiting = sorted(alone.values(), key=lambda change: change.path)
@@ -298,8 +304,7 @@ def kelvora(checkout, work):
         if not (checkout / old.relative_to(root)).exists():
             old.unlink()
     build = root / "build/broken"
-    subprocess.run(["cmake", "-S", root, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
-                    "-DKELVORA_WERROR=ON", "-DBUILD_TESTING=ON", "--log-level=WARNING"],
+    subprocess.run(["cmake", "--preset", "dev", "-B", build, "--log-level=WARNING"], cwd=root,
                    check=True, stdout=subprocess.DEVNULL)
     steps = KelvoraSteps(root)
     return Project(root, ["cmake", "--build", build, "--target", "logic_tests", "window_tests",
@@ -325,6 +330,8 @@ def main():
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--folders", nargs="+",
                         default=["src/food", "src/days", "src/storage", "src/core"])
+    parser.add_argument("--jobs", type=int, default=1,
+                        help="runs of tests at a time; 1 if absent")
     parser.add_argument("--work", type=Path,
                         help="where the copy lies, and stays; a temporary folder if absent")
     options = parser.parse_args()
@@ -333,7 +340,8 @@ def main():
         project = kelvora(checkout, (options.work or Path(temporary)).resolve())
         paths = {path for path, *_ in candidates(project.root, options.folders)}
         check_sound(project, sorted(paths))
-        print(report(break_lines(project, options.folders, options.lines, options.seed)))
+        print(report(break_lines(project, options.folders, options.lines, options.seed,
+                                 options.jobs)))
 
 
 if __name__ == "__main__":

@@ -92,7 +92,7 @@ class SmallTree(unittest.TestCase):
                 Path(root), ["c++", "-std=c++20", "src/food/sum.cpp", "test.cpp", "-o", "test"],
                 lambda path: [test])
             break_lines.check_sound(project, ["src/food/sum.cpp"])
-            done = break_lines.break_lines(project, ["src/food"], 100, 1)
+            done = break_lines.break_lines(project, ["src/food"], 100, 1, 2)
             self.assertEqual((folder / "sum.cpp").read_text(), SUM)
         missed = {change.line for change in done if not change.noticed_by}
         lines = SUM.split("\n")
