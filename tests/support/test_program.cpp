@@ -102,6 +102,8 @@ TestProgram::TestProgram(Machine machine) {
   program.StartSeparator = locale.separator;
 }
 
+TestProgram::~TestProgram() = default;
+
 void TestProgram::OpenDay(std::string_view user, std::string_view file_name) {
   MakeUserFolders(program.paths, user);
   SetCurrentUser(program, user);

@@ -144,6 +144,7 @@ enum class Machine { bare, prepared };
 class TestProgram {
  public:
   explicit TestProgram(Machine machine = Machine::prepared);
+  ~TestProgram();
 
   RecordingBoxes boxes;
   RecordingPointer pointer;
