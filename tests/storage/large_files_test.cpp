@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include "language/diary_texts.h"
 #include "language/language_file.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
@@ -47,6 +48,7 @@ struct Reader {
   void (*write)(Program&, const Text& huge);
   void (*read)(Program&);
   std::size_t (*held)(const Program&);
+  const char* refusal = "Cannot allocate memory";
 };
 
 void PrintTo(const Reader& reader, std::ostream* out) {
@@ -65,6 +67,10 @@ void WriteRecordWith(const std::string& path, Field field, const Text& huge, aut
 
 std::string CategoryPath(const Program& program) {
   return program.paths.ProgramPath + "Databases/Fruit.dat";
+}
+
+std::string LanguageFile(const Program& program) {
+  return program.paths.LanguagePath + "Large.lsf";
 }
 
 const std::array kReaders = {
@@ -110,6 +116,15 @@ const std::array kReaders = {
            },
            [](Program& p) { EXPECT_TRUE(ReadSettingsFile(p)); },
            [](const Program& p) { return p.settings[Setting::txt_map].size(); }},
+    Reader{"Language",
+           [](Program& p, const Text& huge) {
+             const Text entries = Text(diary_text::kTitle.index, kLineEnd) + huge;
+             WriteRecordWith(LanguageFile(p), TextTable::taal_diary, entries + kLineEnd,
+                             JoinTables(p.texts));
+           },
+           [](Program& p) { Load_Language_File(p, LanguageFile(p)); },
+           [](const Program& p) { return p.texts[diary_text::kTitle].size(); },
+           "The language file could not be opened"},
 };
 
 class LargeFile : public testing::TestWithParam<Reader> {};
@@ -123,6 +138,7 @@ TEST_P(LargeFile, IsTakenWholeInThreeTimesItsSize) {
   test.OpenDay("Anna");
   CloseDay(program);
   std::filesystem::create_directories(program.paths.ProgramPath + "Databases");
+  std::filesystem::create_directories(program.paths.LanguagePath);
   GetParam().write(program, Text(kHuge, 'x'));
   {
     const MemoryLimit limit(3 * kHuge + kMegabyte);
@@ -141,6 +157,7 @@ TEST_P(LargeFile, ThatMemoryCannotHoldIsAFailureLikeAnyOther) {
   test.OpenDay("Anna");
   CloseDay(program);
   std::filesystem::create_directories(program.paths.ProgramPath + "Databases");
+  std::filesystem::create_directories(program.paths.LanguagePath);
   GetParam().write(program, Text(kHuge, 'x'));
   if (GetParam().name == std::string_view("Settings")) {  // new ones are made, without a box
     const MemoryLimit limit(kHuge / 2);
@@ -152,7 +169,7 @@ TEST_P(LargeFile, ThatMemoryCannotHoldIsAFailureLikeAnyOther) {
     GetParam().read(program);
   }
   ASSERT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_NE(test.boxes.shown[0].text.find("Cannot allocate memory"), Text::npos);
+  EXPECT_NE(test.boxes.shown[0].text.find(GetParam().refusal), Text::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Readers, LargeFile, testing::ValuesIn(kReaders),
