@@ -19,6 +19,8 @@ AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
 # What differs from English in making a user and a day.
 WORDS = {"nederlands": {"title": "Begin een nieuwe dag"}}
 SETTINGS = "^(Kelvora FOOD settings|Instellingen van Kelvora FOOD)$"
+NEW_FOOD = "^(Add new food item|Nieuw voedingsmiddel toevoegen)$"
+DETAILS = "^(Food item details|Details van het voedingsmiddel)$"
 ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 
 
@@ -68,6 +70,21 @@ def take_start(desktop, program, folder, stem):
     process.wait(timeout=20)
 
 
+def take_foods(desktop, folder, stem):
+    """The dialog of a new food and both pages of a food's details."""
+    desktop.keys("alt+o", "Down", "Return")
+    take_window(desktop, NEW_FOOD, folder / f"new_food_{stem}.png")
+    desktop.keys("Escape")
+    desktop.no_window(NEW_FOOD)
+    desktop.click(row(2))
+    desktop.output("xdotool", "click", "--repeat", "2", "--delay", "60", "1")
+    for page in (1, 2):
+        take_window(desktop, DETAILS, folder / f"details_{page}_{stem}.png")
+        desktop.keys("ctrl+Tab")
+    desktop.keys("Escape")
+    desktop.no_window(DETAILS)
+
+
 def main():
     program, folder, language = Path(sys.argv[1]).resolve(), Path(sys.argv[2]), sys.argv[3]
     stem = Path(language).stem.lower()
@@ -87,6 +104,7 @@ def main():
         desktop.click(AFTERNOON_PLUS)
         desktop.click(MORNING_TOTALS)
         take(desktop, folder / f"main_window_{stem}.png")
+        take_foods(desktop, folder, stem)
         desktop.keys("ctrl+s")
         desktop.keys("ctrl+o")
         desktop.click(DAYS_FIRST)
