@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     AddNumberBenchmarks(report);
     AddLoadBenchmarks(report);
     AddSearchBenchmarks(report);
+    AddLargeBenchmarks(report);
     return report.Run(argc, argv);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "kelvora_bench: %s\n", failure.what());

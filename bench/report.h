@@ -76,5 +76,6 @@ void AddDayBenchmarks(Report& report);
 void AddBrowseBenchmarks(Report& report);
 void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
+void AddLargeBenchmarks(Report& report);
 
 }  // namespace kelvora::bench
