@@ -22,6 +22,7 @@ class Splash : public testing::Test {
   Splash() {
     window.Set_Taal();
     window.show();
+    since_start.start();
     window.ShowSplash();
     splash = FindIn<PopupWindow>(window, "KV_popup");
     window.BringToFront();
@@ -42,6 +43,7 @@ class Splash : public testing::Test {
 
   TestProgram test;
   MainWindow window{test.program};
+  QElapsedTimer since_start;
   QPointer<PopupWindow> splash;
 };
 
@@ -78,20 +80,20 @@ TEST_F(Splash, ShowsItsTextsAndPicturesInOrderAndEndsByItselfDuringABox) {
                              QStringLiteral("Starting interface")};
   QStringList seen;
   int highest = 0;
-  QTimer watch;
-  QObject::connect(&watch, &QTimer::timeout, [&] {
+  const auto see = [&] {
     if (splash.isNull() || !splash->isVisible()) return;
     const QString text = FindIn<QLabel>(*splash, "loader")->text();
     if (seen.isEmpty() || seen.back() != text) seen.append(text);
     EXPECT_EQ(LitPictures(), texts.indexOf(text));
     highest = qMax(highest, FindIn<QProgressBar>(*splash, "ProgressBar")->value());
-  });
+  };
+  see();
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, see);
   watch.start(20);
 
   qint64 ended = 0;
   bool box_was_up = false;
-  QElapsedTimer since_start;
-  since_start.start();
   QTimer look;
   QObject::connect(&look, &QTimer::timeout, [&] {
     const bool late = since_start.elapsed() > 15000;
