@@ -34,8 +34,16 @@ struct Paths {
 
 enum class DayDialogMode { new_day, day_settings };
 
+// The bare name of the file that a day was read from, in UTF-8, and what text can hold of it.
+struct OpenedName {
+  Text shown;
+  std::string name;
+};
+
 struct DayState {
   bool FileChanged = false;
+  // Leads to the open day's file while KV_bestand is what it shows.
+  OpenedName opened_name;
   kelvora::DayDialogMode DayDialogMode = kelvora::DayDialogMode::new_day;
   // The Product of the row last clicked or changed in each consumption window.
   std::array<Text, 3> selected_names;

@@ -87,10 +87,6 @@ void OpenDayOf(Program& program, const DayRow& row) {
   // The row belongs to a list that may be rebuilt while the day is opened.
   const DayRow chosen = row;
   const bool can_be_opened = program.Guard("#F3-5", [&] {
-    // Another file may have the name that is left of this one's.
-    if (chosen.folder + Utf8FromText(chosen.file_name) != chosen.path) {
-      ThrowSystemError(std::errc::illegal_byte_sequence);
-    }
     try {
       const InputFile file(chosen.path);
     } catch (const std::exception&) {
@@ -99,8 +95,10 @@ void OpenDayOf(Program& program, const DayRow& row) {
     }
   });
   if (!can_be_opened) return;
-  LoadDay(program, chosen.folder, chosen.file_name);
-  const bool loaded = program.store.KV_bestand == chosen.file_name && !program.day.FileChanged;
+  const std::string name = chosen.path.substr(chosen.folder.size());
+  LoadDay(program, chosen.folder, name);
+  const bool loaded =
+      program.store.DayIsOpen() && NameOfDayFile(program) == name && !program.day.FileChanged;
   // Unsaved work that the user wanted to keep stays marked as unsaved.
   if (loaded) AfterOpenDay(program);
 }

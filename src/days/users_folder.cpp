@@ -39,7 +39,7 @@ bool IsOther(const std::string& path, const std::string& old_path) {
 }
 
 std::string DayPath(const Program& program, const Paths& paths) {
-  return paths.FilesPath + Utf8FromText(program.store.KV_bestand);
+  return paths.FilesPath + NameOfDayFile(program);
 }
 
 bool OtherDayLiesThere(const Program& program, const Paths& there) {

@@ -76,7 +76,7 @@ Rec_DayFile PackDay(const KV_data& store) {
 }
 
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name) {
-  auto file = InputFile::TryOpen(folder + Utf8FromText(file_name));
+  auto file = InputFile::TryOpen(folder + std::string(file_name));
   if (!file) return;
   program.Guard("#FF1-8", [&] {
     Pointer& pointer = program.platform.pointer;
@@ -86,12 +86,19 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
       return;
     }
     // The name may belong to the row of a window that closes with the day.
-    const Text name(file_name);
+    const std::string name(file_name);
     CloseDay(program);
     TakeDay(program.store, StringsOf(program, folder, file->ReadAll()));
-    program.store.KV_bestand = name;
+    program.store.KV_bestand = TextFromUtf8(name);
+    program.day.opened_name = {program.store.KV_bestand, name};
     pointer.Restore();
   });
+}
+
+std::string NameOfDayFile(const Program& program) {
+  const Text& shown = program.store.KV_bestand;
+  const OpenedName& opened = program.day.opened_name;
+  return shown == opened.shown ? opened.name : Utf8FromText(shown);
 }
 
 bool SaveDay(Program& program) {
@@ -99,7 +106,7 @@ bool SaveDay(Program& program) {
     const KV_data& store = program.store;
     program.platform.pointer.ShowWait();
     if (!store.DayIsOpen()) return;  // meant: the next routine restores the pointer
-    WriteRecord(FolderOfDay(program) + "Files/" + Utf8FromText(store.KV_bestand), PackDay(store),
+    WriteRecord(FolderOfDay(program) + "Files/" + NameOfDayFile(program), PackDay(store),
                 NewFileMode::owner_only);
     program.platform.pointer.Restore();
     SetFileChanged(program, false);
@@ -120,6 +127,7 @@ void CloseDay(Program& program) {
   store.KV_bestand.clear();
   program.day.DayDialogMode = DayDialogMode::new_day;
   program.day.selected_names = {};
+  program.day.opened_name = {};
   SetFileChanged(program, false);
 
   OpenWindows& windows = program.windows;

@@ -111,18 +111,31 @@ TEST_F(OpeningADay, AFileThatIsGoneIsToldOfAndTheListRebuilt) {
   EXPECT_TRUE(program.day.FileChanged);
 }
 
-TEST_F(OpeningADay, AFileWhoseNameTextCannotHoldIsNotTakenForAnother) {
+TEST_F(OpeningADay, AFileWhoseNameTextCannotHoldIsOpenedAndSavedByItsPath) {
+  const std::string odd = program.paths.FilesPath + "\xE6\x97\xA5.kvf";  // one character
+  const std::string plain = program.paths.FilesPath + "?.kvf";
   AddDay("\xE6\x97\xA5.kvf", {.date = "01-03-04"});
   AddDay("?.kvf", {.date = "02-03-04"});
   const auto rows = ReadDays(program).rows;
   ASSERT_EQ(rows.size(), 3u);
   EXPECT_EQ(rows[0].file_name, rows[1].file_name);
+  const std::string other = ReadFile(plain);
+
   OpenDayOf(program, rows[0]);
-  EXPECT_FALSE(program.store.DayIsOpen());
-  EXPECT_TRUE(LastBoxEndsWith("Brelux CODE:#F3-5"));
-  EXPECT_EQ(window.closed, 0);
+  EXPECT_EQ(program.store.KV_bestand, "?.kvf");
+  EXPECT_EQ(program.store.L_gegevens[HeaderRow::kDate], "01-03-04");
+  program.store.txt_notities = "by its path";
+  EXPECT_TRUE(SaveDay(program));
+  EXPECT_EQ(ReadFile(plain), other);
+  EXPECT_EQ((*ReadFirstRecord<Rec_DayFile>(odd))[DayFileField::Notes], "by its path");
+
   OpenDayOf(program, rows[1]);
   EXPECT_EQ(program.store.L_gegevens[HeaderRow::kDate], "02-03-04");
+  program.store.txt_notities = "of the other";
+  EXPECT_TRUE(SaveDay(program));
+  EXPECT_EQ((*ReadFirstRecord<Rec_DayFile>(odd))[DayFileField::Notes], "by its path");
+  EXPECT_EQ((*ReadFirstRecord<Rec_DayFile>(plain))[DayFileField::Notes], "of the other");
+  EXPECT_TRUE(test.boxes.shown.empty());
 }
 
 // Deleting a day.
