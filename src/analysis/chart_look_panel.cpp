@@ -1,0 +1,25 @@
+#include "analysis/chart_look_panel.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+
+#include "platform/qt/hint_label.h"
+
+namespace kelvora {
+
+QColor LettersOn(const QColor& ground) {
+  const QColor white(Qt::white), black(Qt::black);
+  return ContrastOf(white, ground) >= ContrastOf(black, ground) ? white : black;
+}
+
+QFont FontForLines(const QFont& font, int lines, int height) {
+  constexpr int kSmallest = 8;
+  QFont fitting = font;
+  for (int size = QFontInfo(font).pixelSize();
+       size > kSmallest && QFontMetrics(fitting).height() * lines > height; --size) {
+    fitting.setPixelSize(size - 1);
+  }
+  return fitting;
+}
+
+}  // namespace kelvora

@@ -1,0 +1,27 @@
+// What the drawn panels of the analysis share: laid-down colours and lengths as the toolkit has
+// them, and letters that fit.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+#include "analysis/colour.h"
+#include "core/geometry.h"
+
+namespace kelvora {
+
+[[nodiscard]] inline QColor InQt(const Colour& colour) {
+  return {colour.red, colour.green, colour.blue};
+}
+
+[[nodiscard]] constexpr double InPixels(double twips) {
+  return twips / kTwipsPerPixel;
+}
+
+// Black or white, whichever reads better on the ground.
+[[nodiscard]] QColor LettersOn(const QColor& ground);
+
+// The font, made smaller as far as so many lines need it in that height, but not unreadable.
+[[nodiscard]] QFont FontForLines(const QFont& font, int lines, int height);
+
+}  // namespace kelvora
