@@ -1,5 +1,6 @@
 #include "analysis/bmi_panel.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QGridLayout>
@@ -50,6 +51,7 @@ constexpr std::array kValueRows = {
 };
 
 constexpr int kMargin = 10;
+constexpr int kMostRowGap = 8;
 
 // A step of the ladder: its colour to the edge, and a line around it that overlaps its neighbours'.
 class StepLabel : public QLabel {
@@ -128,8 +130,14 @@ void BmiPanel::BuildTexts() {
   grid->setVerticalSpacing(0);
   for (std::size_t i = 0; i < kCaptions; ++i) {
     txt_[i] = NewLabel(words_, QStringLiteral("txt_%1").arg(i));
+    txt_[i]->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // as the values
     const bool heads_a_group =
         kCaptionRows[i].text == st::kBodyMassIndex || kCaptionRows[i].text == st::kIdealWeight;
+    if (heads_a_group) {
+      QFont bold = txt_[i]->font();
+      bold.setBold(true);
+      txt_[i]->setFont(bold);
+    }
     grid->addWidget(txt_[i], kCaptionRows[i].row, 0, 1, heads_a_group ? 2 : 1);
   }
   for (std::size_t i = 0; i < kValues; ++i) {
@@ -195,7 +203,9 @@ void BmiPanel::LayOut() {
   const QRect arrow = PixelRect(PlaceArrow(places, step_.value_or(0)));
   pic_pijl_->setGeometry(arrow);
   pic_pijl_->setVisible(step_.has_value());
-  words_->setGeometry(kMargin, kMargin, arrow.left() - 2 * kMargin, height() - 2 * kMargin);
+  const int lines = kRows * (fontMetrics().height() + kMostRowGap);
+  const int words = std::min(height() - 2 * kMargin, lines);
+  words_->setGeometry(kMargin, (height() - words) / 2, arrow.left() - 2 * kMargin, words);
 }
 
 void BmiPanel::paintEvent(QPaintEvent*) {

@@ -34,7 +34,9 @@ class Top5Pictures : public testing::Test {
             [this](const Wedge& wedge, const PictureSize& picture) {
               return Teken_Taartpunt(test.program, wedge, picture);
             },
-            nullptr) {}
+            &host) {
+    host.show();
+  }
 
   SummaryRows Rows(Text name = "Bread") const {
     SummaryRows rows;
@@ -64,6 +66,7 @@ class Top5Pictures : public testing::Test {
 
   TestProgram test;
   Top5 top5;
+  QWidget host;  // shown, so that a new size counts at once
   Top5Panel panel;
 };
 
