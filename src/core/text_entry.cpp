@@ -22,6 +22,16 @@ char Plain(char32_t character, bool many_lines) {
   return many_lines && character == '\t' ? '\t' : ' ';
 }
 
+// As much of the beginning as there is room for; a line break is taken whole or not at all.
+std::string_view Fitting(const EntryRule& rule, std::string_view text, std::size_t room) {
+  std::size_t length = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    length += text[i] == '\n' ? rule.break_length : 1;
+    if (length > room) return text.substr(0, i);
+  }
+  return text;
+}
+
 }  // namespace
 
 Entry TakeEntered(const EntryRule& rule, std::u32string_view entered, std::size_t room,
@@ -41,7 +51,9 @@ Entry TakeEntered(const EntryRule& rule, std::u32string_view entered, std::size_
   }
   entry.mark_dropped =
       rule.filter == KeyFilter::whole_number && held.find_first_of(".,") != Text::npos;
-  entry.taken = ApplyKeyFilter(rule.filter, held, separator).substr(0, room);
+  const Text accepted = ApplyKeyFilter(rule.filter, held, separator);
+  entry.taken = Fitting(rule, accepted, room);
+  entry.cut = entry.taken.size() < accepted.size();
   return entry;
 }
 

@@ -4,6 +4,7 @@
 // file knows nothing of boxes, cursors or hints.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <string>
@@ -18,6 +19,7 @@ struct EntryRule {
   KeyFilter filter = KeyFilter::none;
   std::size_t limit = std::numeric_limits<std::size_t>::max();  // characters
   bool many_lines = false;                                      // line breaks and tabs stay
+  std::size_t break_length = 1;  // the characters that a line break counts as
 };
 
 struct Entry {
@@ -26,7 +28,15 @@ struct Entry {
   std::u32string left_out;
   // A box for whole numbers was given a decimal mark, without which the digits mean another number.
   bool mark_dropped = false;
+  bool cut = false;  // the end had no room
 };
+
+// How many characters of the limit a text takes, its line breaks as "\n".
+template <class String>
+[[nodiscard]] std::size_t LengthUnder(const EntryRule& rule, const String& text) {
+  const auto breaks = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  return static_cast<std::size_t>(text.size()) + breaks * (rule.break_length - 1);
+}
 
 // A character that text can't hold is left out, never replaced; a control character becomes a
 // blank, and so does a line break, CR LF as one. Of what the filter lets through, the end is

@@ -90,5 +90,25 @@ TEST(EnteredText, AMarkThatAWholeNumberCantHaveIsTold) {
   EXPECT_FALSE(TakeEntered({}, U"12.5", kPlenty, ".").mark_dropped);
 }
 
+// A diary's line break is two characters, and is never halved.
+TEST(EnteredText, ALineBreakCountsAsTheRuleSays) {
+  const EntryRule rule{.many_lines = true, .break_length = 2};
+  EXPECT_EQ(LengthUnder(rule, std::string_view("a\nb\n")), 6u);
+  EXPECT_EQ(LengthUnder(EntryRule{.many_lines = true}, std::string_view("a\nb\n")), 4u);
+  EXPECT_EQ(Taken(U"ab\ncd", rule, 6), "ab\ncd");
+  EXPECT_EQ(Taken(U"ab\ncd", rule, 5), "ab\nc");
+  EXPECT_EQ(Taken(U"ab\ncd", rule, 4), "ab\n");
+  EXPECT_EQ(Taken(U"ab\ncd", rule, 3), "ab");
+  EXPECT_EQ(Taken(U"ab\r\ncd", rule, 4), "ab\n");
+  EXPECT_EQ(Taken(U"ab\rcd", rule, 4), "ab\n");
+}
+
+TEST(EnteredText, WhetherTheEndWasCutIsTold) {
+  EXPECT_FALSE(TakeEntered({}, U"abc", 3, ".").cut);
+  EXPECT_TRUE(TakeEntered({}, U"abcd", 3, ".").cut);
+  // What is left out for another reason is not cut.
+  EXPECT_FALSE(TakeEntered({}, U"abc\u4E2D", 3, ".").cut);
+}
+
 }  // namespace
 }  // namespace kelvora

@@ -28,11 +28,12 @@ HeldChange HoldChange(const EntryRule& rule, const EntryContext& context, const 
   } else if (ByteOf(composed.front().unicode())) {
     change.before.chop(last.size());
   }
-  const auto size = static_cast<std::size_t>(change.before.size() + change.behind.size());
+  const std::size_t size = LengthUnder(rule, change.before) + LengthUnder(rule, change.behind);
   Entry entry =
       TakeEntered(rule, composed.toStdU32String(), rule.limit - std::min(rule.limit, size),
                   context.locale.DecimalSeparator());
   change.left_out = {std::move(entry.left_out), entry.mark_dropped};
+  change.cut = entry.cut;
   change.taken = ToQtWhole(entry.taken);
   change.refused = change.taken.isEmpty() && !entered.isEmpty();
   if (change.refused) change.taken = held_front.mid(change.before.size());

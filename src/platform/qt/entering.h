@@ -32,6 +32,7 @@ struct HeldChange {
   QString taken;   // stands up to the cursor
   QString behind;
   bool refused = false;
+  bool cut = false;  // the end had no room
   LeftOut left_out;
 
   [[nodiscard]] QString Whole() const { return before + taken + behind; }

@@ -45,6 +45,7 @@ void TextArea::Hold() {
   if (held_ != changed) Replace(static_cast<int>(change.before.size()), cursor, change.taken);
   EntryHint::Tell(*this, change.left_out, context_.texts);
   if (!change.refused) emit Edited();
+  if (change.cut) emit Cut();
 }
 
 // As one step with what was just done, to be undone with it.

@@ -25,6 +25,8 @@ class TextArea : public QPlainTextEdit {
  signals:
   // Somebody has changed the text; the box already shows what was taken.
   void Edited();
+  // What was entered had no room at its end; comes behind Edited.
+  void Cut();
 
  private:
   void Hold();
