@@ -26,6 +26,10 @@ inline constexpr int kMainMinimumHeight = 8600;
 inline constexpr int kConsumptionMinimumWidth = 5000;
 inline constexpr int kConsumptionMinimumHeight = 2800;
 
+// The diary with its frame is never smaller.
+inline constexpr int kDiaryMinimumWidth = 6000;
+inline constexpr int kDiaryMinimumHeight = 4000;
+
 struct WindowRecord {
   int width = 0;
   int height = 0;

@@ -100,6 +100,14 @@ struct DaySummaryView : WindowView {
   virtual void Maak_Voedingsbehoefte(const DayTotals& totals) = 0;
 };
 
+struct DiaryView : WindowView {
+  // Shows the store's text; what was typed and not taken over goes.
+  virtual void Refresh_Tekst() = 0;
+  // Whether there is such text, and taking it over into the store: false if that was refused.
+  [[nodiscard]] virtual bool HoldsUntakenText() const = 0;
+  virtual bool TakeOver() = 0;
+};
+
 struct BrowserView : WindowView {
   virtual void Refresh_GebruikersLijst() = 0;
   virtual void Refresh_Files() = 0;
@@ -156,7 +164,7 @@ struct OpenWindows {
   BrowserView* browser = nullptr;
   DaySummaryView* day_summary = nullptr;
   MultiDayView* multi_day = nullptr;
-  WindowView* diary = nullptr;
+  DiaryView* diary = nullptr;
   WindowView* comparison = nullptr;
   WindowView* food_details = nullptr;
   WizardView* wizard = nullptr;

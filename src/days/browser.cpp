@@ -11,6 +11,7 @@
 #include "storage/kept_files.h"
 #include "storage/record_file.h"
 #include "storage/settings_file.h"
+#include "storage/untaken_diary.h"
 
 namespace kelvora {
 namespace {
@@ -46,6 +47,7 @@ bool AskYesNo(Program& program, TextId title, Text text) {
 
 bool MayCloseDayForUser(Program& program) {
   if (program.store.L_gegevens.Empty() && !program.store.DayIsOpen()) return true;
+  if (!MayCloseDiaryWithDay(program)) return false;
   return AskYesNo(program, kSwitchTitle,
                   JoinLines(program.texts, {kSwitchGoing, kSwitchLost, std::nullopt, kSwitchSure}));
 }

@@ -104,6 +104,14 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::name_advice,
                "Choose a name without \"/\" that is not \".\" or \"..\" and isn't too long."_w,
                "Kies een naam zonder \"/\" die niet \".\" of \"..\" is en niet te lang."_w},
+    OwnTextRow{OwnText::diary_unsaved, "You have changed the diary and not saved it yet."_w,
+               "Je hebt het dagboek gewijzigd en nog niet opgeslagen."_w},
+    OwnTextRow{OwnText::diary_save_first,
+               "Save it in the day first? With No the changes are lost."_w,
+               "Wil je het eerst in de dag opslaan? Met Nee gaan de wijzigingen verloren."_w},
+    OwnTextRow{OwnText::diary_cut, "Text cut short"_w, "Tekst ingekort"_w},
+    OwnTextRow{OwnText::diary_cut_tip, "Not all of the text had room; its end was left out."_w,
+               "Niet alle tekst paste; het einde is weggelaten."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -69,6 +69,11 @@ enum class OwnText {
   // What the day dialog says to a name that no folder can have.
   name_not_possible,
   name_advice,
+  // Before a diary is left that was changed and not saved, and when not all of a paste has room.
+  diary_unsaved,
+  diary_save_first,
+  diary_cut,
+  diary_cut_tip,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -82,6 +87,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 43;
+inline constexpr int kOwnTextCount = 47;
 
 }  // namespace kelvora

@@ -10,6 +10,7 @@
 #include "storage/folders.h"
 #include "storage/kept_files.h"
 #include "storage/record_file.h"
+#include "storage/untaken_diary.h"
 
 namespace kelvora {
 namespace {
@@ -32,6 +33,7 @@ bool AskYesNo(Program& program, TextId title, Text text) {
 
 bool MayDropDayForAnother(Program& program) {
   using namespace common_text;
+  if (!MayCloseDiaryWithDay(program)) return false;
   if (!program.day.FileChanged) return true;
   return AskYesNo(
       program, kOpenFileTitle,
@@ -102,6 +104,7 @@ std::string NameOfDayFile(const Program& program) {
 }
 
 bool SaveDay(Program& program) {
+  if (!MayLeaveDiary(program)) return false;
   const bool saved = program.Guard("#FF1-9", [&] {
     const KV_data& store = program.store;
     program.platform.pointer.ShowWait();
@@ -143,6 +146,7 @@ void CloseDay(Program& program) {
 
 bool MayDropDayForNewOne(Program& program) {
   using namespace main_text;
+  if (!MayCloseDiaryWithDay(program)) return false;
   if (!program.day.FileChanged) return true;
   return AskYesNo(
       program, kNewFile,

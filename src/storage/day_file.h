@@ -28,8 +28,8 @@ void TakeDay(KV_data& store, const Rec_DayFile& record);
 [[nodiscard]] Rec_DayFile PackDay(const KV_data& store);
 
 // Writes the open day, if there is one, to its user's folder, and then what lists and profile could
-// not be written before. False after a failure; that of the day shows "#FF1-9" and leaves it
-// changed.
+// not be written before. Asks first where the diary has text that was not taken over. False after a
+// failure; that of the day shows "#FF1-9" and leaves it changed.
 bool SaveDay(Program& program);
 
 // Empties the day and closes the windows that show it. Asks nothing and saves nothing.

@@ -61,6 +61,13 @@ struct ListeningMultiDay : Listening<MultiDayView> {
   void Refresh_Meerdaagsuittreksel() override {}
 };
 
+struct ListeningDiary : Listening<DiaryView> {
+  using Listening::Listening;
+  void Refresh_Tekst() override {}
+  bool HoldsUntakenText() const override { return false; }
+  bool TakeOver() override { return true; }
+};
+
 class LanguageOfTheWindows : public testing::Test {
  protected:
   LanguageOfTheWindows() {
@@ -77,9 +84,10 @@ class LanguageOfTheWindows : public testing::Test {
 TEST_F(LanguageOfTheWindows, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder) {
   ListeningCore core(notes);
   Listening<WindowView> properties("properties", notes), details("details", notes),
-      diary("diary", notes), comparison("comparison", notes), day_settings("day settings", notes),
+      comparison("comparison", notes), day_settings("day settings", notes),
       export_html("export", notes);
   ListeningMultiDay multi_day("multi-day", notes);
+  ListeningDiary diary("diary", notes);
   ListeningBrowser browser("browser", notes);
   ListeningWizard wizard("wizard", notes);
   ListeningSummary summary("summary", notes);

@@ -62,9 +62,10 @@ TEST(EntryBoxes, OfTheMainWindowAndItsChildWindowsTakeTextOnly) {
   window.show();
   test.OpenDay("Anna");
   ApplyChosenArrangement(test.program);
+  window.OpenWindow(WindowId::diary);
   QApplication::processEvents();
-  // Name and unit of a combined food in three windows; two searches in the food lists.
-  ExpectTextOnly(window, 3 * 2 + 2);
+  // Name and unit of a combined food in three windows; two searches in the food lists; the diary.
+  ExpectTextOnly(window, 3 * 2 + 2 + 1);
 }
 
 TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {

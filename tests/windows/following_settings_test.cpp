@@ -57,6 +57,7 @@ class Windows {
     main_.Set_Taal();
     main_.show();
     ApplyChosenArrangement(program);
+    main_.OpenWindow(WindowId::diary);
     main_.UpdateCommands();
     browser_ = std::make_unique<BrowserDialog>(program, &main_);
     browser_->Open();

@@ -71,6 +71,7 @@ class HugeTexts : public testing::Test {
       if (row != HeaderRow::kHeight) program.store.L_gegevens.Replace(row, huge);
     }
     program.store.L_ochtend.Add(line);
+    program.store.txt_notities = huge;
     program.store.Default_list.Add(line);
     program.store.Custom_list.Add(line);
     for (std::size_t i = 0; i < kProfileFieldsInUse; ++i) {
@@ -101,6 +102,7 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
   window.resize(1024, 748);
   window.show();
   ApplyChosenArrangement(test.program);
+  window.OpenWindow(WindowId::diary);
   window.UpdateStatusBar();
   QApplication::processEvents();
   ExpectBounded(window, 3 * 10);

@@ -217,6 +217,7 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
     window.show();
     test.OpenDay("Anna");
     ApplyChosenArrangement(program);
+    window.OpenWindow(WindowId::diary);
     window.UpdateCommands();
     Look(window, 100);
   });

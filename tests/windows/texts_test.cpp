@@ -113,6 +113,7 @@ class WindowTexts : public testing::Test {
     SaveDay(program);
     Save_Profile(program, ProfileFile(program.paths, "7"));
     ApplyChosenArrangement(program);
+    window.OpenWindow(WindowId::diary);
     window.UpdateCommands();
     window.UpdateStatusBar();
     QApplication::processEvents();

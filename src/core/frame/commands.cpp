@@ -12,6 +12,7 @@
 #include "storage/day_file.h"
 #include "storage/kept_files.h"
 #include "storage/settings_file.h"
+#include "storage/untaken_diary.h"
 
 namespace kelvora {
 namespace {
@@ -53,7 +54,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_in_ochtend, Needs::day},
     CommandRow{Command::mnu_in_middag, Needs::day},
     CommandRow{Command::mnu_in_avond, Needs::day},
-    NotServed(Command::mnu_in_notities, Needs::day),
+    CommandRow{Command::mnu_in_notities, Needs::day},
     CommandRow{Command::mnu_item_info, Needs::user},
     CommandRow{Command::mnu_item_voegtoe, Needs::user},
     CommandRow{Command::mnu_item_del, Needs::user},
@@ -150,6 +151,11 @@ void ChangeDaySettings(Program& program) {
   program.windows.core->OpenWindow(WindowId::day_settings);
 }
 
+bool ClosesAllWindows(Command command) {
+  return command == Command::quick_default || command == Command::quick_all ||
+         command == Command::quick_reset;
+}
+
 void RememberArrangement(Program& program, std::string_view chosen) {
   program.settings[Setting::chk_all_screens] = chosen;
   Save_Settings(program);
@@ -209,6 +215,7 @@ void RunCommand(Program& program, Command command) {
   if (command == Command::mnu_uit_daguittreksel) return ShowOrHideDaySummary(program);
   const auto toggle = std::ranges::find(kToggles, command, &WindowCommand::command);
   if (toggle != kToggles.end()) return ToggleWindow(program, toggle->window);
+  if (ClosesAllWindows(command) && !MayLeaveDiary(program)) return;
   switch (command) {
     case Command::mnu_startupwizzard:
       return program.windows.core->OpenWindow(WindowId::wizard);
@@ -260,6 +267,7 @@ void RunCommand(Program& program, Command command) {
 }
 
 bool MayEndProgram(Program& program) {
+  if (!MayCloseDiaryWithDay(program)) return false;
   const bool day_changed = program.day.FileChanged;
   if (!day_changed && !HoldsUnwrittenWork(program)) return true;
   const Text day_line = day_changed ? program.texts[kExitNotSaved] + "\n" : Text();

@@ -8,6 +8,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include "analysis/diary_window.h"
 #include "core/common.h"
 #include "core/frame/arrangement.h"
 #include "core/frame/child_area_panel.h"
@@ -334,10 +335,12 @@ void MainWindow::OpenWindow(WindowId id) {
       return OpenConsumption(DayPart::afternoon, "afternoon");
     case WindowId::evening:
       return OpenConsumption(DayPart::evening, "evening");
+    case WindowId::diary:
+      return OpenChild(id, new DiaryWindow(program_, area_), "diary",
+                       {PixelsCovering(kDiaryMinimumWidth), PixelsCovering(kDiaryMinimumHeight)});
     case WindowId::day_summary:
     case WindowId::food_details:
     case WindowId::multi_day:
-    case WindowId::diary:
     case WindowId::comparison:
       return;
   }

@@ -65,7 +65,7 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_in_ochtend, State::day, State::day},
     EnableRow{Command::mnu_in_middag, State::day, State::day},
     EnableRow{Command::mnu_in_avond, State::day, State::day},
-    EnableRow{Command::mnu_in_notities, State::never, State::never},
+    EnableRow{Command::mnu_in_notities, State::day, State::day},
     EnableRow{Command::mnu_item_info, State::user, State::user},
     EnableRow{Command::mnu_item_voegtoe, State::user, State::user},
     EnableRow{Command::mnu_item_del, State::user, State::user},
