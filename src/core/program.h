@@ -65,6 +65,13 @@ struct ServerAddresses {
   std::string submission;
 };
 
+// What the analysis windows share for the life of the process.
+struct AnalysisState {
+  // The nutrient of the top five diagrams, in the order of the windows' menus: kilojoules,
+  // kilocalories, unsaturated fat, saturated fat, protein, sodium, carbohydrates. A whole number.
+  float gekozen_stof = 0;
+};
+
 struct Program {
   explicit Program(Platform& outside) : platform(outside) {}
   Program(const Program&) = delete;
@@ -76,6 +83,7 @@ struct Program {
   TextTables texts;
   Paths paths;
   DayState day;
+  AnalysisState analysis;
   OpenWindows windows;
   std::optional<OpenedDay> opened_day;  // what a day file with no record falls back on
   KeptFiles kept;
