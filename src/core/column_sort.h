@@ -6,6 +6,7 @@
 // that result reversed. So equal values keep their order descending, and turn it round ascending.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,13 @@ enum class SortOrder { ascending, descending };
 [[nodiscard]] constexpr SortOrder Flipped(SortOrder order) {
   return order == SortOrder::ascending ? SortOrder::descending : SortOrder::ascending;
 }
+
+// By which column a list is sorted.
+struct ColumnOrder {
+  std::size_t column = 0;
+  SortOrder order = SortOrder::ascending;
+  bool operator==(const ColumnOrder&) const = default;
+};
 
 // Values are whole or infinite, never not-a-number.
 [[nodiscard]] std::vector<std::uint32_t> OrderByWholeValue(const std::vector<double>& values,

@@ -22,13 +22,6 @@ inline constexpr std::array kFoodViews = {FoodView::standard, FoodView::own, Foo
 
 inline constexpr std::size_t kFoodColumns = 5;
 
-// By which column a view is sorted.
-struct ColumnOrder {
-  std::size_t column = 0;
-  SortOrder order = SortOrder::ascending;
-  bool operator==(const ColumnOrder&) const = default;
-};
-
 class FoodLists {
  public:
   explicit FoodLists(Program& program)
