@@ -1,0 +1,37 @@
+// The list of merged consumptions of a window: what its rows say, how it is sorted, how wide its
+// columns are. The rows are texts; the charts read their numbers from them.
+#pragma once
+
+#include <optional>
+
+#include "analysis/requirements.h"
+#include "analysis/summary_row.h"
+#include "core/column_sort.h"
+
+namespace kelvora {
+
+// A row for each of these different lines, with its amounts as often as its count says. The hidden
+// keys go up by two, which is meant. An amount that no number can hold has an empty cell.
+[[nodiscard]] SummaryRows RowsOfLines(Program& program, const TextList& distinct,
+                                      const TextList& counts);
+
+[[nodiscard]] std::array<Text, kSummaryColumns> SummaryHeadings(const TextTables& texts,
+                                                                AnalysisWindow window);
+
+// In twips, for a list of that width; the first column is hidden, and that of the foods takes what
+// the others leave.
+[[nodiscard]] std::array<int, kSummaryColumns> SummaryColumnWidths(int list_width);
+
+// What the headings were clicked for last. It outlives a rebuilding of the list.
+struct SummarySort {
+  std::optional<ColumnOrder> last_text;             // the text column sorted last
+  SortOrder next_by_number = SortOrder::ascending;  // one flag for all columns of numbers
+  bool operator==(const SummarySort&) const = default;
+};
+
+// Sorts the rows as a click on the heading of a column does, and says how they stand then; nothing
+// for the hidden column, which sorts nothing. Texts go without regard to case and accents, and
+// first descending; numbers by their whole values, and first ascending.
+std::optional<ColumnOrder> SortSummary(SummaryRows& rows, SummaryColumn column, SummarySort& sort);
+
+}  // namespace kelvora
