@@ -214,8 +214,11 @@ void BuildTop5(const SummaryRows& rows, const Top5Choice& choice, const TextTabl
 void Bouw_Top5(Program& program, const SummaryRows& rows, int gekozen_stof, Top5& top5) {
   program.Guard("#F9-10", [&] {
     const Text separator = program.platform.locale.DecimalSeparator();
-    const Pause pause = [&program] {
-      program.platform.events.Yield();
+    // A day of usual length is sorted before anybody waits, and nothing comes between a change and
+    // its picture.
+    constexpr std::size_t kLongDay = 1000;
+    const Pause pause = [&program, long_day = rows.size() > kLongDay] {
+      if (long_day) program.platform.events.Yield();
       return program.ending;
     };
     BuildTop5(rows, {kDayWords, gekozen_stof}, program.texts, separator, pause, top5);
