@@ -37,7 +37,7 @@ void DaySummary::Vul_Uittreksel() {
     }
     CountEqualLines(lst_totaal, store.Dupe_list, store.Dupe_list_teller);
     rows_ = std::make_shared<const SummaryRows>(
-        RowsOfLines(program_, store.Dupe_list, store.Dupe_list_teller));
+        row_maker_.RowsOf(program_, store.Dupe_list, store.Dupe_list_teller));
   });
 }
 

@@ -72,6 +72,7 @@ class DaySummary {
   PanelWidths widths_;
   RequirementRows bars_;
   std::shared_ptr<const SummaryRows> rows_ = std::make_shared<const SummaryRows>();
+  SummaryRowMaker row_maker_;
   SummarySort sort_;
   std::optional<ColumnOrder> shown_order_;
   Top5 top5_;

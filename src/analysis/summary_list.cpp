@@ -69,6 +69,31 @@ Text PrintedOrNothing(Print print) {
   }
 }
 
+// All but the key.
+SummaryRow RowOfLine(std::string_view line, std::string_view count, std::string_view separator,
+                     bool ounces) {
+  const auto fields = FieldsOf(line);
+  const auto field = [&fields](std::size_t index) {
+    return index < fields.size() ? fields[index] : std::string_view();
+  };
+  const double times = Val(count);
+  SummaryRow row;
+  row[SummaryColumn::food] = field(FoodField::kProduct);
+  row[SummaryColumn::count] = count;
+  row[SummaryColumn::unit] = field(FoodField::kUnit);
+  const double weight = ReadStoredNumber(field(FoodField::kGram)) * times;
+  row[SummaryColumn::weight] = PrintedOrNothing([&] {
+    return ounces ? OuncesOfGrams(weight, separator)
+                  : FormatNumber(weight, kWeightPattern, separator);
+  });
+  for (const auto& [column, index, pattern] : kAmounts) {
+    const double amount = ReadStoredNumber(field(index)) * times;
+    row[column] = PrintedOrNothing(
+        [&, &pattern = pattern] { return FormatNumber(amount, pattern, separator); });
+  }
+  return row;
+}
+
 bool IsText(SummaryColumn column) {
   return column == SummaryColumn::food || column == SummaryColumn::unit;
 }
@@ -103,31 +128,32 @@ std::vector<std::uint32_t> SortedPlaces(const SummaryRows& rows, SummaryColumn c
 }  // namespace
 
 SummaryRows RowsOfLines(Program& program, const TextList& distinct, const TextList& counts) {
+  return SummaryRowMaker().RowsOf(program, distinct, counts);
+}
+
+SummaryRows SummaryRowMaker::RowsOf(Program& program, const TextList& distinct,
+                                    const TextList& counts) {
   const Text separator = program.platform.locale.DecimalSeparator();
   const bool ounces = program.settings[Setting::opt_gramoz] == "1";
-  SummaryRows rows(distinct.Count());
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    const auto fields = FieldsOf(distinct[i]);
-    const auto field = [&fields](std::size_t index) {
-      return index < fields.size() ? fields[index] : std::string_view();
-    };
-    const double times = Val(counts[i]);
-    SummaryRow& row = rows[i];
-    row[SummaryColumn::key] = std::to_string(kKeyStep * (i + 1));
-    row[SummaryColumn::food] = field(FoodField::kProduct);
-    row[SummaryColumn::count] = counts[i];
-    row[SummaryColumn::unit] = field(FoodField::kUnit);
-    const double weight = ReadStoredNumber(field(FoodField::kGram)) * times;
-    row[SummaryColumn::weight] = PrintedOrNothing([&] {
-      return ounces ? OuncesOfGrams(weight, separator)
-                    : FormatNumber(weight, kWeightPattern, separator);
-    });
-    for (const auto& [column, index, pattern] : kAmounts) {
-      const double amount = ReadStoredNumber(field(index)) * times;
-      row[column] = PrintedOrNothing(
-          [&, &pattern = pattern] { return FormatNumber(amount, pattern, separator); });
-    }
+  if (ounces != ounces_ || separator != separator_) made_.clear();
+  ounces_ = ounces;
+  separator_ = separator;
+  std::unordered_map<Text, SummaryRow> made;
+  made.reserve(distinct.Count());
+  SummaryRows rows;
+  rows.reserve(distinct.Count());
+  for (std::size_t i = 0; i < distinct.Count(); ++i) {
+    Text name(counts[i]);
+    (name += kFieldEnd).append(distinct[i]);
+    auto known = made_.extract(name);
+    const auto& row =
+        known ? made.insert(std::move(known)).position->second
+              : made.emplace(std::move(name), RowOfLine(distinct[i], counts[i], separator, ounces))
+                    .first->second;
+    rows.push_back(row);
+    rows.back()[SummaryColumn::key] = std::to_string(kKeyStep * (i + 1));
   }
+  made_ = std::move(made);
   return rows;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <unordered_map>
 
 #include "analysis/requirements.h"
 #include "analysis/summary_row.h"
@@ -14,6 +15,19 @@ namespace kelvora {
 // keys go up by two, which is meant. An amount that no number can hold has an empty cell.
 [[nodiscard]] SummaryRows RowsOfLines(Program& program, const TextList& distinct,
                                       const TextList& counts);
+
+// Makes the same rows again and again. Of a day that has changed most lines are as they were, and
+// so are their rows: only the others are printed anew.
+class SummaryRowMaker {
+ public:
+  [[nodiscard]] SummaryRows RowsOf(Program& program, const TextList& distinct,
+                                   const TextList& counts);
+
+ private:
+  std::unordered_map<Text, SummaryRow> made_;  // the last time, by count and line
+  bool ounces_ = false;                        // how they were printed
+  Text separator_;
+};
 
 [[nodiscard]] std::array<Text, kSummaryColumns> SummaryHeadings(const TextTables& texts,
                                                                 AnalysisWindow window);

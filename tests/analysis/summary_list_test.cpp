@@ -79,6 +79,34 @@ TEST_F(SummaryOfLines, LeavesOutWhatNoNumberCanHold) {
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
+// Whatever changes in between, the rows are those of lines that are seen for the first time.
+TEST_F(SummaryOfLines, AreTheSameWhenMadeAgainAfterEachChange) {
+  SummaryRowMaker maker;
+  TextList lines, counts;
+  const auto expect_as_new = [&](const char* what) {
+    const SummaryRows again = maker.RowsOf(test.program, lines, counts);
+    const SummaryRows anew = RowsOfLines(test.program, lines, counts);
+    ASSERT_EQ(again.size(), anew.size()) << what;
+    for (std::size_t i = 0; i < anew.size(); ++i) EXPECT_EQ(again[i].cells, anew[i].cells) << what;
+  };
+  lines.Add(LineOf(kSoup));
+  counts.Add("1");
+  lines.Add(LineOf({.product = "Air", .sodium = "1.5"}));
+  counts.Add("2");
+  expect_as_new("first");
+  expect_as_new("unchanged");
+  counts.Replace(0, "4");
+  expect_as_new("another count");
+  test.locale.separator = ",";
+  expect_as_new("another separator");
+  test.program.settings[Setting::opt_gramoz] = "1";
+  expect_as_new("ounces");
+  lines.Remove(0);
+  counts.Remove(0);
+  expect_as_new("one less");
+  EXPECT_EQ(maker.RowsOf(test.program, lines, counts)[0][SummaryColumn::key], "2");
+}
+
 TEST_F(SummaryOfLines, TakesALineWithoutFields) {
   TextList lines, counts;
   lines.Add("no field");
