@@ -194,6 +194,12 @@ void ConsumptionWindow::Set_Taal() {
 }
 
 void ConsumptionWindow::Refresh_Consumpties() {
+  ShowRows();
+  // Comes last: over a long day it lets events run, which may close this window.
+  RefreshDaySummary(program_);
+}
+
+void ConsumptionWindow::ShowRows() {
   const QScopedValueRollback rebuilding(rebuilding_, true);
   setWindowTitle(ToQt(ConsumptionTitle(program_, part_)));
   const auto headings = ConsumptionHeadings(program_, part_);
@@ -216,7 +222,6 @@ void ConsumptionWindow::Refresh_Consumpties() {
         QItemSelectionModel::NoUpdate);
   }
   SelectRows(to_select);
-  RefreshDaySummary(program_);
   FollowListWidth();
 }
 

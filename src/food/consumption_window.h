@@ -53,6 +53,7 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   void BuildStatusBar();
   void LayOut();
   void ConnectAll();
+  void ShowRows();
   // Widths follow the list only while it has rows.
   void FollowListWidth();
   void SetColumnWidths();
