@@ -13,7 +13,8 @@ constexpr double kMarkOpacity = 0.14;
 
 // A length that was not touched keeps the twips that a pixel can't tell.
 void TakePixels(int pixels, int& twips) {
-  if (PixelsOfTwips(twips) != pixels) twips = TwipsOfPixels(pixels);
+  const bool untouched = PixelsOfTwips(twips) == pixels || PixelsCovering(twips) == pixels;
+  if (!untouched) twips = TwipsOfPixels(pixels);
 }
 
 }  // namespace
