@@ -63,6 +63,7 @@ TEST(EntryBoxes, OfTheMainWindowAndItsChildWindowsTakeTextOnly) {
   test.OpenDay("Anna");
   ApplyChosenArrangement(test.program);
   window.OpenWindow(WindowId::diary);
+  window.OpenWindow(WindowId::day_summary);
   QApplication::processEvents();
   // Name and unit of a combined food in three windows; two searches in the food lists; the diary.
   ExpectTextOnly(window, 3 * 2 + 2 + 1);

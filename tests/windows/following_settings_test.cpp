@@ -58,6 +58,7 @@ class Windows {
     main_.show();
     ApplyChosenArrangement(program);
     main_.OpenWindow(WindowId::diary);
+    main_.OpenWindow(WindowId::day_summary);
     main_.UpdateCommands();
     browser_ = std::make_unique<BrowserDialog>(program, &main_);
     browser_->Open();
@@ -216,8 +217,18 @@ class FollowingSettings : public testing::Test {
     changed = followed != before;
     ASSERT_EQ(followed.size(), expected.size());
     for (qsizetype i = 0; i < expected.size(); ++i) {
+      if (IsNutrientOfThePie(expected[i])) continue;
       EXPECT_EQ(followed[i].toStdString(), expected[i].toStdString());
     }
+  }
+
+  // The profile chooses the nutrient of the pie when the window opens; from then on its menu does.
+  static bool IsNutrientOfThePie(const QString& line) {
+    for (const char* heading : {"main panels/Pic_top5 accessible:", "main Pic_top5/lbl_soort:",
+                                "main Pic_top5/Graph_pie accessible:"}) {
+      if (line.startsWith(QLatin1String(heading)) && line.contains(": (")) return true;
+    }
+    return false;
   }
 
   TestProgram test;

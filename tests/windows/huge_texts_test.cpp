@@ -103,9 +103,10 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
   window.show();
   ApplyChosenArrangement(test.program);
   window.OpenWindow(WindowId::diary);
+  window.OpenWindow(WindowId::day_summary);
   window.UpdateStatusBar();
   QApplication::processEvents();
-  ExpectBounded(window, 3 * 10);
+  ExpectBounded(window, 3 * 10 + 12);
 }
 
 TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {

@@ -151,6 +151,9 @@ class Looker {
   // Hints, values and messages, of which there are none in these windows yet.
   static bool TellsOfData(const QLabel& label) {
     const QString name = label.objectName();
+    // Both ends of the ladder have a colour only.
+    if (name == QLatin1String("lbl_bmi_top") || name == QLatin1String("lbl_bmi_bottum"))
+      return true;
     return (name.startsWith(QLatin1String("lbl_")) && name.endsWith(QLatin1String("info"))) ||
            name.startsWith(QLatin1String("StatusBar_")) ||
            name.startsWith(QLatin1String("lbl_pr")) || name == QLatin1String("loader");
@@ -179,6 +182,9 @@ class WindowLayout : public testing::Test {
     program.store.Default_list.Add(
         Packed("Bread|1 slice|35|343|82|1|0.2|3|15|150|a remark||Bread.dat|"));
     program.profile[ProfileField::type_prioriteit] = "1";
+    for (std::size_t i = 0; i < 7; ++i) {
+      program.profile.strings[static_cast<std::size_t>(ProfileField::txt_kj) + i] = "100";
+    }
   }
 
   // Every page of a window, one after the other.
@@ -218,8 +224,16 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
     test.OpenDay("Anna");
     ApplyChosenArrangement(program);
     window.OpenWindow(WindowId::diary);
+    window.OpenWindow(WindowId::day_summary);
     window.UpdateCommands();
-    Look(window, 100);
+    Look(window, 150);
+    // The other panels of the day summary.
+    for (const char* button : {"Toolbar_2", "Toolbar_3", "Toolbar_4"}) {
+      window.findChild<QWidget*>(QStringLiteral("KV_tb_daguittreksel"))
+          ->findChild<QAbstractButton*>(QLatin1String(button))
+          ->click();
+      Look(window, 100);
+    }
   });
 }
 

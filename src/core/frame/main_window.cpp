@@ -8,6 +8,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include "analysis/day_summary_window.h"
 #include "analysis/diary_window.h"
 #include "core/common.h"
 #include "core/frame/arrangement.h"
@@ -339,6 +340,7 @@ void MainWindow::OpenWindow(WindowId id) {
       return OpenChild(id, new DiaryWindow(program_, area_), "diary",
                        {PixelsCovering(kDiaryMinimumWidth), PixelsCovering(kDiaryMinimumHeight)});
     case WindowId::day_summary:
+      return OpenChild(id, new DaySummaryWindow(program_, area_), "summary");
     case WindowId::food_details:
     case WindowId::multi_day:
     case WindowId::comparison:
@@ -383,7 +385,7 @@ void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSiz
   auto* const frame = new ChildFrame(content, *program_.windows.RecordOf(id));
   frame->setWindowIcon(IconNamed(icon));
   area_->addSubWindow(frame);
-  frame->setMinimumSize(minimum);
+  if (!minimum.isNull()) frame->setMinimumSize(minimum);
   frame->MoveToRecord();
   frame->show();
 }

@@ -70,7 +70,7 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_item_voegtoe, State::user, State::user},
     EnableRow{Command::mnu_item_del, State::user, State::user},
     EnableRow{Command::mnu_item_favo, State::user, State::user},
-    EnableRow{Command::mnu_uit_daguittreksel, State::never, State::never},
+    EnableRow{Command::mnu_uit_daguittreksel, State::day, State::day},
     EnableRow{Command::mnu_uit_meerdaagsuittreksel, State::never, State::never},
     EnableRow{Command::mnu_voedingswaarde_tabel, State::user, State::user},
     EnableRow{Command::mnu_weegschaal, State::never, State::never},

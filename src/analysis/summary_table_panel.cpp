@@ -1,0 +1,101 @@
+#include "analysis/summary_table_panel.h"
+
+#include <algorithm>
+
+#include <QHeaderView>
+
+#include "core/geometry.h"
+#include "platform/qt/look.h"
+#include "platform/qt/text.h"
+
+namespace kelvora {
+namespace {
+
+constexpr int kFirstShown = static_cast<int>(SummaryColumn::food);
+constexpr int kLeastFoodWidth = 90;
+constexpr int kHeadingMargin = 10;  // both sides of a heading together
+
+bool IsText(std::size_t column) {
+  return column == static_cast<std::size_t>(SummaryColumn::food) ||
+         column == static_cast<std::size_t>(SummaryColumn::unit);
+}
+
+}  // namespace
+
+SummaryTable::SummaryTable(QWidget* parent) : QTableView(parent) {
+  NameWidget(this, "LV_uittreksel");
+  UseSmallLetters(this);
+  setModel(&model_);
+  MakeRowList(this);
+  UseSmallLetters(horizontalHeader());
+  horizontalHeader()->setMinimumSectionSize(0);
+  horizontalHeader()->setSectionsClickable(true);
+  horizontalHeader()->setSortIndicatorShown(true);
+  ShowOrder(std::nullopt);
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+          [this](int column) { emit HeadingClicked(static_cast<SummaryColumn>(column)); });
+}
+
+void SummaryTable::Show(const std::array<Text, kSummaryColumns>& headings,
+                        std::shared_ptr<const SummaryRows> rows,
+                        const std::optional<ColumnOrder>& order) {
+  const std::set<Text> selected = order ? SelectedKeys() : std::set<Text>();
+  rows_ = std::move(rows);
+  std::vector<TextTableModel::Column> columns;
+  for (std::size_t i = 0; i < headings.size(); ++i) {
+    columns.push_back({headings[i], IsText(i) ? Qt::AlignLeft : Qt::AlignRight});
+  }
+  model_.Show(
+      std::move(columns), rows_->size(),
+      [rows = rows_](std::size_t row, std::size_t column) { return (*rows)[row].cells[column]; });
+  setColumnHidden(static_cast<int>(SummaryColumn::key), true);
+  ShowOrder(order);
+  Zet_Kolombreedtes();
+  SelectKeys(selected);
+}
+
+std::set<Text> SummaryTable::SelectedKeys() const {
+  std::set<Text> keys;
+  for (const QModelIndex& index : selectionModel()->selectedRows(kFirstShown)) {
+    keys.insert((*rows_)[static_cast<std::size_t>(index.row())][SummaryColumn::key]);
+  }
+  return keys;
+}
+
+void SummaryTable::SelectKeys(const std::set<Text>& keys) {
+  for (std::size_t row = 0; row < rows_->size() && !keys.empty(); ++row) {
+    if (!keys.contains((*rows_)[row][SummaryColumn::key])) continue;
+    selectionModel()->select(model_.index(static_cast<int>(row), kFirstShown),
+                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  }
+}
+
+void SummaryTable::ShowOrder(const std::optional<ColumnOrder>& order) {
+  const bool down = order && order->order == SortOrder::descending;
+  horizontalHeader()->setSortIndicator(order ? static_cast<int>(order->column) : -1,
+                                       down ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void SummaryTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  Zet_Kolombreedtes();
+}
+
+// Each column has its given width, or what its heading needs; the foods have the rest.
+void SummaryTable::Zet_Kolombreedtes() {
+  if (model_.columnCount() == 0) return;
+  const auto widths = SummaryColumnWidths(TwipsOfPixels(width()));
+  const QFontMetrics letters = horizontalHeader()->fontMetrics();
+  int left = viewport()->width();
+  for (int i = kFirstShown + 1; i < static_cast<int>(kSummaryColumns); ++i) {
+    const QString heading = model_.headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int needed = letters.horizontalAdvance(heading.trimmed()) + kHeadingMargin;
+    const int column = std::max(PixelsOfTwips(widths[static_cast<std::size_t>(i)]), needed);
+    setColumnWidth(i, column);
+    left -= column;
+  }
+  const int given = PixelsOfTwips(widths[static_cast<std::size_t>(kFirstShown)]);
+  setColumnWidth(kFirstShown, std::max(std::min(given, left), kLeastFoodWidth));
+}
+
+}  // namespace kelvora
