@@ -1,0 +1,329 @@
+// Every control of the windows: the name by which it is found, what is read aloud of it, and its
+// tip. The lists are written from the tables of texts, not from the windows; a control that loses
+// one of the three, or that nobody listed, is told. In which order Tab goes is tested elsewhere.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+
+#include "core/frame/arrangement.h"
+#include "core/frame/data_window.h"
+#include "core/frame/main_window.h"
+#include "days/browser_dialog.h"
+#include "days/day_settings_dialog.h"
+#include "days/popup_window.h"
+#include "days/wizard_dialog.h"
+#include "food/food_details_dialog.h"
+#include "food/new_food_dialog.h"
+#include "support/test_program.h"
+
+namespace kelvora {
+namespace {
+
+QString ReadAloud(const QWidget& widget) {
+  if (!widget.accessibleName().isEmpty()) return widget.accessibleName();
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
+  if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) return group->title();
+  return widget.windowTitle();
+}
+
+// Words that are shown need no name, and parts of the toolkit's own widgets have names of its own.
+bool IsListed(const QWidget& widget) {
+  if (qobject_cast<const QLabel*>(&widget) != nullptr) return false;
+  if (qobject_cast<const QMenu*>(&widget) != nullptr) return false;
+  const QString name = widget.objectName();
+  return !name.isEmpty() && !name.startsWith(QLatin1String("qt_")) &&
+         !name.startsWith(QLatin1String("Scroll"));
+}
+
+// A line for each: the name | what is read aloud | the tip.
+QStringList ControlsOf(const QWidget& window) {
+  QApplication::processEvents();
+  QStringList lines;
+  const auto add = [&lines](const QWidget& widget) {
+    if (!IsListed(widget)) return;
+    const QStringList line = {widget.objectName(), ReadAloud(widget), widget.toolTip()};
+    lines << line.join(QStringLiteral(" | ")).trimmed();
+  };
+  add(window);
+  for (const QWidget* widget : window.findChildren<const QWidget*>()) {
+    if (widget->window() == window.window()) add(*widget);
+  }
+  return lines;
+}
+
+// The lines that one of two lists has and the other lacks.
+void ExpectControls(const QWidget& window, const char* expected) {
+  QStringList missing = QString::fromUtf8(expected).trimmed().split(QLatin1Char('\n'));
+  for (const QString& line : ControlsOf(window)) {
+    if (!missing.removeOne(line)) ADD_FAILURE() << "not listed: " << line.toStdString();
+  }
+  for (const QString& line : missing) ADD_FAILURE() << "not there: " << line.toStdString();
+}
+
+class Controls : public testing::Test {
+ protected:
+  TestProgram test;
+  Program& program = test.program;
+};
+
+class ControlsOfADay : public Controls {
+ protected:
+  ControlsOfADay() {
+    program.profile[ProfileField::type_prioriteit] = "1";
+    window.Set_Taal();
+    window.show();
+    test.OpenDay("Anna");
+    ApplyChosenArrangement(program);
+  }
+  const QWidget& Child(const char* name) {
+    return *window.findChild<QWidget*>(QLatin1String(name));
+  }
+
+  MainWindow window{test.program};
+};
+
+TEST_F(ControlsOfADay, OfTheFoodLists) {
+  ExpectControls(Child("KV_tb_lijsten"), R"(
+KV_tb_lijsten | Food items |
+Toolbar | Food items |
+Toolbar_1 | Standard list | Search the food items of all categories
+Toolbar_2 | My own list | Food items that you made yourself
+Toolbar_3 | Favourites list | Food items that you use often
+Toolbar_4 | Internet list | Search for food items on the food server
+Pic_zoek |  |
+combo_cat | Select a food item category: | Show the food items of one category
+txt_zoeken | Search food item (enter a food item and press ENTER): | Press ENTER to search in the remarks as well
+Pic_internet |  |
+txt_internet | Search food item on internet (enter a food item and press ENTER): | Not part of this version yet.
+LV_browse_zoeken | Standard list | Drop a consumption here to remove it from the day
+LV_browse_eigen | My own list | Drop a consumption here to remove it from the day
+LV_browse_favo | Favourites list | Drop a consumption here to add it to the favourites list
+LV_browse_internet | Internet | Drop a consumption here to remove it from the day
+Pic_toevoegen | Add a new food item |
+Pic_opties | Food item options |
+StatusBar |  |
+ProgressBar | Filling the list |
+)");
+}
+
+TEST_F(ControlsOfADay, OfTheConsumptions) {
+  ExpectControls(Child("KV_tb_vmiddag"), R"(
+KV_tb_vmiddag | Afternoon consumptions Friday 05-03-04 |
+Toolbar |  |
+Toolbar_1 | Nutrition count | Nutrition count
+Toolbar_2 | Make 1 food item of the food items below | Make 1 food item of the food items below
+Toolbar_control |  |
+Toolbar_control_1 | Selected food item +1 | Selected food item +1
+Toolbar_control_2 | Selected food item -1 | Selected food item -1
+Toolbar_control_4 | Remove selected food item | Remove selected food item
+LV_consumpties | Afternoon consumptions |
+Info_bar | Nutrition count |
+Pic_SP | Make 1 food item of the food items below |
+txt_nfo_8 | Name |
+txt_nfo_7 | Unit |
+cmd_opslaan | Save |
+StatusBar |  |
+)");
+}
+
+TEST_F(Controls, OfTheDetailsOfAFood) {
+  // Without food there is nothing to share: 0 of 0 grams.
+  const FoodDetailsDialog dialog(program, "zoeken", LineOf({.product = "Water", .unit = "1 glass"}),
+                                 nullptr);
+  ExpectControls(dialog, R"(
+KV_foodpopup | Food item details |
+bVar_0 | Food item: |
+bVar_1 | Unit: |
+txt_gram | Weight: gram | The weight of the portion in whole grams
+txt_oz | Weight: oz | The weight of the portion in ounces
+bVar_10 | Food group: |
+bVar_11 | Remarks: |
+TabStrip | Choose between the values of the portion and those per 100 grams | Choose between the values of the portion and those per 100 grams
+Frame_a | Nutrition value per 1 glass (of) 0 Gram: |
+bVar_3 | Kilojoules of the portion |
+bVar_4 | Kilocalories of the portion |
+bVar_5 | Unsaturated fat of the portion |
+bVar_6 | Saturated fat of the portion |
+bVar_7 | Sodium of the portion |
+bVar_8 | Protein of the portion |
+bVar_9 | Carbohydrates of the portion |
+Frame_b | Nutritional value per 100 grams: |
+oVar_0 | Kilojoules per 100 grams |
+oVar_1 | Kilocalories per 100 grams |
+oVar_2 | Unsaturated fat per 100 grams |
+oVar_3 | Saturated fat per 100 grams |
+oVar_4 | Sodium per 100 grams | Fill in sodium in grams: 1 gram is 1000 milligram
+oVar_5 | Protein per 100 grams |
+oVar_6 | Carbohydrates per 100 grams |
+pBar | Share of each nutrient in the food item | Share of each nutrient in the food item
+pBar_0 | Unsaturated fats: 0 [0.00%] |
+pBar_1 | Saturated fats: 0 [0.00%] |
+pBar_2 | Sodium: 0 [0.00%] |
+pBar_3 | Proteins: 0 [0.00%] |
+pBar_4 | Carbohydrates: 0 [0.00%] |
+chk_favo | Add to 'favourites list' | Tick the box to keep this food item in the favourites list
+cmd_bewerk | Edit (per 100 grams) | Change the description and the values per 100 grams
+cmd_opslaan | Save | Save the food item in 'my own list'
+cmd_annuleer | Cancel | Close this window without saving
+)");
+}
+
+TEST_F(Controls, OfANewFood) {
+  const NewFoodDialog dialog(program, nullptr);
+  ExpectControls(dialog, R"(
+KV_add_voedingsmiddel | Add new food item |
+txt_sGram | These values are for: gram | The weight that the values on the package refer to
+txt_sOz | These values are for: oz | The weight that the values on the package refer to
+txt_s_0 | Original nutritional value: Kilojoules: |
+txt_s_1 | Original nutritional value: Kilocalories: |
+chk_kj | KCal = Kj | Calculate kilocalories from kilojoules and the other way round
+txt_s_2 | Original nutritional value: Saturated fat: |
+txt_s_3 | Original nutritional value: Unsaturated fat: |
+txt_s_4 | Original nutritional value: Protein: |
+txt_s_5 | Original nutritional value: Carbohydrates: |
+txt_s_6 | Original nutritional value: Sodium: |
+txt_dNaam | Nutritional value of the new food item: Name: |
+combo_dEenheid | Nutritional value of the new food item: Unit: | Choose a unit or type one yourself
+combo_dEenheid_box |  |
+txt_dGram | Weight: gram | The weight of one portion of the new food item, in whole grams
+txt_dOz | Weight: oz | The weight of one portion of the new food item, in whole grams
+txt_d_0 | Nutritional value of the new food item: Kilojoules: |
+txt_d_1 | Nutritional value of the new food item: Kilocalories: |
+txt_d_2 | Nutritional value of the new food item: Saturated fat: |
+txt_d_3 | Nutritional value of the new food item: Unsaturated fat: |
+txt_d_4 | Nutritional value of the new food item: Protein: |
+txt_d_5 | Nutritional value of the new food item: Carbohydrates: |
+txt_d_6 | Nutritional value of the new food item: Sodium: |
+chk_inet | Add (also) to internet database. | No food server is known to this program.
+cmd_opslaan | Add | Save the new food item in 'my own list'
+cmd_annuleer | Cancel | Close this window without adding the food item
+)");
+}
+
+TEST_F(Controls, OfTheDayDialog) {
+  const DaySettingsDialog dialog(program, nullptr);
+  ExpectControls(dialog, R"(
+KV_bestand | Start a new day |
+TabStrip1 |  |
+ChoiceFrame_1 |  |
+lst_users | Users: | Select the user who starts a new day
+Toolbar_control |  |
+Toolbar_control_2 | Start a new user | Start a new user
+Toolbar_control_3 | Delete the selected user | Delete the selected user
+frame_person | Personal information: |
+pg_0 | Name: |
+pg_7 | Gender: |
+pg_8 | Age: |
+txt_lengte_m | Height: |
+txt_streefgewicht | Goal weight: |
+frame_day | Settings of this day: |
+pg_9_a | Day |
+pg_9_b | Month |
+pg_9_c | Year |
+pg_11 | Day: |
+txt_gewicht | Weight: |
+ChoiceFrame_2 |  |
+frame_address | Address: |
+pg_1 | Address 1: |
+pg_2 | Address 2: |
+pg_3 | City: |
+pg_4 | ZIP/Postcode: |
+pg_15 | State/Province: |
+pg_12 | Country: |
+pg_13 | Reference ID: |
+frame_remarks | Remarks: |
+pg_14 | Remarks: |
+ChoiceFrame_3 |  |
+type_prioriteit | Priority nutrient: | The priority nutrient gets a column of its own in the lists
+type_prioriteit_0 | Energy, Kj |
+type_prioriteit_1 | Energy, Kcal |
+type_prioriteit_2 | Unsaturated fats |
+type_prioriteit_3 | Saturated fats |
+type_prioriteit_4 | Carbohydrates |
+type_prioriteit_5 | Proteins |
+frame_targets | Daily targets: |
+Slider_kj | Energy: | Move the slider to change this daily target
+txt_kj | Energy: Kj |
+Slider_ovet | Unsaturated fats: | Move the slider to change this daily target
+txt_ovet | Unsaturated fats: Gram |
+Slider_vvet | Saturated fats: | Move the slider to change this daily target
+txt_vvet | Saturated fats: Gram |
+Slider_nat | Sodium: | Move the slider to change this daily target
+txt_nat | Sodium: Gram |
+Slider_ew | Proteins: | Move the slider to change this daily target
+txt_ew | Proteins: Gram |
+Slider_kdr | Carbohydrates: | Move the slider to change this daily target
+txt_kdr | Carbohydrates: Gram |
+txt_kcal | Energy: Kcal |
+Combo_default | Reset values to: | Set all targets to the values of an age group
+chk_apply | Apply changes in (nutritions) profile automatically. | Changes show at once in the windows that are open
+cmd_opslaan | Start |
+cmd_annuleer | Cancel |
+)");
+}
+
+TEST_F(Controls, OfTheListOfDays) {
+  BrowserDialog dialog(program, nullptr);
+  dialog.Open();
+  ExpectControls(dialog, R"(
+KV_browsefiles | Open file |
+lst_users | Users: |
+LV_browse_files | Days: | Double-click a day to open it
+profile_pane |  |
+chk_profiel | Show the profile |
+cmd_openen | Open |
+cmd_annuleer | Cancel |
+)");
+}
+
+TEST_F(Controls, OfTheWizard) {
+  WizardDialog dialog(program, nullptr);
+  ExpectControls(dialog, R"(
+KV_wizzard | Kelvora FOOD wizard |
+frame_choice | Make a choice: |
+Option1 | Start a new day | Also for new users
+Option2 | Open a day | Choose from the days that you saved before
+Option3 | Settings | Language, printer, units and internet
+Option4 | Manual (Help) | Read how Kelvora FOOD works
+chk_wiz | Show the start-up wizard when Kelvora starts. |
+cmd_opslaan | OK | Save changes and start selected
+cmd_annuleer | Close | Closes this window
+)");
+}
+
+TEST_F(Controls, OfAboutAndTheSplash) {
+  PopupWindow about(program, kAboutMode, nullptr);
+  ExpectControls(about, R"(
+KV_popup | About Kelvora FOOD |
+ProgressBar |  |
+cmd_annuleer | Close |
+)");
+}
+
+TEST_F(Controls, OfTheStore) {
+  const DataWindow window(program, nullptr);
+  ExpectControls(window, R"(
+KV_data | KV_data |
+lst_members | KV_data |
+lst_lines | L_gegevens |
+)");
+}
+
+// A control that has no name is none of the lines, and one that nothing reads aloud has no words.
+TEST(ControlsThatAreMissed, AreTold) {
+  QWidget window;
+  window.setObjectName(QStringLiteral("window"));
+  auto* const named = new QPushButton(&window);
+  named->setObjectName(QStringLiteral("named"));
+  named->setToolTip(QStringLiteral("a tip"));
+  new QPushButton(QStringLiteral("unnamed"), &window);
+  EXPECT_EQ(ControlsOf(window), QStringList({"window |  |", "named |  | a tip"}));
+}
+
+}  // namespace
+}  // namespace kelvora
