@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
@@ -14,6 +15,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiSubWindow>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -127,6 +129,12 @@ class Looker {
         Fault(widget, "is empty");
       }
     }
+    if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) {
+      static const QRegularExpression number(QStringLiteral("^[0-9]+([.,][0-9]+)?$"));
+      if (number.match(box->text()).hasMatch() && !(box->alignment() & Qt::AlignRight)) {
+        Fault(widget, "has a number on the left");
+      }
+    }
     if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
       for (int i = 0; i < tabs->count(); ++i) {
         if (tabs->tabText(i).isEmpty()) Fault(widget, "has a tab without a word");
@@ -148,7 +156,8 @@ class Looker {
       Fault(widget, "has no name that is read aloud");
     }
   }
-  // Hints, values and messages, of which there are none in these windows yet.
+  // Hints, values and messages, of which there are none in these windows yet; the list of the
+  // internet has no hint.
   static bool TellsOfData(const QLabel& label) {
     const QString name = label.objectName();
     // Both ends of the ladder have a colour only.
@@ -156,7 +165,8 @@ class Looker {
       return true;
     return (name.startsWith(QLatin1String("lbl_")) && name.endsWith(QLatin1String("info"))) ||
            name.startsWith(QLatin1String("StatusBar_")) ||
-           name.startsWith(QLatin1String("lbl_pr")) || name == QLatin1String("loader");
+           name.startsWith(QLatin1String("lbl_pr")) || name == QLatin1String("loader") ||
+           name == QLatin1String("empty_hint");
   }
   // Of tabs their words are read, of a child window its title.
   static bool HasNameOfItsOwn(const QWidget& widget) {
@@ -215,6 +225,9 @@ class WindowLayout : public testing::Test {
   Program& program = test.program;
 };
 
+// Seven captions with their totals; two captions with their boxes, and a button.
+constexpr int kControlsOfBothPanels = 14 + 5;
+
 TEST_F(WindowLayout, OfTheMainWindowWithADay) {
   InBothLanguages([this] {
     MainWindow window(program);
@@ -223,6 +236,16 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
     window.show();
     test.OpenDay("Anna");
     ApplyChosenArrangement(program);
+    window.UpdateCommands();
+    Look(window, 100);
+    for (auto* const combine : window.findChildren<QAction*>("Toolbar_2_action")) {
+      combine->trigger();  // in the food lists the button of the own list has this name
+    }
+    Look(window, 100 + 3 * kControlsOfBothPanels);
+    for (const char* view : {"Toolbar_3_action", "Toolbar_4_action"}) {
+      window.findChild<QAction*>(QLatin1String(view))->trigger();
+      Look(window, 100 + 3 * kControlsOfBothPanels);
+    }
     window.OpenWindow(WindowId::diary);
     window.OpenWindow(WindowId::day_summary);
     window.UpdateCommands();
@@ -292,6 +315,7 @@ TEST(WindowLayoutFaults, AreFound) {
   auto* const layout = new QVBoxLayout(&window);
   auto* const laid = new QLineEdit(&window);
   laid->setObjectName(QStringLiteral("laid"));
+  laid->setText(QStringLiteral("1.5"));
   layout->addWidget(laid);
   auto* const group = new QGroupBox(&window);
   group->setObjectName(QStringLiteral("group"));
@@ -308,9 +332,9 @@ TEST(WindowLayoutFaults, AreFound) {
   loose->setGeometry(laid->geometry().translated(0, -10));
   const Looker looker(window);
   EXPECT_EQ(looker.Faults(),
-            (std::vector<std::string>{"loose lies in no layout", "loose lies on laid",
-                                      "laid has no name that is read aloud", "group has no title",
-                                      "label is empty"}));
+            (std::vector<std::string>{
+                "loose lies in no layout", "loose lies on laid", "laid has a number on the left",
+                "laid has no name that is read aloud", "group has no title", "label is empty"}));
 }
 
 }  // namespace
