@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include <QContextMenuEvent>
+#include <QScrollBar>
 
 #include "core/common.h"
 #include "days/day_dialogs.h"
@@ -31,6 +32,13 @@ class BrowserDays : public BrowserWindow {
     AddDay("Anna", "a.kvf", "01-03-04", "79.9");
     AddDay("Anna", "b.kvf", "02-03-04", "81");
     AddDay("Anna", "c.kvf", "03-03-04", "80.1");
+  }
+  // More days than the list has room for: 28.
+  void AddJanuary() {
+    for (int day = 1; day <= 28; ++day) {
+      const std::string number = std::to_string(100 + day).substr(1);
+      AddDay("Anna", "january" + number + ".kvf", number + "-01-04");
+    }
   }
 };
 
@@ -225,10 +233,7 @@ TEST_F(BrowserDays, TheMenuKeyShowsTheMenuAtTheRowInFocus) {
 }
 
 TEST_F(BrowserDays, TheNewestDayIsInSightAndTheFirstUnderTheKeys) {
-  for (int day = 1; day <= 28; ++day) {
-    const std::string number = std::to_string(100 + day).substr(1);
-    AddDay("Anna", "january" + number + ".kvf", number + "-01-04");
-  }
+  AddJanuary();
   OpenAsAnna();
   const int last = 29;
   ASSERT_EQ(List()->model()->rowCount(), last + 1);
@@ -318,6 +323,25 @@ TEST_F(BusyBrowser, SwitchedAtAnyMomentItShowsTheDaysOfOneUserOnly) {
     EXPECT_TRUE(OpenIsEnabled());
     EXPECT_FALSE(test.pointer.waiting);
   }
+}
+
+TEST_F(BrowserDays, AHigherListScrollsLess) {
+  AddJanuary();
+  OpenAsAnna();
+  const int scrolled = List()->verticalScrollBar()->maximum();
+  EXPECT_GT(scrolled, 0);
+  dialog->resize(dialog->width(), 2000);
+  QApplication::processEvents();
+  EXPECT_EQ(List()->verticalScrollBar()->maximum(), 0);
+}
+
+// A range for each of thousands of rows would be slow.
+TEST_F(BrowserDays, RowsThatAreSortedTogetherStaySelectedInOnePiece) {
+  OpenAsAnna();
+  QTest::keyClick(List(), Qt::Key_A, Qt::ControlModifier);
+  ClickHeadingOf(5);
+  EXPECT_EQ(SelectedRows(), "0 1");
+  EXPECT_EQ(List()->selectionModel()->selection().size(), 1);
 }
 
 }  // namespace

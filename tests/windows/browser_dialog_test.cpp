@@ -204,5 +204,22 @@ TEST_F(BrowserWindow, IsModalAndReturnsWhenItIsClosed) {
   EXPECT_EQ(program.windows.browser, nullptr);
 }
 
+TEST_F(BrowserWindow, TheProfileStandsInTwoColumnsOfThreeRows) {
+  OpenAsAnna();
+  const auto place = [this](const char* stem, int number) {
+    return Find<QLabel>(qPrintable(QLatin1String(stem) + QString::number(number)))->pos();
+  };
+  const auto caption = [&](int number) { return place("lbl_pr_caption_", number); };
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_EQ(place("lbl_pr_", i).y(), caption(i).y()) << i;
+    EXPECT_GT(place("lbl_pr_", i).x(), caption(i).x()) << i;
+    EXPECT_EQ(caption(i).y(), caption(i % 3).y()) << i;
+    EXPECT_EQ(caption(i).x(), caption(i / 3 * 3).x()) << i;
+  }
+  EXPECT_LT(caption(0).y(), caption(1).y());
+  EXPECT_LT(caption(1).y(), caption(2).y());
+  EXPECT_LT(place("lbl_pr_", 0).x(), caption(3).x());
+}
+
 }  // namespace
 }  // namespace kelvora

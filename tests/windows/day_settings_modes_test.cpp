@@ -1,5 +1,6 @@
 // The day dialog in its two modes, three unit systems and two languages.
 #include "language/built_in_texts.h"
+#include "language/day_settings_texts.h"
 #include "storage/day_file.h"
 #include "windows/day_settings_window.h"
 
@@ -263,6 +264,26 @@ TEST_F(DaySettingsWindow, EveryControlOfEveryTabHasAnAccessibleName) {
       EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
     }
     EXPECT_EQ(controls, system[0] == '0' ? 34 : 35);
+    CloseNow();
+  }
+}
+
+TEST_F(DaySettingsWindow, FieldsStandBelowEachOtherWhicheverCaptionIsTheLongest) {
+  using namespace day_settings_text;
+  const QString widest(30, 'm');
+  for (const TextId longest :
+       {kName, kGender, kAge, kHeight, kGoalWeight, kDate, kWeekday, kWeight}) {
+    Make_Taal_English(test.program.texts);
+    test.program.texts[longest] = FromQt(widest);
+    Open();
+    const auto left = [this](const char* field) {
+      return Find<QWidget>(field)->mapTo(dialog.get(), QPoint(0, 0)).x();
+    };
+    for (const char* field :
+         {"pg_7", "pg_8", "txt_lengte_m", "txt_streefgewicht", "pg_9_a", "pg_11", "txt_gewicht"}) {
+      EXPECT_EQ(left(field), left("pg_0")) << field << " beside text " << longest.index;
+    }
+    EXPECT_GT(left("pg_0") - left("lbl_pg_0"), dialog->fontMetrics().horizontalAdvance(widest));
     CloseNow();
   }
 }

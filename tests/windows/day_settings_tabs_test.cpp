@@ -28,6 +28,28 @@ TEST_F(DaySettingsWindow, TheSecondTabFillsAddressAndRemarks) {
   EXPECT_EQ(Stored(ProfileField::remark), "Runs\na lot");
 }
 
+TEST_F(DaySettingsWindow, TabGoesThroughTheOtherTabsInReadingOrder) {
+  Open();
+  const auto walk = [this](const char* first, int steps) {
+    Find<QWidget>(first)->setFocus();
+    QStringList order;
+    for (int i = 0; i < steps; ++i) {
+      order << QApplication::focusWidget()->objectName();
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    return order.join(' ');
+  };
+  ShowTab(1);
+  EXPECT_EQ(walk("pg_1", 10),
+            "pg_1 pg_2 pg_3 pg_4 pg_15 pg_12 pg_13 pg_14 cmd_opslaan cmd_annuleer");
+  EXPECT_EQ(Find<QPlainTextEdit>("pg_14")->toPlainText(), "");
+  ShowTab(2);
+  // Of the options the chosen one takes the focus; a new user's is the second.
+  EXPECT_EQ(walk("type_prioriteit_1", 11),
+            "type_prioriteit_1 Slider_kj Slider_ovet Slider_vvet Slider_nat Slider_ew Slider_kdr "
+            "Combo_default chk_apply cmd_opslaan cmd_annuleer");
+}
+
 TEST_F(DaySettingsWindow, RemarksTakeFiveHundredCharacters) {
   Open();
   ShowTab(1);
@@ -233,6 +255,19 @@ TEST_F(DaySettingsWindow, EnterOnCancelCancels) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_FALSE(test.program.store.DayIsOpen());
+}
+
+TEST_F(DaySettingsWindow, AUserWhoWasPassedOnTheWayOutIsNotChosen) {
+  AddUser("Anna");
+  AddUser("Bert");
+  SetCurrentUser(test.program, "Anna");
+  Open();
+  Find<QListWidget>("lst_users")->setFocus();
+  QTest::keyClick(Find<QListWidget>("lst_users"), Qt::Key_Down);
+  QTest::keyClick(dialog.get(), Qt::Key_Escape);
+  QApplication::processEvents();
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(test.program.paths.UserName, "Anna");
 }
 
 }  // namespace
