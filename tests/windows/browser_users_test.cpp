@@ -77,6 +77,17 @@ TEST_F(BrowserUsers, AKeyThatFollowsAtOnceActsOnTheUserThatWasChosen) {
   EXPECT_EQ(program.paths.UserName, "Bert");
 }
 
+TEST_F(BrowserUsers, TheDeleteKeyThatFollowsAtOnceDeletesNothingOfTheUserBefore) {
+  OpenAsAnna();
+  ClickRow(0);
+  Users()->setFocus();
+  QTest::keyClick(Users(), Qt::Key_Down);
+  List()->setFocus();
+  QTest::keyClick(List(), Qt::Key_Delete);
+  EXPECT_EQ(program.paths.UserName, "Bert");
+  EXPECT_TRUE(test.boxes.shown.empty());  // no row of Bert's is selected
+}
+
 TEST_F(BrowserUsers, ASwitchByMouseAsksOnceToo) {
   OpenWithADay();
   test.boxes.answers = {BoxAnswer::no};
