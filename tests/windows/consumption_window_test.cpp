@@ -244,6 +244,12 @@ TEST_F(ConsumptionWindows, AnEmptyListSaysWhatToDoAndKeepsItsColumns) {
   EXPECT_EQ(List(part)->columnWidth(2), width);
 }
 
+TEST_F(ConsumptionWindows, AClickBesideTheListGivesItTheKeys) {
+  List(DayPart::evening)->setFocus();
+  QTest::mouseClick(Find<QLabel>(DayPart::morning, "StatusBar_1"), Qt::LeftButton);
+  EXPECT_TRUE(List(DayPart::morning)->hasFocus());
+}
+
 TEST_F(ConsumptionWindows, CtrlAAndDeleteEmptyTheList) {
   Fill(DayPart::evening, {kBread, kApple, kBread});
   QTest::keyClick(List(DayPart::evening), Qt::Key_A, Qt::ControlModifier);

@@ -192,6 +192,13 @@ TEST_F(FoodDetailsWindow, NothingIsClipped) {
   }
 }
 
+TEST_F(FoodDetailsWindow, TheWeightsStandTogether) {
+  Open();
+  const QRect gram = Find("txt_gram_unit")->geometry();
+  EXPECT_LE(gram.left() - Box("txt_gram")->geometry().right(), 20);
+  EXPECT_LE(Box("txt_oz")->x() - gram.left(), Find("txt_gram_unit")->sizeHint().width() + 30);
+}
+
 TEST_F(FoodDetailsWindow, AnEndlessLineMakesNoEndlessWindow) {
   const Text endless(900, 'W');
   const Text digits(30, '7');

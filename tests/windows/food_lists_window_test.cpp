@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QToolBar>
 
 #include "days/day_settings.h"
 #include "days/settings.h"
@@ -55,6 +56,7 @@ TEST_F(FoodListsWindowTest, HeadingsSortTheirViewAndADragTakesTheRowsLine) {
   ClickHeading(list, 1);
   EXPECT_EQ(Names(list), "Brown Rye White");
   EXPECT_EQ(list->horizontalHeader()->sortIndicatorSection(), 1);
+  EXPECT_TRUE(list->horizontalHeader()->isSortIndicatorShown());
   ClickHeading(list, 1);
   EXPECT_EQ(Names(list), "White Rye Brown");
   EXPECT_EQ(list->horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
@@ -290,6 +292,53 @@ TEST_F(FoodListsWindowTest, ManySelectedRowsAreCountedAtOnce) {
   EXPECT_EQ(List(2)->SelectedRows().size(), 200'003u);
   ClickHeading(List(2), 1);
   EXPECT_EQ(List(2)->SelectedRows().size(), 200'003u);
+}
+
+TEST_F(FoodListsWindowTest, ItsButtonsHaveWordsUnderTheirPicturesAndTwoHaveMenus) {
+  Open();
+  const auto* const toolbar = In<QToolBar>("Toolbar");
+  EXPECT_EQ(toolbar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+  for (int number = 1; number <= 4; ++number) {
+    const QString name = QStringLiteral("Toolbar_%1").arg(number);
+    const auto* const button = In<QToolButton>(qPrintable(name));
+    EXPECT_FALSE(button->icon().isNull()) << number;
+    const QString menu = button->menu() == nullptr ? QString() : button->menu()->objectName();
+    EXPECT_EQ(menu, number % 2 == 0 ? name + "_menu" : QString()) << number;
+  }
+}
+
+TEST_F(FoodListsWindowTest, BothSearchBoxesHaveTheirPicture) {
+  Open();
+  for (const char* name : {"txt_zoeken", "txt_internet"}) {
+    const auto actions = In<QLineEdit>(name)->actions();
+    ASSERT_EQ(actions.size(), 1) << name;
+    EXPECT_FALSE(actions.front()->icon().isNull()) << name;
+  }
+}
+
+// 1800 twips are 120 pixels.
+TEST_F(FoodListsWindowTest, TheNumberOfFoodsStandsAtOnePlaceInEveryView) {
+  Open();
+  for (int number = 1; number <= 4; ++number) {
+    Press(number);
+    QApplication::processEvents();
+    const int place = In<QLabel>("StatusBar_2")->x() - In<QLabel>("StatusBar_1")->x();
+    EXPECT_GE(place, 120) << number;
+    EXPECT_LE(place, 130) << number;
+  }
+}
+
+TEST_F(FoodListsWindowTest, WhatIsFoundOnTheInternetIsCountedWhereItIsShown) {
+  Open();
+  auto* const search = In<QLineEdit>("txt_zoeken");
+  search->setText(QStringLiteral("bread.dat"));
+  QTest::keyClick(search, Qt::Key_Return);
+  program.windows.lists->Populate_Food_List_Internet();
+  EXPECT_EQ(Status(2), "3 results found");
+  Press(4);
+  Make_Taal_Dutch(program.texts);
+  program.windows.lists->Populate_Food_List_Internet();
+  EXPECT_EQ(Status(2), "0 voedingsmiddelen gevonden op internet");
 }
 
 }  // namespace

@@ -46,5 +46,22 @@ TEST_F(FoodTableDrops, TakeNothingThatTextCantHold) {
   EXPECT_TRUE(dropped.empty());
 }
 
+TEST_F(FoodTableDrops, AreOfferedWhereverTheDragGoesOverTheList) {
+  for (const auto& [text, taken] :
+       {std::pair{"add-Soup\xBD\xBE", true}, std::pair{"Soup", false}}) {
+    QMimeData data;
+    data.setText(QString::fromLatin1(text));
+    const auto offered = [&](auto event) {
+      event.ignore();
+      QApplication::sendEvent(table.viewport(), &event);
+      return event.isAccepted();
+    };
+    EXPECT_EQ(offered(QDragEnterEvent({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {})), taken);
+    EXPECT_EQ(offered(QDragMoveEvent({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {})), taken);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(table.viewport(), &leave);
+  }
+}
+
 }  // namespace
 }  // namespace kelvora
