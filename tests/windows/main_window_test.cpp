@@ -245,6 +245,20 @@ TEST_F(MainWindowOfTheProgram, EveryPartHasANameForAssistiveTools) {
   }
 }
 
+TEST_F(MainWindowOfTheProgram, StatusPanelsTellWhatTheyShow) {
+  const std::array<const char*, 4> tips = {"Version of Kelvora FOOD",
+                                           "User whose files you are working in", "", ""};
+  for (std::size_t i = 0; i < tips.size(); ++i) {
+    const auto* const panel = Find<QLabel>(QStringLiteral("StatusBar_%1").arg(i + 1));
+    EXPECT_EQ(panel->toolTip(), tips[i]) << i;
+  }
+}
+
+TEST(MainWindowAtFirst, FitsAScreenOf1024PixelsWhenItIsNotMaximized) {
+  TestProgram test;
+  EXPECT_EQ(MainWindow(test.program).size(), QSize(1024, 740));
+}
+
 TEST_F(MainWindowOfTheProgram, TheProgrammersButtonIsHiddenAndShowsTheStoreOnTop) {
   auto* const cmd_data = Find<QPushButton>("cmd_data");
   EXPECT_FALSE(cmd_data->isVisible());

@@ -15,6 +15,7 @@
 #include "core/frame/main_window.h"
 #include "food/food_table_panel.h"
 #include "language/built_in_texts.h"
+#include "platform/qt/look.h"
 #include "platform/qt/text.h"
 #include "support/test_program.h"
 
@@ -137,6 +138,18 @@ TEST_F(ProgramWindows, TheArrangementPutsTheWindowsAtTheirRecords) {
   }
   EXPECT_TRUE(Find<QToolButton>("menu_toolbar_8")->isChecked());
   EXPECT_TRUE(Find<QToolButton>("menu_toolbar_10")->isChecked());
+}
+
+TEST_F(ProgramWindows, EachChildWindowHasItsIcon) {
+  OpenDay();
+  for (const auto& [frame, icon] :
+       {std::pair{"KV_tb_lijsten_frame", "foods"}, std::pair{"KV_tb_vochtend_frame", "morning"},
+        std::pair{"KV_tb_vmiddag_frame", "afternoon"},
+        std::pair{"KV_tb_vavond_frame", "evening"}}) {
+    EXPECT_EQ(Find<QMdiSubWindow>(frame)->windowIcon().pixmap(16).toImage(),
+              IconNamed(icon).pixmap(16).toImage())
+        << frame;
+  }
 }
 
 TEST_F(ProgramWindows, AWindowKeepsItsPlaceOverClosingWithinARun) {

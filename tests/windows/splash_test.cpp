@@ -1,7 +1,9 @@
 // The splash: its show on a timer, over a main window that is usable meanwhile.
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QImage>
 #include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
@@ -125,6 +127,26 @@ TEST_F(Splash, ABoxThatHangsOnItOutlivesItsEnd) {
   ASSERT_FALSE(box.isNull());
   EXPECT_TRUE(box->isVisible());
   EXPECT_FALSE(splash->isVisible());
+}
+
+// A window without a frame draws its own, and nothing in it outshines its words.
+TEST_F(Splash, HasAFrameAndAFaintMark) {
+  const QImage seen = splash->grab().toImage();
+  const QRgb frame = splash->palette().color(QPalette::Mid).rgb();
+  const int right = seen.width() - 1;
+  const int middle = seen.height() / 2;
+  for (const QPoint place :
+       {QPoint(0, middle), QPoint(right, middle), QPoint(5, 0), QPoint(5, seen.height() - 1)}) {
+    EXPECT_EQ(seen.pixel(place), frame) << place.x() << ' ' << place.y();
+  }
+  EXPECT_NE(seen.pixel(1, middle), frame);
+  int darkest = 255, lightest = 0;
+  for (int x = right - 100; x < right; ++x) {
+    darkest = std::min(darkest, qGray(seen.pixel(x, 30)));
+    lightest = std::max(lightest, qGray(seen.pixel(x, 30)));
+  }
+  EXPECT_GT(lightest - darkest, 2);
+  EXPECT_LT(lightest - darkest, 60);
 }
 
 }  // namespace
