@@ -1,9 +1,11 @@
 // In which order a file takes the place of another, with which modes, and what is asked before.
 #include "storage/disk.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "storage/day_file.h"
 #include "storage/folders.h"
@@ -139,6 +141,35 @@ TEST(Disk, DeletingALinkThatLeadsNowhereDeletesTheLink) {
   std::filesystem::create_directory(folder.Path("folder"));
   EXPECT_THROW(DeleteFileIfThere(folder.Path("folder")), std::system_error);
   EXPECT_TRUE(std::filesystem::exists(folder.Path("folder")));
+}
+
+TEST(Disk, ADiskThatTellsNoSizeIsWrittenTo) {
+  TemporaryFolder folder;
+  const InjectedFault fault({.disk_tells_no_size = true});
+  WriteFileAnew(folder.Path("file"), "new");
+  EXPECT_EQ(ReadFile(folder.Path("file")), "new");
+}
+
+// A program that is started without an input gets the number of it for the first file that it
+// opens.
+TEST(Disk, TheNumberZeroIsAFileLikeAnyOther) {
+  TemporaryFolder folder;
+  const int input = dup(0);
+  close(0);
+  EXPECT_NO_THROW(WriteFileAnew(folder.Path("file"), "new"));
+  EXPECT_EQ(fcntl(0, F_GETFD), -1);  // given back
+  EXPECT_EQ(ReadFile(folder.Path("file")), "new");
+  if (input >= 0) {
+    dup2(input, 0);
+    close(input);
+  }
+}
+
+TEST(Disk, WhatIsNoFileIsNotDeleted) {
+  TemporaryFolder folder;
+  ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+  EXPECT_THROW(DeleteFileIfThere(folder.Path("pipe")), std::system_error);
+  EXPECT_TRUE(PathIsTaken(folder.Path("pipe")));
 }
 
 }  // namespace

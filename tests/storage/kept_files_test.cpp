@@ -168,6 +168,28 @@ TEST_P(KeptFileOf, ThatChangedSinceIsAskedAbout) {
   ExpectAQuestion();
 }
 
+// Who knows what lies there then.
+TEST_P(KeptFileOf, WhoseStateCannotBeToldAfterASaveIsAskedAbout) {
+  const std::string old = before;
+  int saves = 0;
+  bool failed = true;
+  for (std::size_t call = 0; failed; ++call) {
+    WriteFileAnew(path, old);
+    Load();
+    bool saved = false;
+    {
+      const InjectedFault fault({.reading_call_fails = call});
+      saved = ChangeAndSave();
+      failed = InjectedFault::ReadingCallFailed();
+    }
+    if (!failed || !saved) continue;
+    ++saves;
+    before = ReadFile(path);
+    ExpectAQuestion();
+  }
+  EXPECT_EQ(saves, 1);  // the last call asks for the state of what was written
+}
+
 TEST_P(KeptFileOf, ThatFailsToBeWrittenIsUnsavedWorkUntilTheNextSave) {
   Load();
   EXPECT_FALSE(HoldsUnwrittenWork(test.program));
@@ -289,6 +311,29 @@ TEST(KeptFiles, AUserWhoNeverHadAProfileGetsNoneWithADay) {
   Load_Profile(program, path);
   EXPECT_TRUE(SaveDay(program));
   EXPECT_FALSE(FileExists(path));
+}
+
+TEST(KeptFiles, AProfileThatWasReadIsKnownAsTheFileHoldsIt) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  Program& program = test.program;
+  const std::string path = ProfileFile(program.paths, "Anna");
+  Rec_Profile stored;
+  stored[ProfileField::name] = "Anna";
+  WriteRecord(path, stored);
+  const std::string written = ReadFile(path);
+  Load_Profile(program, path);
+  program.profile[ProfileField::city] = "Leiden";
+  {
+    const InjectedFault fault({.delete_fails = true});
+    EXPECT_FALSE(Save_Profile(program, path));
+  }
+  EXPECT_TRUE(HoldsUnwrittenWork(program));
+  program.profile = stored;
+  EXPECT_FALSE(HoldsUnwrittenWork(program));
+  std::filesystem::remove(path);
+  EXPECT_TRUE(SaveDay(program));
+  EXPECT_EQ(ReadFile(path), written);
 }
 
 }  // namespace

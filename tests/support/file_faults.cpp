@@ -32,11 +32,6 @@ bool ReadingFails() {
   return true;
 }
 
-bool IsFolder(int descriptor) {
-  struct stat info {};
-  return fstat(descriptor, &info) == 0 && S_ISDIR(info.st_mode);
-}
-
 }  // namespace
 
 // The names that the linker puts in the place of the system's own.
@@ -91,6 +86,7 @@ int __wrap_statvfs(const char* path, struct statvfs* disk) {
   Note("room");
   const int result = __real_statvfs(path, disk);
   if (current_fault.room) disk->f_bfree = disk->f_bavail = *current_fault.room / disk->f_frsize;
+  if (current_fault.disk_tells_no_size) disk->f_blocks = disk->f_bfree = disk->f_bavail = 0;
   return result;
 }
 
@@ -119,7 +115,8 @@ ssize_t __wrap_write(int descriptor, const void* bytes, std::size_t size) {
 }
 
 int __wrap_fsync(int descriptor) {
-  const bool folder = IsFolder(descriptor);
+  struct stat info {};
+  const bool folder = __real_fstat(descriptor, &info) == 0 && S_ISDIR(info.st_mode);
   Note(folder ? "sync folder" : "sync");
   if (!(folder ? current_fault.folder_sync_fails : current_fault.sync_fails)) return 0;
   errno = EIO;

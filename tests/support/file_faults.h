@@ -18,6 +18,7 @@ namespace kelvora {
 struct FileFault {
   std::optional<std::size_t> disk_full_after{};  // bytes that can still be written
   std::optional<std::uint64_t> room{};           // bytes that the disk says it has
+  bool disk_tells_no_size = false;               // as disks elsewhere on a network may
   bool close_fails = false;
   bool delete_fails = false;
   bool sync_fails = false;
