@@ -211,5 +211,12 @@ TEST_F(MoveConsumptionTest, AnUnknownKeyOrSourceMovesNothing) {
   EXPECT_TRUE(store.L_middag.Empty());
 }
 
+TEST(PackedText, OnlyTheTwoTerminatorsAreTerminators) {
+  for (int code = 0; code < 256; ++code) {
+    const Text text = {'a', static_cast<char>(code), 'b'};
+    EXPECT_EQ(HoldsTerminator(text), code == 0xBD || code == 0xBE) << code;
+  }
+}
+
 }  // namespace
 }  // namespace kelvora

@@ -341,11 +341,11 @@ TEST(DayListHeadings, SortFromTheWeightOnAndFlipAtEachClick) {
 
 TEST_F(Browser, RowsAreSortedByTheWholePartOfWhatTheyShow) {
   test.locale.separator = ",";
-  // In order of dates: 80,90  79,10  80,20  100,00
+  // In order of dates: 80,90  79,10  80,20  100,50
   AddDay("a.kvf", {.date = "01-03-04", .weight = "80.9"});
   AddDay("b.kvf", {.date = "02-03-04", .weight = "79.1"});
   AddDay("c.kvf", {.date = "03-03-04", .weight = "80.2"});
-  AddDay("d.kvf", {.date = "04-03-04", .weight = "100"});
+  AddDay("d.kvf", {.date = "04-03-04", .weight = "100.5"});
   std::vector<DayRow> rows = ReadDays(program).rows;
   DayListSort sort;
   const auto numbers = [&rows] {

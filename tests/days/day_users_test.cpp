@@ -223,6 +223,15 @@ TEST_F(DayUsers, ARemovedUserLeavesNothingBehind) {
   EXPECT_GT(test.core.updates, 0);
 }
 
+TEST_F(DayUsers, TheFolderOfARemovedUserIsNobodys) {
+  const std::string nowhere = UserFolder(program.paths, "");
+  AddUser("Anna");
+  DayEditing editing = Choose("Anna");
+  test.boxes.answers = {BoxAnswer::yes};
+  ASSERT_EQ(RemoveUser(program, editing, UserNamed("Anna")), UserRemoval::removed);
+  EXPECT_EQ(UserFolder(program.paths, ""), nowhere);
+}
+
 TEST_F(DayUsers, AnotherUserThanTheCurrentOneIsRemovedWithoutTouchingIt) {
   AddUser("Anna");
   AddUser("Bert");

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "language/built_in_texts.h"
+#include "language/language_file.h"
 #include "language/main_texts.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
@@ -78,6 +80,15 @@ TEST_F(LoadSettings, AFirstRunShowsTheMainWindowThenTheBoxThenTheDialog) {
   DetermineFolders(program);
   Load_Settings(program);
   EXPECT_EQ(order, (std::vector<std::string>{"main window", "captions", "box", "settings"}));
+}
+
+TEST_F(LoadSettings, AFirstRunSpeaksAsTheLanguageFileThatIsThere) {
+  Make_Taal_English(test.program.texts);
+  test.program.texts[main_text::kFile] = "Dossier";
+  Save_Language_File(test.program, test.program.paths.LanguagePath + "default.lsf");
+  test.program.texts = {};
+  Load_Settings(test.program);
+  EXPECT_EQ(test.program.texts[main_text::kFile], "Dossier");
 }
 
 TEST_F(LoadSettings, AFileWithoutARecordAnEmptyOneAndAFolderAreFirstRuns) {
