@@ -157,8 +157,11 @@ TEST_F(ProfileThatCannotBeWritten, GivesTheUserBeforeBackWithTheFoods) {
   WriteRecord(ProfileFile(program.paths, "Bert"), bert);
   WriteRecord(CustomFile(program.paths, "Bert"),
               Rec_ListLine{{LineOf({.product = "Bread"}) + kLineEnd}});
+  WriteRecord(FavoritesFile(program.paths, "Bert"),
+              Rec_ListLine{{LineOf({.product = "Apple"}) + kLineEnd}});
   ChooseUser(program, {"Bert", "Bert"});
   ASSERT_EQ(program.store.Custom_list.Count(), 1u);
+  ASSERT_EQ(program.store.Favorites_list.Count(), 1u);
   const State before = StateOf(program);
   DayEditing editing = OpenDayEditing(program);
   editing.form = GoodForm();

@@ -226,9 +226,12 @@ TEST_F(BrowserDays, ARightClickOnARowShowsTheMenuAndOneBesideTheRowsDoesNot) {
 TEST_F(BrowserDays, TheMenuKeyShowsTheMenuAtTheRowInFocus) {
   OpenAsAnna();
   ClickRow(1);
-  QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+  // Wherever the mouse rests meanwhile, here beside the rows.
+  const QPoint beside = List()->rect().bottomLeft();
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, beside, List()->mapToGlobal(beside));
   QApplication::sendEvent(List(), &event);
   EXPECT_TRUE(Menu()->isVisible());
+  EXPECT_EQ(Menu()->pos(), List()->viewport()->mapToGlobal(PlaceOfRow(1)));
   Menu()->hide();
 }
 

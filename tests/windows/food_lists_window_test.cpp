@@ -297,6 +297,7 @@ TEST_F(FoodListsWindowTest, ManySelectedRowsAreCountedAtOnce) {
 TEST_F(FoodListsWindowTest, ItsButtonsHaveWordsUnderTheirPicturesAndTwoHaveMenus) {
   Open();
   const auto* const toolbar = In<QToolBar>("Toolbar");
+  ASSERT_NE(toolbar, nullptr);
   EXPECT_EQ(toolbar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
   for (int number = 1; number <= 4; ++number) {
     const QString name = QStringLiteral("Toolbar_%1").arg(number);
