@@ -12,14 +12,14 @@
 
 namespace kelvora {
 
-// Reads `folder` + `file_name`, both UTF-8, into the store. A file that can't be opened changes nothing, and so
-// does a No to the question about unsaved changes. A failure shows "#FF1-8" and leaves no day open.
-// `folder` ends in "/". A file that counts no record gives the day that
-// was opened last from the same folder, and fails without one.
+// Reads `folder` + `file_name`, both UTF-8, into the store. A file that can't be opened changes
+// nothing, and so does a No to the question about unsaved changes. A failure shows "#FF1-8" and
+// leaves no day open. `folder` ends in "/". A file that counts no record gives the day that was
+// opened last from the same folder, and fails without one.
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name);
 
-// The bare name of the open day's file on the disk, in UTF-8; KV_bestand has "?" in it for what text
-// can't hold.
+// The bare name of the open day's file on the disk, in UTF-8; KV_bestand has "?" in it for what
+// text can't hold.
 [[nodiscard]] std::string NameOfDayFile(const Program& program);
 
 // Puts the six strings of a day file into the store, the lists behind what they hold; and makes

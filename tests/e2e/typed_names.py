@@ -75,9 +75,12 @@ def expect_hint(desktop, enter, picture):
     """Enters something; much more than the box of the name itself has changed then."""
     before = region(desktop.picture(), *PERSON)
     enter()
-    after = region(desktop.picture(), *PERSON)
-    changed = sum(old != new for old, new in zip(before, after))
-    assert changed > 1.5 * BOX_HEIGHT, f"only {changed} rows of pixels have changed"
+
+    def much_has_changed():
+        after = region(desktop.picture(), *PERSON)
+        return sum(old != new for old, new in zip(before, after)) > 1.5 * BOX_HEIGHT
+
+    desktop.wait_for("a hint beside the box", much_has_changed)
     if picture is not None:
         subprocess.run(["import", "-window", "root", str(picture)], env=desktop.environment,
                        check=True)
