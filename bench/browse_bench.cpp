@@ -36,7 +36,7 @@ struct Diary {
 
   explicit Diary(std::size_t days) {
     Program& program = test.program;
-    const Text user("Zoë"_w);
+    const std::string_view user = "Zoë"_w;
     test.OpenDay(user);
     program.profile[ProfileField::name] = user;
     program.profile[ProfileField::type_prioriteit] = Text(1, '1');
