@@ -29,8 +29,8 @@ from breaks import breaks_of, switched
 
 VARIABLE = "KELVORA_BROKEN_LINE"
 # What a broken line leaves unused or converts is no reason not to compile it.
-HARMLESS = ("pragmas", "unknown-warning-option", "unused-variable", "unused-function", "unused-parameter", "unused-but-set-variable",
-            "unused-value", "conversion", "float-conversion", "sign-compare", "type-limits",
+HARMLESS = ("pragmas", "unknown-warning-option", "unused-variable", "unused-function",
+            "unused-parameter", "unused-but-set-variable", "unused-value", "conversion", "float-conversion", "sign-compare", "type-limits",
             "empty-body", "return-type", "div-by-zero", "tautological-compare", "bool-compare",
             "int-in-bool-context", "parentheses", "logical-op", "array-bounds", "nonnull",
             "unused-but-set-parameter", "maybe-uninitialized", "uninitialized", "switch")

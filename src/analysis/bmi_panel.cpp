@@ -1,11 +1,9 @@
 #include "analysis/bmi_panel.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QGridLayout>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include "analysis/chart_look_panel.h"
 #include "language/day_summary_texts.h"
@@ -107,9 +105,8 @@ class Arrow : public QWidget {
 
 // To whole pixels, edge by edge, so that what touches still touches.
 QRect PixelRect(const TwipRect& place) {
-  const auto edge = [](double twips) { return static_cast<int>(std::lround(InPixels(twips))); };
-  return {QPoint(edge(place.left), edge(place.top)),
-          QPoint(edge(place.Right()) - 1, edge(place.Bottom()) - 1)};
+  return {QPoint(NearestPixel(place.left), NearestPixel(place.top)),
+          QPoint(NearestPixel(place.Right()) - 1, NearestPixel(place.Bottom()) - 1)};
 }
 
 }  // namespace
@@ -209,11 +206,8 @@ void BmiPanel::LayOut() {
 }
 
 void BmiPanel::paintEvent(QPaintEvent*) {
-  if (!hasFocus()) return;
   QPainter painter(this);
-  QStyleOptionFocusRect frame;
-  frame.initFrom(this);
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+  PaintFocus(*this, painter);
 }
 
 }  // namespace kelvora

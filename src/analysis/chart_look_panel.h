@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QWidget>
 
 #include "analysis/colour.h"
 #include "core/geometry.h"
@@ -17,6 +18,12 @@ namespace kelvora {
 [[nodiscard]] constexpr double InPixels(double twips) {
   return twips / kTwipsPerPixel;
 }
+
+// To the nearest whole pixel, where PixelsOfTwips leaves a fraction out.
+[[nodiscard]] int NearestPixel(double twips);
+
+// The frame around what has the focus; nothing around anything else.
+void PaintFocus(const QWidget& widget, QPainter& painter);
 
 // Black or white, whichever reads better on the ground.
 [[nodiscard]] QColor LettersOn(const QColor& ground);

@@ -43,6 +43,7 @@ class DaySummary {
   [[nodiscard]] Schermstand Stand() const;
   [[nodiscard]] Text Title() const;
   [[nodiscard]] AnalysisView View() const { return view_; }
+  [[nodiscard]] const AnalysisButton& ButtonDown() const;
   // The view whose menu is enabled; none until a button was clicked.
   [[nodiscard]] std::optional<AnalysisView> EnabledMenu() const { return enabled_menu_; }
   [[nodiscard]] const RequirementState& Requirement() const { return state_; }
@@ -62,7 +63,6 @@ class DaySummary {
   void MakeBars();
   void Zet_Statustekst();
   void WriteStatus();
-  [[nodiscard]] const AnalysisButton& ButtonDown() const;
 
   Program& program_;
   AnalysisView view_ = AnalysisView::requirements;

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include "analysis/chart_look_panel.h"
 #include "core/program.h"
 #include "language/day_summary_texts.h"
 #include "nutrition/totals.h"
@@ -20,11 +21,6 @@ using namespace day_summary_text;
 
 constexpr int kRescaleIcon = 16;
 constexpr int kStatusMargin = 2;  // above and below the letters of the status bar
-
-// So that a window that goes down and up again comes back to its place.
-int NearestPixel(int twips) {
-  return qRound(static_cast<double>(twips) / kTwipsPerPixel);
-}
 
 }  // namespace
 
@@ -71,7 +67,6 @@ void DaySummaryWindow::BuildPanels() {
   list->setContentsMargins(0, 0, 0, 0);
   list->addWidget(LV_uittreksel_);
   Pic_BMI_ = new BmiPanel(panels_);
-  // In the order of the buttons.
   for (QWidget* const panel :
        std::initializer_list<QWidget*>{Pic_Behoefte_, Pic_top5_, Pic_uittreksel_, Pic_BMI_}) {
     panels_->addWidget(panel);
@@ -196,7 +191,7 @@ void DaySummaryWindow::ShowView() {
   Toolbar_->EnableMenu(summary_->EnabledMenu());
   Toolbar_->Mark(AnalysisView::requirements, ChosenRequirements(summary_->Requirement()));
   Toolbar_->Mark(AnalysisView::top5, std::array{ChosenNutrient(program_.analysis)});
-  panels_->setCurrentIndex(static_cast<int>(summary_->View()));
+  panels_->setCurrentWidget(panels_->findChild<QWidget*>(ToQt(summary_->ButtonDown().panel)));
   ShowStatus();
 }
 
@@ -219,6 +214,7 @@ void DaySummaryWindow::Rescale() {
       summary_->ClickRescale({TwipsOfPixels(place.width()), TwipsOfPixels(place.height()),
                               TwipsOfPixels(place.x()), TwipsOfPixels(place.y())});
   Interface_Draw();
+  // To the nearest pixel, so that a window that goes down and up again comes back to its place.
   frame->setGeometry(NearestPixel(rescaled.left), NearestPixel(rescaled.top),
                      NearestPixel(rescaled.width), NearestPixel(rescaled.height));
   SetCaptions();

@@ -4,7 +4,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QStyleOptionFocusRect>
 
 #include "analysis/chart_look_panel.h"
 
@@ -50,10 +49,7 @@ void PiePanel::paintEvent(QPaintEvent*) {
     painter.setBrush(InQt(fill));
     painter.drawPath(PathOf(sector));
   }
-  if (!hasFocus()) return;
-  QStyleOptionFocusRect frame;
-  frame.initFrom(this);
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+  PaintFocus(*this, painter);
 }
 
 }  // namespace kelvora

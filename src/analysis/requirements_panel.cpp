@@ -5,7 +5,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include "analysis/chart_look_panel.h"
 #include "platform/qt/look.h"
@@ -28,10 +27,6 @@ constexpr int kMargin = 4;     // beside the names, and between bar and text
 constexpr int kTextStep = 16;  // the text boxes grow by so many pixels
 constexpr int kCornerMarginTwips = 60;
 constexpr double kCorner = 1.5;  // radius of a bar's ends
-
-int PixelsOf(int twips) {
-  return static_cast<int>(std::lround(InPixels(twips)));
-}
 
 }  // namespace
 
@@ -150,7 +145,7 @@ PanelWidths RequirementsPanel::Widths() const {
 void RequirementsPanel::FitLetters() {
   const BarPlaces places = PlaceBars(stand_, TwipsOfPixels(height()));
   const auto rows = static_cast<int>(kRequirementRows);
-  const QFont text_font = FontForLines(font(), 1, PixelsOf(places.tops[1] - places.tops[0]));
+  const QFont text_font = FontForLines(font(), 1, NearestPixel(places.tops[1] - places.tops[0]));
   const QFont name_font = FontForLines(font(), rows, height());
   for (QLabel* const name : names_) name->setFont(name_font);
   for (Line& line : lines_) line.text->setFont(text_font);
@@ -167,16 +162,16 @@ void RequirementsPanel::Plaats_Balken() {
     names_[row]->setGeometry(kMargin, top, names_width - kMargin, height);
   }
   if (corner_ == nullptr) return;
-  const QPoint margin(PixelsOf(kCornerMarginTwips), PixelsOf(kCornerMarginTwips));
+  const QPoint margin(NearestPixel(kCornerMarginTwips), NearestPixel(kCornerMarginTwips));
   corner_->move(rect().bottomRight() + QPoint(1, 1) - margin -
                 QPoint(corner_->width(), corner_->height()));
 }
 
 void RequirementsPanel::PlaceLine(std::size_t index, int left, const BarPlaces& places) {
   const Line& line = lines_[index];
-  const int top = PixelsOf(places.tops[index]);
+  const int top = NearestPixel(places.tops[index]);
   const int height = PixelsOfTwips(places.height);
-  const int bar_left = left + PixelsOf(places.left);
+  const int bar_left = left + NearestPixel(places.left);
   const int bar_width = static_cast<int>(std::ceil(line.bar->MiddlePixels())) + 2 * AmountBar::kCap;
   line.bar->setGeometry(bar_left, top, bar_width, height);
   const int text_left = bar_left + bar_width + kMargin;
@@ -200,11 +195,8 @@ void RequirementsPanel::changeEvent(QEvent* event) {
 }
 
 void RequirementsPanel::paintEvent(QPaintEvent*) {
-  if (!hasFocus()) return;
   QPainter painter(this);
-  QStyleOptionFocusRect frame;
-  frame.initFrom(this);
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+  PaintFocus(*this, painter);
 }
 
 }  // namespace kelvora

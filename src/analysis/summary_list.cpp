@@ -94,13 +94,9 @@ SummaryRow RowOfLine(std::string_view line, std::string_view count, std::string_
   return row;
 }
 
-bool IsText(SummaryColumn column) {
-  return column == SummaryColumn::food || column == SummaryColumn::unit;
-}
-
 ColumnOrder NextOrder(SummaryColumn column, SummarySort& sort) {
   const auto number = static_cast<std::size_t>(column);
-  if (IsText(column)) {
+  if (IsTextColumn(column)) {
     const auto& last = sort.last_text;
     const bool again = last && last->column == number;
     sort.last_text = {number, again ? Flipped(last->order) : SortOrder::descending};
@@ -113,7 +109,7 @@ ColumnOrder NextOrder(SummaryColumn column, SummarySort& sort) {
 
 std::vector<std::uint32_t> SortedPlaces(const SummaryRows& rows, SummaryColumn column,
                                         SortOrder order) {
-  if (IsText(column)) {
+  if (IsTextColumn(column)) {
     std::vector<std::string_view> texts;
     texts.reserve(rows.size());
     for (const SummaryRow& row : rows) texts.emplace_back(row[column]);
@@ -126,10 +122,6 @@ std::vector<std::uint32_t> SortedPlaces(const SummaryRows& rows, SummaryColumn c
 }
 
 }  // namespace
-
-SummaryRows RowsOfLines(Program& program, const TextList& distinct, const TextList& counts) {
-  return SummaryRowMaker().RowsOf(program, distinct, counts);
-}
 
 SummaryRows SummaryRowMaker::RowsOf(Program& program, const TextList& distinct,
                                     const TextList& counts) {

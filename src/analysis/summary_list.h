@@ -11,15 +11,12 @@
 
 namespace kelvora {
 
-// A row for each of these different lines, with its amounts as often as its count says. The hidden
-// keys go up by two, which is meant. An amount that no number can hold has an empty cell.
-[[nodiscard]] SummaryRows RowsOfLines(Program& program, const TextList& distinct,
-                                      const TextList& counts);
-
-// Makes the same rows again and again. Of a day that has changed most lines are as they were, and
-// so are their rows: only the others are printed anew.
+// Makes the rows of a list, which is rebuilt again and again. Of a day that has changed most lines
+// are as they were, and so are their rows: only the others are printed anew.
 class SummaryRowMaker {
  public:
+  // A row for each of these different lines, with its amounts as often as its count says. The
+  // hidden keys go up by two, which is meant. An amount that no number can hold has an empty cell.
   [[nodiscard]] SummaryRows RowsOf(Program& program, const TextList& distinct,
                                    const TextList& counts);
 
@@ -28,6 +25,11 @@ class SummaryRowMaker {
   bool ounces_ = false;                        // how they were printed
   Text separator_;
 };
+
+// True for a column of texts; the others hold numbers.
+[[nodiscard]] constexpr bool IsTextColumn(SummaryColumn column) {
+  return column == SummaryColumn::food || column == SummaryColumn::unit;
+}
 
 [[nodiscard]] std::array<Text, kSummaryColumns> SummaryHeadings(const TextTables& texts,
                                                                 AnalysisWindow window);

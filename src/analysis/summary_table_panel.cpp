@@ -15,11 +15,6 @@ constexpr int kFirstShown = static_cast<int>(SummaryColumn::food);
 constexpr int kLeastFoodWidth = 90;
 constexpr int kHeadingMargin = 10;  // both sides of a heading together
 
-bool IsText(std::size_t column) {
-  return column == static_cast<std::size_t>(SummaryColumn::food) ||
-         column == static_cast<std::size_t>(SummaryColumn::unit);
-}
-
 }  // namespace
 
 SummaryTable::SummaryTable(QWidget* parent) : QTableView(parent) {
@@ -43,7 +38,8 @@ void SummaryTable::Show(const std::array<Text, kSummaryColumns>& headings,
   rows_ = std::move(rows);
   std::vector<TextTableModel::Column> columns;
   for (std::size_t i = 0; i < headings.size(); ++i) {
-    columns.push_back({headings[i], IsText(i) ? Qt::AlignLeft : Qt::AlignRight});
+    const bool text = IsTextColumn(static_cast<SummaryColumn>(i));
+    columns.push_back({headings[i], text ? Qt::AlignLeft : Qt::AlignRight});
   }
   model_.Show(
       std::move(columns), rows_->size(),

@@ -18,7 +18,7 @@ class SummaryOfLines : public testing::Test {
       lines.Add(LineOf(food));
       counts.Add(count);
     }
-    return RowsOfLines(test.program, lines, counts);
+    return SummaryRowMaker().RowsOf(test.program, lines, counts);
   }
 
   TestProgram test;
@@ -85,7 +85,7 @@ TEST_F(SummaryOfLines, AreTheSameWhenMadeAgainAfterEachChange) {
   TextList lines, counts;
   const auto expect_as_new = [&](const char* what) {
     const SummaryRows again = maker.RowsOf(test.program, lines, counts);
-    const SummaryRows anew = RowsOfLines(test.program, lines, counts);
+    const SummaryRows anew = SummaryRowMaker().RowsOf(test.program, lines, counts);
     ASSERT_EQ(again.size(), anew.size()) << what;
     for (std::size_t i = 0; i < anew.size(); ++i) EXPECT_EQ(again[i].cells, anew[i].cells) << what;
   };
@@ -111,7 +111,7 @@ TEST_F(SummaryOfLines, TakesALineWithoutFields) {
   TextList lines, counts;
   lines.Add("no field");
   counts.Add("1");
-  const SummaryRows rows = RowsOfLines(test.program, lines, counts);
+  const SummaryRows rows = SummaryRowMaker().RowsOf(test.program, lines, counts);
   EXPECT_EQ(rows[0].cells, (Cells{"2", "", "1", "", "", "0", "0", "0", "0", "0", "0.000", "0"}));
 }
 

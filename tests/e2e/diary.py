@@ -11,7 +11,7 @@ from pathlib import Path
 
 from day_file_reader import read_day_file
 from desktop import Desktop
-from one_day import DAYS_FIRST, USERS_FIRST, end, make_user_and_day
+from one_day import end, make_user_and_day, open_first_day
 
 # Places on a screen of 1024 x 768 with the main window maximised.
 DIARY_BUTTON = (389, 65)
@@ -49,12 +49,7 @@ def main():
         end(desktop, process)
 
         process = desktop.start(program)
-        desktop.keys("ctrl+o")
-        desktop.window("^Open file$")
-        desktop.click(USERS_FIRST)
-        desktop.click(DAYS_FIRST)
-        desktop.keys("Return")
-        desktop.no_window("^Open file$")
+        open_first_day(desktop)
         open_diary(desktop)
         desktop.keys("ctrl+End")
         desktop.type(" early")

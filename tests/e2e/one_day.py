@@ -89,6 +89,15 @@ def fill_in_day(desktop, title):
     desktop.settle()
 
 
+def open_first_day(desktop):
+    desktop.keys("ctrl+o")
+    desktop.window("^Open file$")
+    desktop.click(USERS_FIRST)
+    desktop.click(DAYS_FIRST)
+    desktop.keys("Return")
+    desktop.no_window("^Open file$")
+
+
 def drag_foods(desktop):
     desktop.click(row(0))
     desktop.click(row(1), "shift")
@@ -142,12 +151,7 @@ def main():
         end(desktop, process)
 
         process = desktop.start(program)
-        desktop.keys("ctrl+o")
-        desktop.window("^Open file$")
-        desktop.click(USERS_FIRST)
-        desktop.click(DAYS_FIRST)
-        desktop.keys("Return")
-        desktop.no_window("^Open file$")
+        open_first_day(desktop)
         desktop.click(DEFAULT_SCREENS)
         opened_screen = region(desktop.picture(), *CONSUMPTION_WINDOWS)
         assert opened_screen == saved_screen, "the opened day looks different"
