@@ -1,0 +1,79 @@
+// Which window or dialog the main window makes for each of those that the program has.
+#include "analysis/day_summary_window.h"
+#include "analysis/diary_window.h"
+#include "core/frame/child_area_panel.h"
+#include "core/frame/main_window.h"
+#include "days/day_dialogs.h"
+#include "days/popup.h"
+#include "food/consumption_window.h"
+#include "food/food_details_dialog.h"
+#include "food/food_lists_window.h"
+#include "food/new_food_dialog.h"
+#include "platform/qt/look.h"
+
+namespace kelvora {
+
+void MainWindow::OpenWindow(WindowId id) {
+  if (program_.ending || program_.windows.Find(id) != nullptr) return;
+  switch (id) {
+    case WindowId::wizard:
+      return ShowWizardDialog(program_, this);
+    case WindowId::day_settings:
+      return ShowDaySettingsDialog(program_, this);
+    case WindowId::browser:
+      return ShowBrowserDialog(program_, this);
+    case WindowId::lists:
+      return OpenChild(id, new FoodListsWindow(program_, area_), "foods");
+    case WindowId::morning:
+      return OpenConsumption(DayPart::morning, "morning");
+    case WindowId::afternoon:
+      return OpenConsumption(DayPart::afternoon, "afternoon");
+    case WindowId::evening:
+      return OpenConsumption(DayPart::evening, "evening");
+    case WindowId::diary:
+      return OpenChild(id, new DiaryWindow(program_, area_), "diary",
+                       {PixelsCovering(kDiaryMinimumWidth), PixelsCovering(kDiaryMinimumHeight)});
+    case WindowId::day_summary:
+      return OpenChild(id, new DaySummaryWindow(program_, area_), "summary");
+    case WindowId::food_details:
+    case WindowId::multi_day:
+    case WindowId::comparison:
+      return;
+  }
+}
+
+void MainWindow::OpenSettings() {
+  if (program_.windows.properties == nullptr) ShowSettingsDialog(program_, this);
+}
+
+void MainWindow::ShowItem(std::string_view tag, std::string_view line) {
+  if (program_.windows.food_details == nullptr) ShowFoodDetailsDialog(program_, tag, line, this);
+}
+
+void MainWindow::OpenNewFood() {
+  if (program_.windows.new_food == nullptr) ShowNewFoodDialog(program_, this);
+}
+
+void MainWindow::ShowSplash() {
+  ShowPopup(program_, kSplashMode, this);
+}
+
+void MainWindow::ShowAbout() {
+  ShowPopup(program_, kAboutMode, this);
+}
+
+void MainWindow::OpenConsumption(DayPart part, const char* icon) {
+  OpenChild(WindowOf(part), new ConsumptionWindow(program_, part, area_), icon,
+            {PixelsCovering(kConsumptionMinimumWidth), PixelsCovering(kConsumptionMinimumHeight)});
+}
+
+void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum) {
+  auto* const frame = new ChildFrame(content, *program_.windows.RecordOf(id));
+  frame->setWindowIcon(IconNamed(icon));
+  area_->addSubWindow(frame);
+  if (!minimum.isNull()) frame->setMinimumSize(minimum);
+  frame->MoveToRecord();
+  frame->show();
+}
+
+}  // namespace kelvora
