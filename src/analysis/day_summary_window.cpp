@@ -38,8 +38,6 @@ DaySummaryWindow::DaySummaryWindow(Program& program, QWidget* parent)
   Toolbar_->EnableMenu(std::nullopt);
   SetCaptions();
   Interface_Draw();
-  ShowRows();
-  ShowCharts();
   ShowView();
   Refresh_Totalen(program_);
 }
@@ -100,9 +98,7 @@ void DaySummaryWindow::ConnectAll() {
   });
   connect(Toolbar_, &AnalysisToolbar::EntryChosen, this, [this](int position) {
     const bool shown = Survives([&](DaySummary& summary) { summary.ClickEntry(position); });
-    if (!shown) return;
-    ShowCharts();
-    ShowView();
+    if (shown) ShowView();
   });
   connect(LV_uittreksel_, &SummaryTable::HeadingClicked, this, [this](SummaryColumn column) {
     summary_->ClickColumn(column);
@@ -176,14 +172,16 @@ void DaySummaryWindow::ShowBars() {
   if (summary_->ResizeBars(needed)) Pic_Behoefte_->Show(summary_->Bars());
 }
 
+// Every drop comes this way: what nobody sees is drawn when its view is chosen.
 void DaySummaryWindow::ShowRows() {
+  if (panels_->currentWidget() != Pic_uittreksel_) return;
   LV_uittreksel_->Show(SummaryHeadings(program_.texts, AnalysisWindow::day_summary),
                        summary_->Rows(), summary_->ShownOrder());
 }
 
 void DaySummaryWindow::ShowCharts() {
-  Pic_top5_->Show(summary_->Pie());
-  Pic_BMI_->Show(summary_->Bmi());
+  if (panels_->currentWidget() == Pic_top5_) Pic_top5_->Show(summary_->Pie());
+  if (panels_->currentWidget() == Pic_BMI_) Pic_BMI_->Show(summary_->Bmi());
 }
 
 void DaySummaryWindow::ShowView() {
@@ -192,6 +190,8 @@ void DaySummaryWindow::ShowView() {
   Toolbar_->Mark(AnalysisView::requirements, ChosenRequirements(summary_->Requirement()));
   Toolbar_->Mark(AnalysisView::top5, std::array{ChosenNutrient(program_.analysis)});
   panels_->setCurrentWidget(panels_->findChild<QWidget*>(ToQt(summary_->ButtonDown().panel)));
+  ShowRows();
+  ShowCharts();
   ShowStatus();
 }
 

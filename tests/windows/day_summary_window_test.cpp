@@ -319,10 +319,14 @@ TEST_F(DaySummaryInTheProgram, StandsSmallBelowTheFoodListsInItsArrangement) {
   // A drop is seen at once, in either size.
   DropOnDayPart(program, DayPart::morning, "add-" + LineOf(kApple) + kLineEnd);
   EXPECT_EQ(Label("Pic_gt_1"), "Used:78 Kcal, 7.8%");
-  EXPECT_EQ(Cell(0, SummaryColumn::food), "Apple");
   Item_Plus_Een(program, DayPart::morning, "Apple");
   EXPECT_EQ(Label("Pic_gt_1"), "Used:156 Kcal, 15.6%");
+  Find<QToolButton>("Pic_rescale")->click();
+  Press(3);
+  EXPECT_EQ(Cell(0, SummaryColumn::food), "Apple");
   EXPECT_EQ(Cell(0, SummaryColumn::count), "2");
+  Item_Plus_Een(program, DayPart::morning, "Apple");
+  EXPECT_EQ(Cell(0, SummaryColumn::count), "3");
 }
 
 TEST_F(DaySummaryInTheProgram, FollowsADropWithoutAConsumptionWindow) {

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 #include "core/drawn_text.h"
 #include "core/frame/arrangement.h"
@@ -106,7 +107,13 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
   window.OpenWindow(WindowId::day_summary);
   window.UpdateStatusBar();
   QApplication::processEvents();
-  ExpectBounded(window, 3 * 10 + 12);
+  auto* const summary = window.findChild<QWidget*>("KV_tb_daguittreksel");
+  ASSERT_NE(summary, nullptr);
+  for (int view = 1; view <= 4; ++view) {
+    summary->findChild<QToolButton*>(QStringLiteral("Toolbar_%1").arg(view))->click();
+    QApplication::processEvents();
+    ExpectBounded(window, view == 3 ? 3 * 10 + 12 : 3 * 10);
+  }
 }
 
 TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {
