@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """Takes the pictures of the running program: the windows of the start, the main window with a day in
-it, and the dialogs.
+it, the dialogs, what the day adds up to.
 
-The arguments are the built program, the folder for the pictures and the name of a language file.
+The arguments are the built program, the folder for the pictures and the name of a language file; with
+--dark the desktop's colours are dark, with --scale 2 each pixel of the layout takes four.
 Not a test: a person looks at what it makes.
 """
+import argparse
 import struct
 import subprocess
-import sys
 import time
 from pathlib import Path
 
@@ -18,10 +19,48 @@ AFTERNOON = (800, 420)
 AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
 # What differs from English in making a user and a day.
 WORDS = {"nederlands": {"title": "Begin een nieuwe dag"}}
+# The arrangement with the small summary, and the buttons of the summary and the diary.
+SUMMARY_BUTTONS = {"english": [(250, 731), (452, 60), (389, 65)],
+                   "nederlands": [(300, 731), (497, 60), (453, 65)]}
 SETTINGS = "^(Kelvora FOOD settings|Instellingen van Kelvora FOOD)$"
 NEW_FOOD = "^(Add new food item|Nieuw voedingsmiddel toevoegen)$"
 DETAILS = "^(Food item details|Details van het voedingsmiddel)$"
 ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
+
+
+# The colours of a dark desktop, in the form in which one of the common ones keeps them.
+DARK = """[Colors:{0}]
+BackgroundNormal={1}
+BackgroundAlternate=49,54,59
+ForegroundNormal=239,240,241
+DecorationFocus=61,174,233
+DecorationHover=61,174,233
+"""
+DARK_DESKTOP = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5"}
+
+
+class PictureDesktop(Desktop):
+    """A desktop that may be dark, and on which each place lies at a multiple of what is asked for."""
+
+    def __init__(self, scale, dark):
+        super().__init__(tuple(side * scale for side in (1024, 768)))
+        self.scale, self.dark = scale, dark
+
+    def launch(self, program, locale="C.UTF-8"):
+        if self.dark:
+            colours = Path(self.home.name, ".config", "kdeglobals")
+            colours.parent.mkdir(exist_ok=True)
+            colours.write_text("".join(DARK.format(role, colour) for role, colour in [
+                ("Window", "42,46,50"), ("View", "27,30,32"), ("Button", "49,54,59"),
+                ("Tooltip", "49,54,59"), ("Selection", "61,174,233")]))
+            self.environment.update(DARK_DESKTOP)
+        return super().launch(program, locale, self.scale)
+
+    def click(self, place, *held_keys):
+        super().click([side * self.scale for side in place], *held_keys)
+
+    def drag(self, start, end):
+        super().drag(*([side * self.scale for side in place] for place in (start, end)))
 
 
 def choose_language(desktop, program, language):
@@ -85,10 +124,35 @@ def take_foods(desktop, folder, stem):
     desktop.no_window(DETAILS)
 
 
+def take_summary(desktop, folder, stem):
+    """The small summary below the food lists, the four panels of the large one, the diary. There are
+    enough foods for a pie."""
+    screens, summary, diary = SUMMARY_BUTTONS[stem]
+    for number in (1, 5, 6):
+        desktop.click(row(number))
+        desktop.drag(row(number), EVENING)
+    desktop.click(screens)
+    take(desktop, folder / f"summary_small_{stem}.png")
+    desktop.click(summary)
+    for panel in (1, 2, 3, 4):
+        take(desktop, folder / f"summary_{panel}_{stem}.png")
+        desktop.keys("Tab", "space")
+    desktop.click(diary)
+    desktop.type("Slept well; walked 5 km.")
+    take(desktop, folder / f"diary_{stem}.png")
+
+
 def main():
-    program, folder, language = Path(sys.argv[1]).resolve(), Path(sys.argv[2]), sys.argv[3]
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("program", type=lambda name: Path(name).resolve())
+    parser.add_argument("folder", type=Path)
+    parser.add_argument("language")
+    parser.add_argument("--dark", action="store_true")
+    parser.add_argument("--scale", type=int, default=1)
+    arguments = parser.parse_args()
+    program, folder, language = arguments.program, arguments.folder, arguments.language
     stem = Path(language).stem.lower()
-    with Desktop() as desktop:
+    with PictureDesktop(arguments.scale, arguments.dark) as desktop:
         choose_language(desktop, program, language)
         take_start(desktop, program, folder, stem)
         desktop.start(program)
@@ -105,6 +169,7 @@ def main():
         desktop.click(MORNING_TOTALS)
         take(desktop, folder / f"main_window_{stem}.png")
         take_foods(desktop, folder, stem)
+        take_summary(desktop, folder, stem)
         desktop.keys("ctrl+s")
         desktop.keys("ctrl+o")
         desktop.click(DAYS_FIRST)
