@@ -4,6 +4,7 @@ Real windows, real mouse and keyboard; nothing here knows the program's code. Ev
 started is ended again by its process id. On a failure the last picture of the screen is kept.
 """
 import os
+import struct
 import subprocess
 import tempfile
 import time
@@ -40,7 +41,8 @@ class Desktop:
     def start_display(self):
         reading, writing = os.pipe()
         self.processes.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size[0]}x{self.size[1]}x24"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size[0]}x{self.size[1]}x24",
+             "-fbdir", self.home.name, "-nocursor"],
             pass_fds=[writing], stderr=subprocess.DEVNULL))
         os.close(writing)
         with os.fdopen(reading) as answer:
@@ -138,20 +140,46 @@ class Desktop:
         self.wait_for(f"the end of the window {title}", lambda: not
                       self.output("xdotool", "search", "--onlyvisible", "--name", title))
 
+    def screen(self):
+        """What the display holds now, as it keeps it: a header, then four bytes a pixel. No pointer
+        is drawn into it."""
+        return Path(self.home.name, "Xvfb_screen0").read_bytes()
+
     def picture(self):
         """The whole screen as raw RGB bytes."""
-        return subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
-                              env=self.environment, check=True, stdout=subprocess.PIPE).stdout
+        screen = self.screen()
+        header = struct.unpack_from(">25I", screen)
+        length, height, line, colours = header[0], header[5], header[12], header[19]
+        assert line == self.size[0] * 4, "a line of the screen ends in something else"
+        pixels = screen[length + colours * 12:][:line * height]
+        picture = bytearray(len(pixels) // 4 * 3)
+        for colour in range(3):
+            picture[colour::3] = pixels[2 - colour::4]
+        return bytes(picture)
+
+    def at_work(self):
+        """Whether the display, the window manager or a program runs or waits for the processor or
+        the disk now, rather than for events."""
+        for process in self.processes:
+            try:
+                status = Path(f"/proc/{process.pid}/stat").read_text()
+            except FileNotFoundError:
+                continue
+            if status.rpartition(")")[2].split()[0] in "RD":
+                return True
+        return False
 
     def settle(self):
-        """Waits until the screen has stood still for a moment."""
-        before = b""
-        for _ in range(100):
-            time.sleep(0.15)
-            now = self.picture()
-            if now == before:
+        """Waits until the screen has stood still, and nobody has been at work, for a moment."""
+        end = time.monotonic() + 30
+        before, since = self.screen(), time.monotonic()
+        while time.monotonic() < end:
+            time.sleep(0.02)
+            now = self.screen()
+            if now != before or self.at_work():
+                before, since = now, time.monotonic()
+            elif time.monotonic() - since > 0.3:
                 return
-            before = now
         raise AssertionError("the screen never stands still")
 
     def keys(self, *keys):
