@@ -29,7 +29,13 @@ void WritePlain(const std::string& path, std::string_view bytes) {
   const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
   Require(file >= 0);
   Require(write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
+  Require(fsync(file) == 0);
   Require(close(file) == 0);
+  const int folder =
+      open(path.substr(0, path.rfind('/') + 1).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  Require(folder >= 0);
+  Require(fsync(folder) == 0);
+  Require(close(folder) == 0);
 }
 
 std::size_t ReadThroughLibrary(const std::string& path, std::span<char> buffer) {

@@ -12,7 +12,8 @@ namespace kelvora::bench {
 // no longer than the buffer.
 std::size_t ReadPlain(const std::string& path, std::span<char> buffer);
 
-// Deletes the file, creates it, writes the bytes and closes it.
+// Deletes the file, creates it, writes the bytes, syncs and closes it, and syncs its folder. The
+// path is an absolute one.
 void WritePlain(const std::string& path, std::string_view bytes);
 
 // As ReadPlain, through the buffered calls of the C library.
