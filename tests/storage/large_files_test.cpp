@@ -14,6 +14,7 @@
 #include "storage/profile_file.h"
 #include "storage/record_file.h"
 #include "storage/settings_file.h"
+#include "support/sanitizers.h"
 #include "support/test_program.h"
 
 namespace kelvora {
@@ -130,9 +131,7 @@ const std::array kReaders = {
 class LargeFile : public testing::TestWithParam<Reader> {};
 
 TEST_P(LargeFile, IsTakenWholeInThreeTimesItsSize) {
-#if defined(KELVORA_SANITIZED)
-  GTEST_SKIP() << "this build needs memory for its own bookkeeping";
-#endif
+  if (UnderSanitizers()) GTEST_SKIP() << "these need memory for their own bookkeeping";
   TestProgram test;
   Program& program = test.program;
   test.OpenDay("Anna");
@@ -149,9 +148,7 @@ TEST_P(LargeFile, IsTakenWholeInThreeTimesItsSize) {
 }
 
 TEST_P(LargeFile, ThatMemoryCannotHoldIsAFailureLikeAnyOther) {
-#if defined(KELVORA_SANITIZED)
-  GTEST_SKIP() << "this build ends the process instead";
-#endif
+  if (UnderSanitizers()) GTEST_SKIP() << "these end the process instead";
   TestProgram test;
   Program& program = test.program;
   test.OpenDay("Anna");

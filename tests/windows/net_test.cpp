@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 #include <stdexcept>
-#ifdef KELVORA_SANITIZED
-#include <sanitizer/lsan_interface.h>
-#endif
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -21,6 +18,7 @@
 #include "platform/qt/guarded_application.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/text_table_model.h"
+#include "support/sanitizers.h"
 #include "support/test_program.h"
 
 namespace kelvora {
@@ -47,10 +45,8 @@ class FailingWindow : public QWidget {
 };
 
 class Net : public testing::Test {
-#ifdef KELVORA_SANITIZED
   // The toolkit's own frames clean up nothing when an exception goes through them.
-  __lsan::ScopedDisabler no_leak_counts_;
-#endif
+  const NoLeakCounts no_leak_counts_;
 
  protected:
   Net() {
