@@ -98,5 +98,10 @@ TEST(PlainTips, BreakLinesBetweenWords) {
   }
 }
 
+TEST(PlainTips, KeepTheLinesThatTheTextHas) {
+  const QString words = QStringLiteral("a line of some words\n").repeated(5).trimmed();
+  EXPECT_EQ(QTextDocumentFragment::fromHtml(PlainTip(words)).toPlainText(), words);
+}
+
 }  // namespace
 }  // namespace kelvora

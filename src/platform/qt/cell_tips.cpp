@@ -32,7 +32,8 @@ bool CellTips::IsCut(const QStyleOptionViewItem& option, const QModelIndex& inde
 
 QString PlainTip(const QString& text) {
   const QFont font = QToolTip::font();
-  QTextLayout layout(text, font);
+  // The layout takes no "\n" for the end of a line.
+  QTextLayout layout(QString(text).replace('\n', QChar::LineSeparator), font);
   QTextOption wrapping;
   wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   layout.setTextOption(wrapping);
@@ -44,7 +45,7 @@ QString PlainTip(const QString& text) {
       break;
     }
     line.setLineWidth(kLetters * QFontMetrics(font).averageCharWidth());
-    lines << text.mid(line.textStart(), line.textLength());
+    lines << text.mid(line.textStart(), line.textLength()).remove('\n');
   }
   layout.endLayout();
   // A tip that looks like markup would be taken for it; so all of them are markup.
