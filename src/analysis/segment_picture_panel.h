@@ -37,9 +37,4 @@ class SegmentPicture : public QWidget {
   QPixmap drawing_;  // null while it has to be made anew
 };
 
-// Where a place in twips lies in such a picture, in pixels: the middle of its column or row.
-[[nodiscard]] constexpr double PictureMiddle(double twips) {
-  return twips / kTwipsPerPixel + 0.5;
-}
-
 }  // namespace kelvora

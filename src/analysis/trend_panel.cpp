@@ -15,7 +15,8 @@ namespace {
 constexpr int kTopStrip = 8;
 constexpr int kSide = 8;
 constexpr int kGap = 4;
-constexpr int kDateGap = 10;  // between two dates
+constexpr int kDateGap = 10;    // between two dates
+constexpr int kDateMargin = 4;  // digits differ in width
 constexpr int kLeastChart = 90;
 
 // The percentages beside the grid. Each is printed from its top left corner on.
@@ -49,7 +50,7 @@ class DateStrip : public QWidget {
     setFixedHeight(fontMetrics().height());
   }
   [[nodiscard]] int LabelWidth() const {
-    return fontMetrics().horizontalAdvance(QStringLiteral("88-88-88"));
+    return fontMetrics().horizontalAdvance(QStringLiteral("88-88-88")) + kDateMargin;
   }
   struct Date {
     int left;
@@ -64,8 +65,7 @@ class DateStrip : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     for (const auto& [left, text] : dates_) {
-      painter.drawText(QRect(left, 0, LabelWidth(), height()), Qt::AlignCenter,
-                       fontMetrics().elidedText(text, Qt::ElideRight, LabelWidth()));
+      painter.drawText(QRect(left, 0, LabelWidth(), height()), Qt::AlignCenter, text);
     }
   }
 

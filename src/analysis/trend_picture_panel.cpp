@@ -8,6 +8,7 @@
 #include <QToolTip>
 
 #include "analysis/chart_look_panel.h"
+#include "analysis/segment_pixels.h"
 #include "analysis/trend_days.h"
 #include "platform/qt/cell_tips.h"
 

@@ -25,6 +25,8 @@ constexpr std::array kFrameRows = {
     FrameRow{kFrameOtherNutrients, 5, 8},
 };
 
+constexpr std::size_t kLowFrame = 1;
+
 constexpr int kBarWidth = 22;
 constexpr int kBarHeight = 10;
 constexpr int kGap = 6;
@@ -61,13 +63,17 @@ TrendTicksPanel::TrendTicksPanel(QWidget* parent) : QWidget(parent) {
   auto* const layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
+  std::array<QVBoxLayout*, kFrames> columns;
   for (std::size_t frame = 0; frame < kFrames; ++frame) {
     Pic_trendlijnen_[frame] = BuildFrame(frame);
-    layout->addWidget(Pic_trendlijnen_[frame]);
+    columns[frame] = new QVBoxLayout;
+    columns[frame]->addWidget(Pic_trendlijnen_[frame]);
+    layout->addLayout(columns[frame]);
   }
-  Teken_dag_ = NewTick(QStringLiteral("Teken_dag"), TrendTicks{}.Teken_dag);
-  layout->addWidget(Teken_dag_, 0, Qt::AlignBottom);
   layout->addStretch();
+  // Below the frame that leaves room.
+  Teken_dag_ = NewTick(QStringLiteral("Teken_dag"), TrendTicks{}.Teken_dag);
+  columns[kLowFrame]->addWidget(Teken_dag_);
 }
 
 QGroupBox* TrendTicksPanel::BuildFrame(std::size_t frame) {

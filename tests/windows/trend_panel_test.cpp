@@ -298,6 +298,7 @@ TEST_F(TrendPictures, CutNoWordsInEitherLanguage) {
     if (dutch) Make_Taal_Dutch(test.program.texts);
     panel.SetWords(test.program.texts);
     PictureOf(panel, kSmallest, 1);
+    EXPECT_EQ(panel.size(), kSmallest);  // it needs no more
     for (const QCheckBox* const box : panel.findChildren<QCheckBox*>()) {
       EXPECT_GE(box->width(), box->sizeHint().width()) << box->text().toStdString();
       EXPECT_FALSE(box->toolTip().isEmpty());
