@@ -59,6 +59,15 @@ struct ConsumptionView : WindowView {
   virtual void SelectLastRow() {}
 };
 
+// The two foods of the comparison.
+enum class CompareBox { first, second };
+inline constexpr std::array kCompareBoxes = {CompareBox::first, CompareBox::second};
+
+struct ComparisonView : WindowView {
+  // Takes the text of a drag into a box, as a drop on it does.
+  virtual void TakeFood(CompareBox box, std::string_view payload) = 0;
+};
+
 struct FoodListsView : WindowView {
   // Shows the standard list from its first category on.
   virtual void Toon_Standaardlijst() = 0;
@@ -71,16 +80,18 @@ struct FoodListsView : WindowView {
   virtual void CORE_New_Item() {}
   virtual void CORE_Del_Item() {}
   virtual void AddSelectedToDay(DayPart) {}
+  virtual void CompareSelected(CompareBox) {}
 };
 
 // Which entries of the main window's food menu may be chosen while it stands open for a row of a
-// food list; the last for all three day parts.
+// food list; `day_parts` for all three, `compare` for both boxes of the comparison.
 struct FoodMenu {
   bool del = false;
   bool add = false;
   bool info = false;
   bool favourite = false;
   bool day_parts = false;
+  bool compare = false;
   bool operator==(const FoodMenu&) const = default;
 };
 
@@ -165,7 +176,7 @@ struct OpenWindows {
   DaySummaryView* day_summary = nullptr;
   MultiDayView* multi_day = nullptr;
   DiaryView* diary = nullptr;
-  WindowView* comparison = nullptr;
+  ComparisonView* comparison = nullptr;
   WindowView* food_details = nullptr;
   WizardView* wizard = nullptr;
   WindowView* properties = nullptr;  // the settings dialog

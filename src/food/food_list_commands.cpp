@@ -154,6 +154,7 @@ FoodMenu FoodMenuFor(const Program& program, FoodView view, std::size_t selected
   if (selected > 1) return {};
   FoodMenu menu = selected == 0 ? RowOf(view).with_none : RowOf(view).with_one;
   menu.day_parts = selected == 1 && program.store.DayIsOpen();
+  menu.compare = selected == 1 && program.windows.comparison != nullptr;
   return menu;
 }
 
@@ -177,6 +178,12 @@ void AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
   if (!program.store.DayIsOpen() || rows.empty()) return;
   const Text payload = lists.DragPayload(view, rows);
   if (!payload.empty()) DropOnDayPart(program, part, payload);
+}
+
+void CompareRow(Program& program, FoodLists& lists, FoodView view, std::size_t row,
+                CompareBox box) {
+  if (program.windows.comparison == nullptr || row >= lists.Count(view)) return;
+  program.windows.comparison->TakeFood(box, lists.DragPayload(view, {row}));
 }
 
 void ChooseServer(Program& program, std::string_view choice) {

@@ -54,6 +54,9 @@ void OpenFoodMenu(Program& program, FoodView view, std::size_t selected, ScreenP
 void AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
                   const std::vector<std::size_t>& rows, DayPart part);
 
+// Puts the food of a row into a box of the comparison, if that window is open.
+void CompareRow(Program& program, FoodLists& lists, FoodView view, std::size_t row, CompareBox box);
+
 // Lets `opt_server` be "0", the Dutch food server, or "1", the English one, and saves the settings.
 void ChooseServer(Program& program, std::string_view choice);
 [[nodiscard]] bool UsesEnglishServer(const Program& program);

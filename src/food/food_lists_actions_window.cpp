@@ -58,4 +58,9 @@ void FoodListsWindow::AddSelectedToDay(DayPart part) {
   AddRowsToDay(program_, lists_, View(), TableOf(View()).SelectedRows(), part);
 }
 
+void FoodListsWindow::CompareSelected(CompareBox box) {
+  const auto row = TableOf(View()).RowInFocus();
+  if (row) CompareRow(program_, lists_, View(), *row, box);
+}
+
 }  // namespace kelvora

@@ -42,6 +42,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void CORE_New_Item() override;
   void CORE_Del_Item() override;
   void AddSelectedToDay(DayPart part) override;
+  void CompareSelected(CompareBox box) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

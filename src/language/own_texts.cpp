@@ -112,6 +112,10 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::diary_cut, "Text cut short"_w, "Tekst ingekort"_w},
     OwnTextRow{OwnText::diary_cut_tip, "Not all of the text had room; its end was left out."_w,
                "Niet alle tekst paste; het einde is weggelaten."_w},
+    OwnTextRow{OwnText::compare_as_food_1, "Compare as food item 1"_w,
+               "Vergelijk als voedingsmiddel 1"_w},
+    OwnTextRow{OwnText::compare_as_food_2, "Compare as food item 2"_w,
+               "Vergelijk als voedingsmiddel 2"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -74,6 +74,9 @@ enum class OwnText {
   diary_save_first,
   diary_cut,
   diary_cut_tip,
+  // What the rows of a food list can be compared as.
+  compare_as_food_1,
+  compare_as_food_2,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -87,6 +90,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 47;
+inline constexpr int kOwnTextCount = 49;
 
 }  // namespace kelvora

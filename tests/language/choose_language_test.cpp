@@ -61,6 +61,11 @@ struct ListeningMultiDay : Listening<MultiDayView> {
   void Refresh_Meerdaagsuittreksel() override {}
 };
 
+struct ListeningComparison : Listening<ComparisonView> {
+  using Listening::Listening;
+  void TakeFood(CompareBox, std::string_view) override {}
+};
+
 struct ListeningDiary : Listening<DiaryView> {
   using Listening::Listening;
   void Refresh_Tekst() override {}
@@ -84,8 +89,8 @@ class LanguageOfTheWindows : public testing::Test {
 TEST_F(LanguageOfTheWindows, AChoiceReachesTheMainWindowTheSettingsAndEachOpenWindowInOrder) {
   ListeningCore core(notes);
   Listening<WindowView> properties("properties", notes), details("details", notes),
-      comparison("comparison", notes), day_settings("day settings", notes),
-      export_html("export", notes);
+      day_settings("day settings", notes), export_html("export", notes);
+  ListeningComparison comparison("comparison", notes);
   ListeningMultiDay multi_day("multi-day", notes);
   ListeningDiary diary("diary", notes);
   ListeningBrowser browser("browser", notes);

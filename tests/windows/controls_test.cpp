@@ -131,6 +131,30 @@ StatusBar |  |
 )");
 }
 
+TEST_F(ControlsOfADay, OfTheComparison) {
+  window.OpenWindow(WindowId::comparison);
+  ExpectControls(Child("KV_tb_weegschaal"), R"(
+KV_tb_weegschaal | Food comparison |
+TabStrip | Food comparison |
+page_a |  |
+Frame_1_1_a | Food item 1: |
+Pic_drop_1 | Drag food item 1 to this field | Drag food item 1 to this field
+Frame_2_1_a | Food item 2: |
+Pic_drop_2 | Drag food item 2 to this field | Drag food item 2 to this field
+Frame_1_2_a | Details 1: |
+Frame_2_2_a | Details 2: |
+page_b |  |
+Frame_1_1_b | Food item 1: |
+Pic_drop_1_b | Drag food item 1 to this field | Drag food item 1 to this field
+Frame_2_1_b | Food item 2: |
+Pic_drop_2_b | Drag food item 2 to this field | Drag food item 2 to this field
+Frame_1_2_b | Details 1 (per 100 grams) |
+Frame_2_2_b | Details 2 (per 100 grams) |
+page_help |  |
+Frame_hulp | Help |
+)");
+}
+
 TEST_F(Controls, OfTheDetailsOfAFood) {
   // Without food there is nothing to share: 0 of 0 grams.
   const FoodDetailsDialog dialog(program, "zoeken", LineOf({.product = "Water", .unit = "1 glass"}),

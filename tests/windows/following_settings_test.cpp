@@ -59,6 +59,8 @@ class Windows {
     ApplyChosenArrangement(program);
     main_.OpenWindow(WindowId::diary);
     main_.OpenWindow(WindowId::day_summary);
+    main_.OpenWindow(WindowId::comparison);
+    program.windows.comparison->TakeFood(CompareBox::first, "add-" + LineOf(kOats) + "\xBE");
     main_.UpdateCommands();
     browser_ = std::make_unique<BrowserDialog>(program, &main_);
     browser_->Open();

@@ -105,6 +105,9 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
   ApplyChosenArrangement(test.program);
   window.OpenWindow(WindowId::diary);
   window.OpenWindow(WindowId::day_summary);
+  window.OpenWindow(WindowId::comparison);
+  test.program.windows.comparison->TakeFood(
+      CompareBox::first, "add-" + Text(test.program.store.L_ochtend[0]) + "\xBE");
   window.UpdateStatusBar();
   QApplication::processEvents();
   auto* const summary = window.findChild<QWidget*>("KV_tb_daguittreksel");

@@ -257,6 +257,18 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
           ->click();
       Look(window, 100);
     }
+    window.OpenWindow(WindowId::comparison);
+    for (const CompareBox box : kCompareBoxes) {
+      program.windows.comparison->TakeFood(
+          box,
+          "add-" + LineOf({.product = "Oats", .gram = "85", .kj = "937", .kcal = "224"}) + "\xBE");
+    }
+    auto* const tabs = window.findChild<QWidget*>(QStringLiteral("KV_tb_weegschaal"))
+                           ->findChild<QTabWidget*>(QStringLiteral("TabStrip"));
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+      tabs->setCurrentIndex(tab);
+      Look(window, 100);
+    }
   });
 }
 

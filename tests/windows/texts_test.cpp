@@ -124,6 +124,9 @@ class WindowTexts : public testing::Test {
     ApplyChosenArrangement(program);
     window.OpenWindow(WindowId::diary);
     window.OpenWindow(WindowId::day_summary);
+    window.OpenWindow(WindowId::comparison);
+    program.windows.comparison->TakeFood(CompareBox::first,
+                                         "add-" + Text(program.store.Default_list[0]) + "\xBE");
     window.UpdateCommands();
     window.UpdateStatusBar();
     QApplication::processEvents();

@@ -62,7 +62,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_uit_daguittreksel, Needs::day},
     NotServed(Command::mnu_uit_meerdaagsuittreksel, Needs::user),
     CommandRow{Command::mnu_voedingswaarde_tabel, Needs::user},
-    NotServed(Command::mnu_weegschaal, Needs::nothing, Needs::user),
+    CommandRow{Command::mnu_weegschaal, Needs::nothing, Needs::user},
     CommandRow{Command::mnu_website_Etenlijn, Needs::nothing},
     CommandRow{Command::mnu_reset_taal, Needs::nothing},
     CommandRow{Command::mnu_diagnose, Needs::nothing},

@@ -1,4 +1,5 @@
 // Which window or dialog the main window makes for each of those that the program has.
+#include "analysis/comparison_window.h"
 #include "analysis/day_summary_window.h"
 #include "analysis/diary_window.h"
 #include "core/frame/child_area_panel.h"
@@ -35,9 +36,10 @@ void MainWindow::OpenWindow(WindowId id) {
                        {PixelsCovering(kDiaryMinimumWidth), PixelsCovering(kDiaryMinimumHeight)});
     case WindowId::day_summary:
       return OpenChild(id, new DaySummaryWindow(program_, area_), "summary");
+    case WindowId::comparison:
+      return OpenChild(id, new ComparisonWindow(program_, area_), "compare");
     case WindowId::food_details:
     case WindowId::multi_day:
-    case WindowId::comparison:
       return;
   }
 }

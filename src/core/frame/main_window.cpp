@@ -14,6 +14,7 @@
 #include "core/frame/data_window.h"
 #include "food/day_part_menu_panel.h"
 #include "language/main_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_letter.h"
 #include "platform/qt/text.h"
@@ -98,36 +99,47 @@ void MainWindow::BuildMenu() {
   }
 }
 
-// As a popup for a row of a food list the menu also adds that row to the day.
+// As a popup for a row of a food list the menu also adds that row to the day and compares it.
 void MainWindow::BuildFoodMenu() {
   mnu_opties_ = menuBar()->findChild<QMenu*>(QStringLiteral("mnu_opties"));
   mnu_opties_->addSeparator();  // not drawn while nothing stands below it
   day_part_actions_ = AddDayPartActions(mnu_opties_, [this](DayPart part) {
     if (program_.windows.lists != nullptr) program_.windows.lists->AddSelectedToDay(part);
   });
-  ShowDayPartItems();
+  mnu_opties_->addSeparator();
+  for (const CompareBox box : kCompareBoxes) {
+    QAction* const action = mnu_opties_->addAction(IconNamed("compare"), QString());
+    const auto place = static_cast<std::size_t>(box);
+    action->setObjectName(QStringLiteral("mnu_opties_compare_%1").arg(place + 1));
+    connect(action, &QAction::triggered, this, [this, box] {
+      if (program_.windows.lists != nullptr) program_.windows.lists->CompareSelected(box);
+    });
+    compare_actions_[place] = action;
+  }
+  ShowRowItems();
   // The menu hides before the chosen entry acts, and until then its table holds.
   connect(
       mnu_opties_, &QMenu::aboutToHide, this,
       [this] {
         program_.windows.food_menu.reset();
-        ShowDayPartItems();
+        ShowRowItems();
         UpdateCommands();
       },
       Qt::QueuedConnection);
 }
 
-void MainWindow::ShowDayPartItems() {
+void MainWindow::ShowRowItems() {
   const auto& menu = program_.windows.food_menu;
   for (QAction* const action : day_part_actions_) {
     action->setVisible(menu.has_value());
     action->setEnabled(menu && menu->day_parts);
   }
+  for (QAction* const action : compare_actions_) action->setVisible(menu && menu->compare);
 }
 
 void MainWindow::PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) {
   program_.windows.food_menu = enabled;
-  ShowDayPartItems();
+  ShowRowItems();
   UpdateCommands();
   mnu_opties_->popup({place.x, place.y});
 }
@@ -229,6 +241,8 @@ void MainWindow::Set_Taal() {
                    TipOf(program_, entry.row->command, std::nullopt));
   }
   SetDayPartTexts(day_part_actions_, texts);
+  SetActionTexts(compare_actions_[0], OwnTextOf(texts, OwnText::compare_as_food_1), {});
+  SetActionTexts(compare_actions_[1], OwnTextOf(texts, OwnText::compare_as_food_2), {});
   Toolbar_quickscreens_->setAccessibleName(ToQt(texts[main_text::kQuickToolbarName]));
   menu_toolbar_->setAccessibleName(ToQt(texts[main_text::kToolbarName]));
   area_->setAccessibleName(ToQt(texts[main_text::kChildAreaName]));

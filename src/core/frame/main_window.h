@@ -76,7 +76,7 @@ class MainWindow : public QMainWindow, public CoreView {
   QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
   void AddDropDown(QToolButton* button, Command drop_down);
   void BuildFoodMenu();
-  void ShowDayPartItems();
+  void ShowRowItems();
   void BuildStatusBar();
   void LayStatusBar();
   void BuildDataButton();
@@ -90,6 +90,7 @@ class MainWindow : public QMainWindow, public CoreView {
   QMenu* mnu_opties_ = nullptr;
   // Entries of mnu_opties that are there only while it stands open for a row of a food list.
   std::array<QAction*, 3> day_part_actions_{};
+  std::array<QAction*, kCompareBoxes.size()> compare_actions_{};
   std::vector<ItemAction> item_actions_;
   std::vector<ButtonAction> button_actions_;
   std::vector<DropDownAction> drop_down_actions_;
