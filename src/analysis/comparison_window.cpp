@@ -31,6 +31,7 @@ constexpr std::array kHelp = {kHelpAbout, kHelpSteps, kHelpDropFood1, kHelpDropF
 constexpr int kEdge = 3;
 constexpr int kMargin = 6;
 constexpr int kGap = 4;
+constexpr int kRowGap = 3;
 
 constexpr QChar kPerUnitTab = 'a';
 constexpr QChar kPer100Tab = 'b';
@@ -111,7 +112,7 @@ void ComparisonWindow::BuildDetails(Column& column, std::size_t box, QChar tab) 
   auto* const grid = new QGridLayout(frame);
   grid->setContentsMargins(kMargin, kGap, kMargin, kGap);
   grid->setHorizontalSpacing(kGap);
-  grid->setVerticalSpacing(0);
+  grid->setVerticalSpacing(kRowGap);
   grid->setColumnStretch(1, 1);
   const QString name = QStringLiteral("var_%1%2_%3").arg(box + 1).arg(tab);
   int line = 0;
