@@ -17,6 +17,7 @@ from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
 
 AFTERNOON = (800, 420)
 AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
+FIELD_1, FIELD_2 = (638, 345), (817, 345)
 # What differs from English in making a user and a day.
 WORDS = {"nederlands": {"title": "Begin een nieuwe dag"}}
 # The arrangement with the small summary, and the buttons of the summary and the diary.
@@ -124,6 +125,21 @@ def take_foods(desktop, folder, stem):
     desktop.no_window(DETAILS)
 
 
+def take_comparison(desktop, folder, stem):
+    """The three tabs of the comparison, which its command opens and closes again."""
+    command = ["F10", *["Right"] * 5, "Return"]
+    desktop.keys(*command)
+    for number, field in [(0, FIELD_1), (3, FIELD_2)]:
+        desktop.click(row(number))
+        desktop.drag(row(number), field)
+    desktop.click(FIELD_1)
+    desktop.keys("shift+Tab")  # to the tabs
+    for tab in (1, 2, 3):
+        take(desktop, folder / f"comparison_{tab}_{stem}.png")
+        desktop.keys("Right")
+    desktop.keys(*command)
+
+
 def take_summary(desktop, folder, stem):
     """The small summary below the food lists, the four panels of the large one, the diary. There are
     enough foods for a pie."""
@@ -169,6 +185,7 @@ def main():
         desktop.click(MORNING_TOTALS)
         take(desktop, folder / f"main_window_{stem}.png")
         take_foods(desktop, folder, stem)
+        take_comparison(desktop, folder, stem)
         take_summary(desktop, folder, stem)
         desktop.keys("ctrl+s")
         desktop.keys("ctrl+o")
