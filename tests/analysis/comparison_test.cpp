@@ -175,6 +175,7 @@ TEST_F(Comparison, KeepsTheValuesPer100GramsOfTheFoodBeforeAWeightlessOne) {
   EXPECT_EQ(First().var_na[2], "5");
   EXPECT_EQ(First().var_nb, kPer100);
   EXPECT_EQ(First().ounces_a, "8.8");
+  EXPECT_TRUE(test.boxes.shown.empty());
 }
 
 TEST_F(Comparison, ShowsAShortLineAsFarAsItGoes) {

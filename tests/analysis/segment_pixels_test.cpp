@@ -68,6 +68,12 @@ TEST(SegmentPixels, HaveSmoothEdges) {
   EXPECT_EQ(At(pixels, 10, 3), kGround);
 }
 
+// Measured across the line: at half a right angle a column of it is 1.41 pixels high.
+TEST(SegmentPixels, AreAsThickAtAnyAngle) {
+  const Pixels pixels = PaintSegments({Piece(0, 0, 150, 150)}, 21, 11, 1);
+  EXPECT_EQ(Row(pixels, 5), "....+#+..............");
+}
+
 TEST(SegmentPixels, DrawDayLinesOnceBehindTheLines) {
   const TrendSegment day{SegmentKind::day, kChartGrey, 150, 0, 150, 150};
   const Pixels pixels = PaintSegments(
@@ -111,6 +117,14 @@ TEST(SegmentPixels, BridgeAGapInADenseLine) {
   EXPECT_EQ(At(pixels, 10, 5), kBlue);
   EXPECT_EQ(At(pixels, 20, 10), kBlue);
   EXPECT_EQ(At(pixels, 10, 2), kGround);
+}
+
+TEST(SegmentPixels, LeaveNoHoleInASteepPieceOfADenseLine) {
+  std::vector<TrendSegment> pieces;
+  for (int i = 0; i < 40; ++i) pieces.push_back(Piece(0, 0, 0, 0));
+  pieces.push_back(Piece(0, 0, 30, 150));
+  const Pixels pixels = PaintSegments(pieces, 21, 11, 1);
+  for (int y = 0; y < 11; ++y) EXPECT_NE(Row(pixels, y).find('#'), std::string::npos) << y;
 }
 
 TEST(SegmentPixels, KeepLinesOfOneColourApart) {

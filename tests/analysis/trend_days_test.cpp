@@ -156,13 +156,15 @@ TEST_F(TrendDays, SayADashForWhatIsMissing) {
 
 TEST_F(TrendDays, SayWhatIsStoredWhereNoNumberIsSoLarge) {
   days = DaysOfDates({"040312"});
-  const Text huge(400, '9');
-  for (auto& texts : days.L_data_1) texts[0] = huge;
-  for (const char* const system : {"0", "1", "2"}) {
-    test.program.settings[Setting::opt_system] = system;
-    test.program.settings[Setting::opt_gramoz] = "1";
-    for (std::size_t line = 0; line < kTrendLines.size(); ++line) {
-      EXPECT_NE(WordsOf(line).find(huge), Text::npos) << line;
+  // Beyond a single, and beyond any number.
+  for (const Text& huge : {Text(60, '9'), Text(400, '9')}) {
+    for (auto& texts : days.L_data_1) texts[0] = huge;
+    for (const char* const system : {"0", "1", "2"}) {
+      test.program.settings[Setting::opt_system] = system;
+      test.program.settings[Setting::opt_gramoz] = "1";
+      for (std::size_t line = 0; line < kTrendLines.size(); ++line) {
+        EXPECT_NE(WordsOf(line).find(huge), Text::npos) << line;
+      }
     }
   }
   EXPECT_TRUE(test.boxes.shown.empty());
