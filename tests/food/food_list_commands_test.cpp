@@ -269,28 +269,6 @@ TEST_F(FoodListCommands, TheMenuOffersWhatTheViewAllows) {
   EXPECT_FALSE(menu(FoodView::own, 1).day_parts);
 }
 
-TEST_F(FoodListCommands, ARowGoesIntoTheOpenComparison) {
-  struct : ComparisonView {
-    void CloseWindow() override {}
-    void Set_Taal() override {}
-    void TakeFood(CompareBox box, std::string_view payload) override {
-      taken.emplace_back(box, payload);
-    }
-    std::vector<std::pair<CompareBox, Text>> taken;
-  } comparison;
-  AddOwn({"Pie", "Stew"});
-  EXPECT_FALSE(FoodMenuFor(program, FoodView::own, 1).compare);
-  CompareRow(program, lists, FoodView::own, 1, CompareBox::second);  // it is closed
-  program.windows.comparison = &comparison;
-  EXPECT_TRUE(FoodMenuFor(program, FoodView::own, 1).compare);
-  EXPECT_FALSE(FoodMenuFor(program, FoodView::own, 0).compare);
-  CompareRow(program, lists, FoodView::own, 1, CompareBox::second);
-  CompareRow(program, lists, FoodView::own, 2, CompareBox::first);  // there is no such row
-  ASSERT_EQ(comparison.taken.size(), 1u);
-  EXPECT_EQ(comparison.taken[0].first, CompareBox::second);
-  EXPECT_EQ(comparison.taken[0].second, "add-" + LineOf({.product = "Stew"}) + kLineEnd);
-}
-
 TEST_F(FoodListCommands, TheMenuOpensForOneRowAndWarnsOfSeveral) {
   OpenFoodMenu(program, FoodView::own, 1, {});
   OpenFoodMenu(program, FoodView::own, 0, {});
