@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <limits>
+#include <numeric>
 #include <random>
 
 namespace kelvora {
@@ -27,6 +29,48 @@ TEST(ExchangeSort, LeavesItsOwnOrderOfEqualKeys) {
   EXPECT_EQ(ExchangeSorted({2, 1, 1}, NeverStop), (Places{1, 2, 0}));
   EXPECT_EQ(ExchangeSorted({}, NeverStop), Places{});
   EXPECT_EQ(ExchangeSorted({7}, NeverStop), Places{0});
+}
+
+// The rule itself, step by step.
+Places ByTheRule(std::vector<double> keys) {
+  Places places(keys.size());
+  std::iota(places.begin(), places.end(), std::size_t{0});
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    for (std::size_t j = 0; j < keys.size(); ++j) {
+      if (i == j || !(keys[i] < keys[j])) continue;
+      std::swap(keys[i], keys[j]);
+      std::swap(places[i], places[j]);
+    }
+  }
+  return places;
+}
+
+TEST(ExchangeSort, LeavesTheOrderOfThePlainLoops) {
+  std::mt19937 random(15);
+  for (int round = 0; round < 3000; ++round) {
+    std::vector<double> keys(random() % 40);
+    const unsigned different = 1 + random() % 40;
+    for (double& key : keys) key = static_cast<double>(random() % different) - 3;
+    EXPECT_EQ(ExchangeSorted(keys, NeverStop), ByTheRule(keys)) << round;
+  }
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const std::vector<double> odd = {0.0, kInfinity, -0.0, 1, -kInfinity, kInfinity, 0.0, -1, 1};
+  EXPECT_EQ(ExchangeSorted(odd, NeverStop), ByTheRule(odd));
+  const std::vector<double> many = ManyTies(1500, 2);
+  EXPECT_EQ(ExchangeSorted(many, NeverStop), ByTheRule(many));
+}
+
+TEST(ExchangeSort, TakesLongListsWhateverTheirTies) {
+  // The plain loops would compare 4 * 10^10 pairs each.
+  std::mt19937 random(16);
+  for (const unsigned different : {1u, 2u, 450u, 200'000u}) {
+    std::vector<double> keys(200'000);
+    for (double& key : keys) key = static_cast<double>(random() % different);
+    Places places = ExchangeSorted(keys, NeverStop);
+    EXPECT_TRUE(std::ranges::is_sorted(places, {}, [&](std::size_t i) { return keys[i]; }));
+    std::ranges::sort(places);
+    for (std::size_t i = 0; i < places.size(); ++i) ASSERT_EQ(places[i], i);
+  }
 }
 
 TEST(ExchangeSort, PausesOnceAPassAndSortsAnything) {
