@@ -8,6 +8,7 @@
 #include "core/common.h"
 #include "days/day_form.h"
 #include "language/browse_texts.h"
+#include "nutrition/dates.h"
 #include "nutrition/numbers.h"
 #include "nutrition/totals.h"
 #include "storage/folders.h"
@@ -125,16 +126,6 @@ Text BrowsedWeight(Program& program, Text kilograms) {
   if (system == UnitSystem::imperial_uk) kilograms = Kg_To_Stones(kilograms, units);
   return FormatNumber(ReadStoredNumber(kilograms),
                       system == UnitSystem::imperial_uk ? "#0.0" : "#0.00", separator);
-}
-
-Text DateKeyOf(std::string_view stored_date) {
-  Text digits(stored_date);
-  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
-  const Text day_and_month = digits.substr(0, 4);
-  const auto last_two = [](const Text& text) {
-    return text.substr(text.size() - std::min<std::size_t>(2, text.size()));
-  };
-  return last_two(digits) + last_two(day_and_month) + day_and_month.substr(0, 2);
 }
 
 DayList ReadDays(Program& program, const std::function<bool()>& overtaken) {

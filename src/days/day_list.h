@@ -33,10 +33,6 @@ struct DayRow {
 // A stored weight as the list and the profile pane show it, in the unit of the settings.
 [[nodiscard]] Text BrowsedWeight(Program& program, Text kilograms);
 
-// The key that puts stored dates (dd-mm-yy) in order: year, month and day as one text. Years count
-// with their two digits: 99 comes after 04. Marks and blanks don't matter.
-[[nodiscard]] Text DateKeyOf(std::string_view stored_date);
-
 // The days of one user and what could not be read of them.
 struct DayList {
   std::vector<DayRow> rows;

@@ -21,13 +21,26 @@ std::array<int, 3> PairsOf(std::string_view digits) {
   return {pair(0), pair(2), pair(4)};
 }
 
+Text WithoutMarks(std::string_view stored_date) {
+  Text digits(stored_date);
+  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
+  return digits;
+}
+
 }  // namespace
 
 StoredDate ParseStoredDate(std::string_view text) {
-  Text digits(text);
-  std::erase_if(digits, [](char c) { return c == '-' || c == '/' || c == '\\' || c == ' '; });
-  const auto [day, month, year] = PairsOf(digits);
+  const auto [day, month, year] = PairsOf(WithoutMarks(text));
   return {day, month, year};
+}
+
+Text DateKeyOf(std::string_view stored_date) {
+  const Text digits = WithoutMarks(stored_date);
+  const Text day_and_month = digits.substr(0, 4);
+  const auto last_two = [](const Text& text) {
+    return text.substr(text.size() - std::min<std::size_t>(2, text.size()));
+  };
+  return last_two(digits) + last_two(day_and_month) + day_and_month.substr(0, 2);
 }
 
 int DaysOfYearMonthDay(std::string_view text) {

@@ -23,6 +23,11 @@ struct StoredDate {
 // otherwise. An empty text stays empty. Throws std::system_error.
 [[nodiscard]] Text FormatStoredDate(std::string_view text, std::string_view opt_system);
 
+// The key that puts stored dates (dd-mm-yy) in order: year, month and day as one text, "040305" for
+// 05-03-04. Years count with their two digits: 99 comes after 04. Marks and blanks don't matter; of
+// another text it is what stands in the places of the six digits.
+[[nodiscard]] Text DateKeyOf(std::string_view stored_date);
+
 // The days since a fixed one of the date written as yymmdd, of the years 2000 to 2099. Throws
 // std::system_error for anything that is no date.
 [[nodiscard]] int DaysOfYearMonthDay(std::string_view text);
