@@ -13,7 +13,7 @@
 
 namespace kelvora {
 
-enum class AnalysisView { requirements, top5, consumptions, bmi };
+enum class AnalysisView { trend, requirements, top5, consumptions, bmi };
 
 // Entries by position; nothing is a separator.
 using AnalysisMenu = std::span<const std::optional<TextId>>;
@@ -28,21 +28,26 @@ struct AnalysisButton {
   AnalysisMenu menu;
 };
 
-// From left to right; their indexes begin with 1.
+// From left to right; their indexes begin with 1, and the first is down when the window opens.
 [[nodiscard]] std::span<const AnalysisButton> DaySummaryButtons();
+[[nodiscard]] std::span<const AnalysisButton> MultiDayButtons();
+[[nodiscard]] std::span<const AnalysisButton> ButtonsOf(AnalysisWindow window);
 
-// Take the choice at a position of the menu of the requirements, and of that of the pie. A position
-// that means nothing changes nothing.
+// Take the choice at a position of the menu of the requirements, of that of the pie, and of that of
+// the trend. A position that means nothing changes nothing.
 void ChooseRequirements(RequirementState& state, int position);
 void ChooseNutrient(AnalysisState& state, int position);
+void ChooseTimeLine(float& tijdlijn_stand, int position);
 
 // The positions whose choice holds now.
 [[nodiscard]] std::array<int, 2> ChosenRequirements(const RequirementState& state);
 [[nodiscard]] int ChosenNutrient(const AnalysisState& state);
+[[nodiscard]] int ChosenTimeLine(float tijdlijn_stand);
 
-// The second panel of the status bar of the day summary; nothing for the view of the body-mass
-// index, which leaves it as it is.
-[[nodiscard]] std::optional<Text> StatusOf(const Program& program, AnalysisView view,
-                                           const RequirementState& state, std::size_t row_count);
+// The second panel of the status bar; nothing for the view of the body-mass index, which leaves it
+// as it is.
+[[nodiscard]] std::optional<Text> StatusOf(const Program& program, AnalysisWindow window,
+                                           AnalysisView view, const RequirementState& state,
+                                           std::size_t row_count);
 
 }  // namespace kelvora

@@ -5,12 +5,11 @@
 #include <limits>
 
 #include "language/day_summary_texts.h"
+#include "language/trend_texts.h"
 #include "nutrition/numbers.h"
 
 namespace kelvora {
 namespace {
-
-using namespace day_summary_text;
 
 constexpr std::size_t kFewestRows = 6;  // five foods and something that is the rest
 constexpr std::size_t kLegendName = 30;
@@ -59,18 +58,33 @@ constexpr std::array kColumns = {
     SummaryColumn::protein, SummaryColumn::sodium, SummaryColumn::carbs,
 };
 
-constexpr Top5Words kDayWords = {
-    .headings = {kPieEnergyKj, kPieEnergyKcal, kPieUnsaturatedFat, kPieSaturatedFat, kPieProtein,
-                 kPieSodium, kPieCarbohydrates},
-    .units = {kPieUnitKj, kPieUnitKcal, kPieUnitGram, kPieUnitGram, kPieUnitGram, kPieUnitGram,
-              kPieUnitGram},
-    .beware = kNoticeBeware,
-    .only = kNoticeOnly,
-    .present = kNoticePresent,
-    .no_top5 = kNoticeNoTop5,
-    .add_food = kNoticeAddFood,
-    .rest = std::nullopt,
-};
+constexpr Top5Words DayWords() {
+  using namespace day_summary_text;
+  return {.headings = {kPieEnergyKj, kPieEnergyKcal, kPieUnsaturatedFat, kPieSaturatedFat,
+                       kPieProtein, kPieSodium, kPieCarbohydrates},
+          .units = {kPieUnitKj, kPieUnitKcal, kPieUnitGram, kPieUnitGram, kPieUnitGram,
+                    kPieUnitGram, kPieUnitGram},
+          .beware = kNoticeBeware,
+          .only = kNoticeOnly,
+          .present = kNoticePresent,
+          .no_top5 = kNoticeNoTop5,
+          .add_food = kNoticeAddFood,
+          .rest = std::nullopt};
+}
+constexpr Top5Words MultiDayWords() {
+  using namespace trend_text;
+  return {.headings = {kPieEnergyKj, kPieEnergyKcal, kPieUnsaturatedFat, kPieSaturatedFat,
+                       kPieProtein, kPieSodium, kPieCarbohydrates},
+          .units = {kPieUnitKj, kPieUnitKcal, kPieUnitGram, kPieUnitGram, kPieUnitGram,
+                    kPieUnitGram, kPieUnitGram},
+          .beware = kNoticeBeware,
+          .only = kNoticeOnly,
+          .present = kNoticePresent,
+          .no_top5 = kNoticeNoTop5,
+          .add_food = kNoticeAddFood,
+          .rest = kPieRemaining};
+}
+constexpr std::array kWords = {DayWords(), MultiDayWords()};
 
 std::size_t NutrientOf(const Top5Choice& choice) {
   return static_cast<std::size_t>(std::clamp(choice.gekozen_stof, 0, 6));
@@ -119,6 +133,21 @@ void ShareOut(float total, Top5& top5) {
       top5.lst_percentage.push_back(value * kWhole / double{total});
     }
   }
+}
+
+bool HoldsValuesOf(const Top5Choice& choice, const Top5& top5) {
+  const bool filled =
+      !top5.lst_waarden.empty() && !top5.lst_naam.empty() && !top5.lst_percentage.empty();
+  return filled && top5.gekozen_stof == choice.gekozen_stof;
+}
+
+// Values, names and shares of the rows, largest first. False if a newer run took over.
+bool FillLists(const SummaryRows& rows, const Top5Choice& choice, const Pause& pause, Top5& top5) {
+  top5.gekozen_stof = choice.gekozen_stof;
+  const float total = Collect(rows, choice, top5);
+  if (!SortByValue(pause, top5)) return false;
+  ShareOut(total, top5);
+  return true;
 }
 
 // Where the wedges of the five foods end.
@@ -187,41 +216,45 @@ int HalfOf(int length) {
 
 }  // namespace
 
-const Top5Words& DaySummaryTop5Words() {
-  return kDayWords;
+const Top5Words& Top5WordsOf(AnalysisWindow window) {
+  return kWords[static_cast<std::size_t>(window)];
 }
 
 void BuildTop5(const SummaryRows& rows, const Top5Choice& choice, const TextTables& texts,
                std::string_view separator, const Pause& pause, Top5& top5) {
   if (rows.empty() && top5.had_foods) return;
   ++top5.runs;
-  top5.lst_waarden.clear();
-  top5.lst_naam.clear();
-  top5.lst_percentage.clear();
+  const bool keeps = choice.values == Top5Values::keep && HoldsValuesOf(choice, top5);
+  if (!keeps) {
+    top5.lst_waarden.clear();
+    top5.lst_naam.clear();
+    top5.lst_percentage.clear();
+  }
   top5.lbl_soort = texts[choice.words.headings[NutrientOf(choice)]];
   top5.had_foods = !rows.empty();
   if (rows.size() < kFewestRows) return ShowNotice(rows.size(), choice.words, texts, top5);
   top5.lbl_leeg.reset();
-  const float total = Collect(rows, choice, top5);
-  if (!SortByValue(pause, top5)) return;
-  ShareOut(total, top5);
+  if (!keeps && !FillLists(rows, choice, pause, top5)) return;
   if (top5.lst_percentage.size() < kTop5Entries - 1) return;
   const std::array<float, 5> ends = Cumulate(top5.lst_percentage);
   SetLegend(Single(double{kCircle} - ends.back()), choice, texts, separator, top5);
   DrawPie(ends, kColours[NutrientOf(choice)], top5);
 }
 
-void Bouw_Top5(Program& program, const SummaryRows& rows, int gekozen_stof, Top5& top5) {
-  program.Guard("#F9-10", [&] {
+void Bouw_Top5(Program& program, AnalysisWindow window, const SummaryRows& rows, int gekozen_stof,
+               Top5& top5, Top5Values values) {
+  program.Guard(CodeOf(window, "#F9-10", "#F12-11"), [&] {
     const Text separator = program.platform.locale.DecimalSeparator();
     // A day of usual length is sorted before anybody waits, and nothing comes between a change and
-    // its picture.
+    // its picture. Several days are worked on in steps, of which this is one.
     constexpr std::size_t kLongDay = 1000;
-    const Pause pause = [&program, long_day = rows.size() > kLongDay] {
-      if (long_day) program.platform.events.Yield();
+    const bool lets_events_run = window == AnalysisWindow::day_summary && rows.size() > kLongDay;
+    const Pause pause = [&program, lets_events_run] {
+      if (lets_events_run) program.platform.events.Yield();
       return program.ending;
     };
-    BuildTop5(rows, {kDayWords, gekozen_stof}, program.texts, separator, pause, top5);
+    BuildTop5(rows, {Top5WordsOf(window), gekozen_stof, values}, program.texts, separator, pause,
+              top5);
   });
 }
 
@@ -240,10 +273,10 @@ Sector SectorOf(const Wedge& wedge, const PictureSize& picture) {
   return sector;
 }
 
-std::optional<Sector> Teken_Taartpunt(Program& program, const Wedge& wedge,
+std::optional<Sector> Teken_Taartpunt(Program& program, AnalysisWindow window, const Wedge& wedge,
                                       const PictureSize& picture) {
   std::optional<Sector> sector;
-  program.Guard("#F9-11", [&] { sector = SectorOf(wedge, picture); });
+  program.Guard(CodeOf(window, "#F9-11", "#F12-12"), [&] { sector = SectorOf(wedge, picture); });
   return sector;
 }
 

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "analysis/analysis_kind.h"
 #include "analysis/colour.h"
 #include "analysis/summary_row.h"
 #include "core/exchange_sort.h"
@@ -54,6 +55,7 @@ struct Top5 {
   std::vector<Text> lst_naam;
   std::vector<double> lst_percentage;
 
+  int gekozen_stof = 0;    // whose values these are
   bool had_foods = false;  // once it had, a list without rows changes nothing
   unsigned runs = 0;       // how often it was built: a longer run ends where a newer one began
 };
@@ -66,11 +68,16 @@ struct Top5Words {
   // Without one the rest has its Dutch name in every language, which is meant.
   std::optional<TextId> rest;
 };
-[[nodiscard]] const Top5Words& DaySummaryTop5Words();
+[[nodiscard]] const Top5Words& Top5WordsOf(AnalysisWindow window);
+
+// Whether the values are taken from the rows anew, or those kept that were taken before, if they
+// are of the same nutrient.
+enum class Top5Values { collect, keep };
 
 struct Top5Choice {
   const Top5Words& words;
   int gekozen_stof = 0;  // 0 to 6
+  Top5Values values = Top5Values::collect;
 };
 
 // Builds the chart from the rows, in their order. Fewer than six give the notice; none change
@@ -80,8 +87,9 @@ struct Top5Choice {
 void BuildTop5(const SummaryRows& rows, const Top5Choice& choice, const TextTables& texts,
                std::string_view separator, const Pause& pause, Top5& top5);
 
-// The same for the day summary. A failure shows "#F9-10" and leaves what was done up to there.
-void Bouw_Top5(Program& program, const SummaryRows& rows, int gekozen_stof, Top5& top5);
+// The same for a window. A failure shows its code and leaves what was done up to there.
+void Bouw_Top5(Program& program, AnalysisWindow window, const SummaryRows& rows, int gekozen_stof,
+               Top5& top5, Top5Values values = Top5Values::collect);
 
 struct PictureSize {
   int width = 0;
@@ -102,8 +110,8 @@ struct Sector {
 // Throws std::system_error where the middle of the picture is beyond 32,767.
 [[nodiscard]] Sector SectorOf(const Wedge& wedge, const PictureSize& picture);
 
-// The same for the day summary; none after a failure, which shows "#F9-11".
-[[nodiscard]] std::optional<Sector> Teken_Taartpunt(Program& program, const Wedge& wedge,
-                                                    const PictureSize& picture);
+// The same for a window; none after a failure, which shows its code.
+[[nodiscard]] std::optional<Sector> Teken_Taartpunt(Program& program, AnalysisWindow window,
+                                                    const Wedge& wedge, const PictureSize& picture);
 
 }  // namespace kelvora

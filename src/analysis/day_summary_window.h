@@ -1,25 +1,16 @@
 // KV_tb_daguittreksel, the summary of the open day. A picture of a DaySummary in one of four
 // panels, or, small, in that of the requirements alone; it passes clicks and sizes on.
-//
-// The arrow down opens the menu of a button that has one.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
 
-#include <QLabel>
-#include <QStackedWidget>
-#include <QStatusBar>
 #include <QToolButton>
 #include <QWidget>
 
-#include "analysis/analysis_toolbar_panel.h"
+#include "analysis/analysis_body_panel.h"
 #include "analysis/bmi_panel.h"
 #include "analysis/day_summary.h"
-#include "analysis/requirements_panel.h"
-#include "analysis/summary_table_panel.h"
-#include "analysis/top5_panel.h"
 #include "core/views.h"
 
 class QMdiSubWindow;
@@ -41,14 +32,9 @@ class DaySummaryWindow : public QWidget, public DaySummaryView {
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void BuildPanels();
-  void BuildStatusBar();
-  void LayOut();
-  void LayStatusBar();
-  void ConnectAll();
+  void BuildRescale();
   void SetCaptions();
   // Holds the frame to the limits of the size, and shows what belongs to it.
   void Interface_Draw();
@@ -56,25 +42,15 @@ class DaySummaryWindow : public QWidget, public DaySummaryView {
   [[nodiscard]] QMdiSubWindow* Frame() const;  // null without one
   // Lets the summary do it; false if the window is gone then.
   [[nodiscard]] bool Survives(const std::function<void(DaySummary&)>& work);
-  void ShowBars();
-  void ShowRows();
+  void ClickEntry(int position);
   void ShowCharts();
-  void ShowView();
-  void ShowStatus();
 
   Program& program_;
   OpenFlag<DaySummaryView> open_flag_;
   std::shared_ptr<DaySummary> summary_;
-  AnalysisToolbar* Toolbar_;
-  QStackedWidget* panels_;
-  RequirementsPanel* Pic_Behoefte_;
-  Top5Panel* Pic_top5_;
-  QWidget* Pic_uittreksel_;
+  AnalysisBody* body_;
   BmiPanel* Pic_BMI_;
-  SummaryTable* LV_uittreksel_;
   QToolButton* Pic_rescale_;
-  QStatusBar* StatusBar_;
-  std::array<QLabel*, 3> status_;
 };
 
 }  // namespace kelvora

@@ -81,10 +81,6 @@ const WindowRow& RowOf(AnalysisWindow window) {
   return kWindows[static_cast<std::size_t>(window)];
 }
 
-std::string_view CodeOf(AnalysisWindow window, std::string_view day, std::string_view several) {
-  return window == AnalysisWindow::day_summary ? day : several;
-}
-
 // The texts of the two genders: of the language in the window of a day, and whatever the language
 // in that of several, as they are meant to be.
 std::array<Text, 2> GenderTexts(const TextTables& texts, AnalysisWindow window) {

@@ -8,12 +8,10 @@
 
 #include <array>
 
+#include "analysis/analysis_kind.h"
 #include "core/program.h"
 
 namespace kelvora {
-
-// The two windows that show requirements.
-enum class AnalysisWindow { day_summary, multi_day };
 
 // Seven amounts in the order of the requirements: kilojoules and kilocalories, then unsaturated
 // fat, saturated fat, sodium, protein and carbohydrates in grams. The menus have another order,

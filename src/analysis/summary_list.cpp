@@ -69,29 +69,8 @@ Text PrintedOrNothing(Print print) {
   }
 }
 
-// All but the key.
-SummaryRow RowOfLine(std::string_view line, std::string_view count, std::string_view separator,
-                     bool ounces) {
-  const auto fields = FieldsOf(line);
-  const auto field = [&fields](std::size_t index) {
-    return index < fields.size() ? fields[index] : std::string_view();
-  };
-  const double times = Val(count);
-  SummaryRow row;
-  row[SummaryColumn::food] = field(FoodField::kProduct);
-  row[SummaryColumn::count] = count;
-  row[SummaryColumn::unit] = field(FoodField::kUnit);
-  const double weight = ReadStoredNumber(field(FoodField::kGram)) * times;
-  row[SummaryColumn::weight] = PrintedOrNothing([&] {
-    return ounces ? OuncesOfGrams(weight, separator)
-                  : FormatNumber(weight, kWeightPattern, separator);
-  });
-  for (const auto& [column, index, pattern] : kAmounts) {
-    const double amount = ReadStoredNumber(field(index)) * times;
-    row[column] = PrintedOrNothing(
-        [&, &pattern = pattern] { return FormatNumber(amount, pattern, separator); });
-  }
-  return row;
+Text KeyOfPlace(std::size_t place) {
+  return std::to_string(kKeyStep * (place + 1));
 }
 
 ColumnOrder NextOrder(SummaryColumn column, SummarySort& sort) {
@@ -123,13 +102,40 @@ std::vector<std::uint32_t> SortedPlaces(const SummaryRows& rows, SummaryColumn c
 
 }  // namespace
 
+RowPrint RowPrintOf(const Program& program) {
+  return {program.platform.locale.DecimalSeparator(), program.settings[Setting::opt_gramoz] == "1"};
+}
+
+SummaryRow RowOfLine(std::string_view line, std::string_view count, std::size_t place,
+                     const RowPrint& print) {
+  const auto fields = FieldsOf(line);
+  const auto field = [&fields](std::size_t index) {
+    return index < fields.size() ? fields[index] : std::string_view();
+  };
+  const double times = Val(count);
+  SummaryRow row;
+  row[SummaryColumn::key] = KeyOfPlace(place);
+  row[SummaryColumn::food] = field(FoodField::kProduct);
+  row[SummaryColumn::count] = count;
+  row[SummaryColumn::unit] = field(FoodField::kUnit);
+  const double weight = ReadStoredNumber(field(FoodField::kGram)) * times;
+  row[SummaryColumn::weight] = PrintedOrNothing([&] {
+    return print.ounces ? OuncesOfGrams(weight, print.separator)
+                        : FormatNumber(weight, kWeightPattern, print.separator);
+  });
+  for (const auto& [column, index, pattern] : kAmounts) {
+    const double amount = ReadStoredNumber(field(index)) * times;
+    row[column] = PrintedOrNothing(
+        [&, &pattern = pattern] { return FormatNumber(amount, pattern, print.separator); });
+  }
+  return row;
+}
+
 SummaryRows SummaryRowMaker::RowsOf(Program& program, const TextList& distinct,
                                     const TextList& counts) {
-  const Text separator = program.platform.locale.DecimalSeparator();
-  const bool ounces = program.settings[Setting::opt_gramoz] == "1";
-  if (ounces != ounces_ || separator != separator_) made_.clear();
-  ounces_ = ounces;
-  separator_ = separator;
+  RowPrint print = RowPrintOf(program);
+  if (print != print_) made_.clear();
+  print_ = std::move(print);
   std::unordered_map<Text, SummaryRow> made;
   made.reserve(distinct.Count());
   SummaryRows rows;
@@ -140,10 +146,10 @@ SummaryRows SummaryRowMaker::RowsOf(Program& program, const TextList& distinct,
     auto known = made_.extract(name);
     const auto& row =
         known ? made.insert(std::move(known)).position->second
-              : made.emplace(std::move(name), RowOfLine(distinct[i], counts[i], separator, ounces))
+              : made.emplace(std::move(name), RowOfLine(distinct[i], counts[i], i, print_))
                     .first->second;
     rows.push_back(row);
-    rows.back()[SummaryColumn::key] = std::to_string(kKeyStep * (i + 1));
+    rows.back()[SummaryColumn::key] = KeyOfPlace(i);
   }
   made_ = std::move(made);
   return rows;

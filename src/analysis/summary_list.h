@@ -11,19 +11,30 @@
 
 namespace kelvora {
 
+// How the cells of a list are printed.
+struct RowPrint {
+  Text separator;
+  bool ounces = false;
+  bool operator==(const RowPrint&) const = default;
+};
+[[nodiscard]] RowPrint RowPrintOf(const Program& program);
+
+// The row of a line that was eaten so many times, the `place`th of its list from 0 on. The hidden
+// keys go up by two, which is meant. An amount that no number can hold has an empty cell.
+[[nodiscard]] SummaryRow RowOfLine(std::string_view line, std::string_view count, std::size_t place,
+                                   const RowPrint& print);
+
 // Makes the rows of a list, which is rebuilt again and again. Of a day that has changed most lines
 // are as they were, and so are their rows: only the others are printed anew.
 class SummaryRowMaker {
  public:
-  // A row for each of these different lines, with its amounts as often as its count says. The
-  // hidden keys go up by two, which is meant. An amount that no number can hold has an empty cell.
+  // A row for each of these different lines, with its amounts as often as its count says.
   [[nodiscard]] SummaryRows RowsOf(Program& program, const TextList& distinct,
                                    const TextList& counts);
 
  private:
   std::unordered_map<Text, SummaryRow> made_;  // the last time, by count and line
-  bool ounces_ = false;                        // how they were printed
-  Text separator_;
+  RowPrint print_;                             // how they were printed
 };
 
 // True for a column of texts; the others hold numbers.

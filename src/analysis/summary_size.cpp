@@ -40,9 +40,10 @@ WindowRecord Rescaled(const WindowRecord& window, Schermstand stand) {
   return other;
 }
 
-std::array<int, 3> SummaryPanelWidths(int bar_width) {
-  constexpr int kView = 1500, kStatus = 4000;
-  return {kView, kStatus, std::max(0, bar_width - kView - kStatus)};
+std::array<int, 3> SummaryPanelWidths(AnalysisWindow window, int bar_width) {
+  constexpr int kView = 1500;
+  const int status = window == AnalysisWindow::day_summary ? 4000 : 2300;
+  return {kView, status, std::max(0, bar_width - kView - status)};
 }
 
 BarPlaces PlaceBars(Schermstand stand, int panel_height) {

@@ -1,4 +1,5 @@
-// The two sizes of the day summary and where things stand in them. All lengths are twips, and whole
+// The sizes of the analysis windows, of which the day summary has two, and where things stand in
+// them. All lengths are twips, and whole
 // numbers; sizes of windows are those with their frame.
 #pragma once
 
@@ -26,6 +27,9 @@ inline constexpr SizeLimits kSmallLimits{7000, 11400, 2400, 2400};
   return stand == Schermstand::small ? kSmallLimits : kNormalLimits;
 }
 
+// The window of several days has one size.
+inline constexpr SizeLimits kMultiDayLimits{9200, 11400, 5500, 11900};
+
 // The window with its size held to the limits.
 [[nodiscard]] WindowRecord HeldTo(const SizeLimits& limits, WindowRecord window);
 
@@ -33,8 +37,8 @@ inline constexpr SizeLimits kSmallLimits{7000, 11400, 2400, 2400};
 // back, but never with its top above that of the main window.
 [[nodiscard]] WindowRecord Rescaled(const WindowRecord& window, Schermstand stand);
 
-// The widths of the three panels of the status bar, for a bar of that width.
-[[nodiscard]] std::array<int, 3> SummaryPanelWidths(int bar_width);
+// The widths of the three panels of a window's status bar, for a bar of that width.
+[[nodiscard]] std::array<int, 3> SummaryPanelWidths(AnalysisWindow window, int bar_width);
 
 // The bars of the requirements, each row a requirement bar over a use bar, and the rows apart from
 // each other. Text boxes are wider where the letters need it.

@@ -17,7 +17,8 @@ using Texts = std::vector<Text>;
 class Top5Chart : public testing::Test {
  protected:
   void Build(SummaryColumn column, const Texts& cells, int gekozen_stof) {
-    Bouw_Top5(test.program, RowsWith(column, cells), gekozen_stof, top5);
+    Bouw_Top5(test.program, AnalysisWindow::day_summary, RowsWith(column, cells), gekozen_stof,
+              top5);
   }
   void BuildKcal(const Texts& cells) { Build(SummaryColumn::kcal, cells, 1); }
   void SpeakDutch() { Make_Taal_Dutch(test.program.texts); }
@@ -47,7 +48,7 @@ TEST_F(Top5Chart, CallsTheRestByItsDutchNameInEveryLanguage) {
 }
 
 TEST_F(Top5Chart, CallsTheRestByTheWordOfAWindowThatHasOne) {
-  Top5Words words = DaySummaryTop5Words();
+  Top5Words words = Top5WordsOf(AnalysisWindow::day_summary);
   words.rest = TextId{TextTable::taal_trend, 117};
   const SummaryRows rows = RowsWith(SummaryColumn::kcal, {"1", "2", "3", "4", "5", "6", "7"});
   BuildTop5(
@@ -220,7 +221,7 @@ TEST_F(Top5Chart, CutsTheNameToThirtyCharacters) {
   SummaryRows rows = RowsWith(SummaryColumn::kcal, {"10", "20", "30", "40", "50", "60"});
   rows[5][SummaryColumn::food] = "Forty characters are longer than thirty.";
   rows[4][SummaryColumn::food] = Text(134, 'w');
-  Bouw_Top5(test.program, rows, 1, top5);
+  Bouw_Top5(test.program, AnalysisWindow::day_summary, rows, 1, top5);
   EXPECT_EQ(top5.lbl_piename[0], "Forty characters are longer th\n[29%, 60 Kcal]");
   EXPECT_EQ(top5.lbl_piename[1], Text(30, 'w') + "\n[24%, 50 Kcal]");
 }
@@ -243,7 +244,7 @@ TEST_F(Top5Chart, ShowsANoticeWithFewerThanSixFoods) {
 TEST_F(Top5Chart, CountsOneFoodInTheNoticeHoweverOftenItWasEaten) {
   SummaryRows rows = RowsWith(SummaryColumn::kcal, {"600"});
   rows[0][SummaryColumn::count] = "6";
-  Bouw_Top5(test.program, rows, 1, top5);
+  Bouw_Top5(test.program, AnalysisWindow::day_summary, rows, 1, top5);
   ASSERT_TRUE(top5.lbl_leeg);
   EXPECT_NE(top5.lbl_leeg->find("There are only 1 food items present."), Text::npos);
 }
@@ -314,11 +315,12 @@ TEST_F(Top5Chart, CountsTheNewerOfTwoRunsThatMeet) {
   const Pause meet = [&] {
     if (!met) {
       met = true;
-      Bouw_Top5(test.program, new_rows, 2, top5);
+      Bouw_Top5(test.program, AnalysisWindow::day_summary, new_rows, 2, top5);
     }
     return false;
   };
-  BuildTop5(old_rows, {DaySummaryTop5Words(), 1}, test.program.texts, ".", meet, top5);
+  BuildTop5(old_rows, {Top5WordsOf(AnalysisWindow::day_summary), 1}, test.program.texts, ".", meet,
+            top5);
   EXPECT_EQ(top5.lbl_soort, "Pie chart for: (Fat, unsaturated)");
   EXPECT_EQ(top5.lbl_piename[0], "Food 0\n[29%, 60 gram]");
   EXPECT_EQ(top5.lst_waarden.size(), 6u);
@@ -361,9 +363,9 @@ TEST(Sectors, TurnCounterClockwiseFromTheEast) {
 
 TEST(Sectors, FailBeyondTheLargestPicture) {
   TestProgram test;
-  EXPECT_TRUE(Teken_Taartpunt(test.program, {}, {65534, 3000}));
+  EXPECT_TRUE(Teken_Taartpunt(test.program, AnalysisWindow::day_summary, {}, {65534, 3000}));
   EXPECT_TRUE(test.boxes.shown.empty());
-  EXPECT_FALSE(Teken_Taartpunt(test.program, {}, {65536, 3000}));
+  EXPECT_FALSE(Teken_Taartpunt(test.program, AnalysisWindow::day_summary, {}, {65536, 3000}));
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("#F9-11")) << test.boxes.shown[0].text;
 }

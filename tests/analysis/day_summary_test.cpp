@@ -23,7 +23,7 @@ struct SummaryWindow : DaySummaryView {
   void Set_Taal() override {}
   void Refresh_Daguittreksel() override { summary->Refresh_Daguittreksel(); }
   void Maak_Voedingsbehoefte(const DayTotals& totals) override {
-    summary->Maak_Voedingsbehoefte(totals);
+    summary->Sheet().Maak_Voedingsbehoefte(totals);
   }
   OpenWindows& windows;
   std::unique_ptr<DaySummary> summary;
@@ -48,7 +48,7 @@ class DaySummaryOfADay : public testing::Test {
     return *window.summary;
   }
   Text Cell(std::size_t row, SummaryColumn column) {
-    return (*window.summary->Rows())[row][column];
+    return (*window.summary->Sheet().Rows())[row][column];
   }
 
   TestProgram test;
@@ -59,7 +59,7 @@ class DaySummaryOfADay : public testing::Test {
 TEST_F(DaySummaryOfADay, MergesOneFoodOfThreeDayParts) {
   for (const DayPart part : kDayParts) Eat(part, kBread);
   Open();
-  ASSERT_EQ(window.summary->Rows()->size(), 1u);
+  ASSERT_EQ(window.summary->Sheet().Rows()->size(), 1u);
   EXPECT_EQ(Cell(0, SummaryColumn::count), "3");
   EXPECT_EQ(Cell(0, SummaryColumn::weight), "105");
   EXPECT_EQ(Cell(0, SummaryColumn::kcal), "246");
@@ -71,7 +71,7 @@ TEST_F(DaySummaryOfADay, KeepsPortionsApartInTheOrderOfTheDay) {
   Eat(DayPart::afternoon, kApple);
   Eat(DayPart::morning, kApple);
   Open();
-  ASSERT_EQ(window.summary->Rows()->size(), 3u);
+  ASSERT_EQ(window.summary->Sheet().Rows()->size(), 3u);
   EXPECT_EQ(Cell(0, SummaryColumn::food), "Apple");
   EXPECT_EQ(Cell(0, SummaryColumn::count), "2");
   EXPECT_EQ(Cell(1, SummaryColumn::weight), "50");
@@ -88,9 +88,10 @@ TEST_F(DaySummaryOfADay, LeavesTheDistinctLinesAndTheirCountsInTheStore) {
 
 TEST_F(DaySummaryOfADay, OfAnEmptyDayHasNoRowAndTheNotice) {
   Open();
-  EXPECT_TRUE(window.summary->Rows()->empty());
-  ASSERT_TRUE(window.summary->Pie().lbl_leeg.has_value());
-  EXPECT_NE(window.summary->Pie().lbl_leeg->find("There are only 0 food items"), Text::npos);
+  EXPECT_TRUE(window.summary->Sheet().Rows()->empty());
+  ASSERT_TRUE(window.summary->Sheet().Pie().lbl_leeg.has_value());
+  EXPECT_NE(window.summary->Sheet().Pie().lbl_leeg->find("There are only 0 food items"),
+            Text::npos);
 }
 
 TEST_F(DaySummaryOfADay, HasTheDayInItsTitle) {
@@ -105,10 +106,10 @@ TEST_F(DaySummaryOfADay, HasTheDayInItsTitle) {
 
 TEST_F(DaySummaryOfADay, OpensOnTheRequirementsWithBothStatusTextsAndNoMenu) {
   const DaySummary& summary = Open();
-  EXPECT_EQ(summary.View(), AnalysisView::requirements);
-  EXPECT_FALSE(summary.EnabledMenu().has_value());
-  EXPECT_EQ(summary.Status()[0], "Rec. nutrition");
-  EXPECT_EQ(summary.Status()[1], "Recommended nutrition's  with changed nutrition");
+  EXPECT_EQ(summary.Sheet().View(), AnalysisView::requirements);
+  EXPECT_FALSE(summary.Sheet().EnabledMenu().has_value());
+  EXPECT_EQ(summary.Sheet().Status()[0], "Rec. nutrition");
+  EXPECT_EQ(summary.Sheet().Status()[1], "Recommended nutrition's  with changed nutrition");
   EXPECT_EQ(program.analysis.gekozen_stof, 1);
 }
 
@@ -126,30 +127,30 @@ TEST_F(DaySummaryOfADay, EnablesTheMenuOfTheButtonThatWasClicked) {
                           Case{AnalysisView::bmi, "BMI", "Body Mass index (BMI)"},
                           Case{AnalysisView::requirements, "Rec. nutrition",
                                "Recommended nutrition's  with changed nutrition"}}) {
-    summary.ClickButton(row.view);
-    EXPECT_EQ(summary.View(), row.view);
-    EXPECT_EQ(summary.EnabledMenu(), row.view);
-    EXPECT_EQ(summary.Status()[0], row.first);
-    EXPECT_EQ(summary.Status()[1], row.second);
+    summary.Sheet().ClickButton(row.view);
+    EXPECT_EQ(summary.Sheet().View(), row.view);
+    EXPECT_EQ(summary.Sheet().EnabledMenu(), row.view);
+    EXPECT_EQ(summary.Sheet().Status()[0], row.first);
+    EXPECT_EQ(summary.Sheet().Status()[1], row.second);
   }
 }
 
 TEST_F(DaySummaryOfADay, KeepsTheStatusTextUntilTheNextClickAfterAChoiceOfAge) {
   DaySummary& summary = Open();
-  summary.ClickButton(AnalysisView::requirements);
-  const Text before = summary.Status()[1];
+  summary.Sheet().ClickButton(AnalysisView::requirements);
+  const Text before = summary.Sheet().Status()[1];
   summary.ClickEntry(2);
   summary.ClickEntry(5);
-  EXPECT_EQ(summary.Status()[1], before);
+  EXPECT_EQ(summary.Sheet().Status()[1], before);
   // The bars follow at once: a woman of 16 to 19.
-  EXPECT_EQ(summary.Bars()[0].requirement_text, "Recommended:10300 Kj, 100%");
-  summary.ClickButton(AnalysisView::requirements);
-  EXPECT_EQ(summary.Status()[1], "Recommended nutrition's for woman between 16 - 19");
+  EXPECT_EQ(summary.Sheet().Bars()[0].requirement_text, "Recommended:10300 Kj, 100%");
+  summary.Sheet().ClickButton(AnalysisView::requirements);
+  EXPECT_EQ(summary.Sheet().Status()[1], "Recommended nutrition's for woman between 16 - 19");
 }
 
 TEST_F(DaySummaryOfADay, TakesEachPositionOfTheMenuOfRequirements) {
   DaySummary& summary = Open();
-  summary.ClickButton(AnalysisView::requirements);
+  summary.Sheet().ClickButton(AnalysisView::requirements);
   struct Case {
     int position, gender, age;
   };
@@ -157,15 +158,15 @@ TEST_F(DaySummaryOfADay, TakesEachPositionOfTheMenuOfRequirements) {
        {Case{2, 1, 6}, Case{4, 1, 0}, Case{5, 1, 1}, Case{6, 1, 2}, Case{7, 1, 3}, Case{8, 1, 4},
         Case{9, 1, 5}, Case{3, 1, 5}, Case{10, 1, 5}, Case{1, 0, 5}, Case{11, 0, 6}}) {
     summary.ClickEntry(row.position);
-    EXPECT_EQ(summary.Requirement().geslacht_index, row.gender) << row.position;
-    EXPECT_EQ(summary.Requirement().leeftijd_index, row.age) << row.position;
+    EXPECT_EQ(summary.Sheet().Requirement().geslacht_index, row.gender) << row.position;
+    EXPECT_EQ(summary.Sheet().Requirement().leeftijd_index, row.age) << row.position;
   }
   EXPECT_EQ(program.analysis.gekozen_stof, 1);
 }
 
 TEST_F(DaySummaryOfADay, TakesEachPositionOfTheMenuOfNutrients) {
   DaySummary& summary = Open();
-  summary.ClickButton(AnalysisView::top5);
+  summary.Sheet().ClickButton(AnalysisView::top5);
   const std::array<const char*, 7> texts = {"energy in Kj",   "energy in Kcal", "unsaturated fats",
                                             "saturated fats", "protein",        "sodium",
                                             "carbohydrates"};
@@ -173,32 +174,32 @@ TEST_F(DaySummaryOfADay, TakesEachPositionOfTheMenuOfNutrients) {
     summary.ClickEntry(static_cast<int>(i) + 1);
     EXPECT_EQ(program.analysis.gekozen_stof, static_cast<float>(i));
     EXPECT_EQ(ChosenNutrient(program.analysis), static_cast<int>(i) + 1);
-    EXPECT_EQ(summary.Status()[1], Text("Top 5 diagram for ") + texts[i]);
+    EXPECT_EQ(summary.Sheet().Status()[1], Text("Top 5 diagram for ") + texts[i]);
   }
   for (const int nothing : {0, 8, 9, 11}) {
     summary.ClickEntry(nothing);
     EXPECT_EQ(program.analysis.gekozen_stof, 6);
   }
-  EXPECT_EQ(summary.Requirement().leeftijd_index, 6);
+  EXPECT_EQ(summary.Sheet().Requirement().leeftijd_index, 6);
 }
 
 TEST_F(DaySummaryOfADay, TakesNoChoiceWhereTheButtonHasNoMenu) {
   DaySummary& summary = Open();
   for (const AnalysisView view : {AnalysisView::consumptions, AnalysisView::bmi}) {
-    summary.ClickButton(view);
+    summary.Sheet().ClickButton(view);
     summary.ClickEntry(4);
-    EXPECT_EQ(summary.Requirement().leeftijd_index, 6);
+    EXPECT_EQ(summary.Sheet().Requirement().leeftijd_index, 6);
     EXPECT_EQ(program.analysis.gekozen_stof, 1);
   }
 }
 
 TEST_F(DaySummaryOfADay, MarksTheChoicesThatHold) {
   DaySummary& summary = Open();
-  EXPECT_EQ(ChosenRequirements(summary.Requirement()), (std::array{1, 11}));
-  summary.ClickButton(AnalysisView::requirements);
+  EXPECT_EQ(ChosenRequirements(summary.Sheet().Requirement()), (std::array{1, 11}));
+  summary.Sheet().ClickButton(AnalysisView::requirements);
   summary.ClickEntry(2);
   summary.ClickEntry(9);
-  EXPECT_EQ(ChosenRequirements(summary.Requirement()), (std::array{2, 9}));
+  EXPECT_EQ(ChosenRequirements(summary.Sheet().Requirement()), (std::array{2, 9}));
 }
 
 TEST_F(DaySummaryOfADay, NamesEveryAgeInItsStatusText) {
@@ -208,51 +209,51 @@ TEST_F(DaySummaryOfADay, NamesEveryAgeInItsStatusText) {
                                            "van 19 tot 22 jaar", "van 22 tot 50 jaar",
                                            "van 50 tot 65 jaar", "van 65 tot 99 jaar"};
   for (std::size_t i = 0; i < ages.size(); ++i) {
-    summary.ClickButton(AnalysisView::requirements);
+    summary.Sheet().ClickButton(AnalysisView::requirements);
     summary.ClickEntry(4 + static_cast<int>(i));
-    summary.ClickButton(AnalysisView::requirements);
-    EXPECT_EQ(summary.Status()[1], Text("Aanbevolen voeding voor een man ") + ages[i]);
+    summary.Sheet().ClickButton(AnalysisView::requirements);
+    EXPECT_EQ(summary.Sheet().Status()[1], Text("Aanbevolen voeding voor een man ") + ages[i]);
   }
 }
 
 TEST_F(DaySummaryOfADay, FollowsAnotherLanguage) {
   DaySummary& summary = Open();
-  summary.ClickButton(AnalysisView::bmi);
+  summary.Sheet().ClickButton(AnalysisView::bmi);
   Make_Taal_Dutch(program.texts);
   summary.Set_Taal();
-  EXPECT_EQ(summary.Status()[0], "BMI");
-  EXPECT_EQ(summary.Status()[1], "Body Mass Index (BMI)");
-  EXPECT_EQ(summary.Bars()[0].requirement_text, "Aanbevolen:100 Kj, 100%");
-  EXPECT_EQ(summary.Pie().lbl_soort, "Taartdiagram voor: (Energie, Kcal)");
-  EXPECT_NE(summary.Pie().lbl_leeg->find("Deze dag telt maar 0"), Text::npos);
-  summary.ClickButton(AnalysisView::consumptions);
-  EXPECT_EQ(summary.Status()[1], "Voedingsmiddelen: 0");
+  EXPECT_EQ(summary.Sheet().Status()[0], "BMI");
+  EXPECT_EQ(summary.Sheet().Status()[1], "Body Mass Index (BMI)");
+  EXPECT_EQ(summary.Sheet().Bars()[0].requirement_text, "Aanbevolen:100 Kj, 100%");
+  EXPECT_EQ(summary.Sheet().Pie().lbl_soort, "Taartdiagram voor: (Energie, Kcal)");
+  EXPECT_NE(summary.Sheet().Pie().lbl_leeg->find("Deze dag telt maar 0"), Text::npos);
+  summary.Sheet().ClickButton(AnalysisView::consumptions);
+  EXPECT_EQ(summary.Sheet().Status()[1], "Voedingsmiddelen: 0");
 }
 
 TEST_F(DaySummaryOfADay, SortsItsRowsUntilTheyAreBuiltAnew) {
   Eat(DayPart::morning, kBread);
   Eat(DayPart::morning, kApple);
   DaySummary& summary = Open();
-  EXPECT_FALSE(summary.ShownOrder().has_value());
-  const auto before = summary.Rows();
-  summary.ClickColumn(SummaryColumn::kcal);
+  EXPECT_FALSE(summary.Sheet().ShownOrder().has_value());
+  const auto before = summary.Sheet().Rows();
+  summary.Sheet().ClickColumn(SummaryColumn::kcal);
   EXPECT_EQ(Cell(0, SummaryColumn::food), "Apple");
-  EXPECT_EQ(*summary.ShownOrder(), (ColumnOrder{6, SortOrder::ascending}));
+  EXPECT_EQ(*summary.Sheet().ShownOrder(), (ColumnOrder{6, SortOrder::ascending}));
   // Whoever draws the rows of before still has them.
   EXPECT_EQ((*before)[0][SummaryColumn::food], "Bread");
-  summary.ClickColumn(SummaryColumn::key);
-  EXPECT_EQ(*summary.ShownOrder(), (ColumnOrder{6, SortOrder::ascending}));
+  summary.Sheet().ClickColumn(SummaryColumn::key);
+  EXPECT_EQ(*summary.Sheet().ShownOrder(), (ColumnOrder{6, SortOrder::ascending}));
   summary.Refresh_Daguittreksel();
   EXPECT_EQ(Cell(0, SummaryColumn::food), "Bread");
-  EXPECT_FALSE(summary.ShownOrder().has_value());
+  EXPECT_FALSE(summary.Sheet().ShownOrder().has_value());
   // The direction of the next click outlives it.
-  summary.ClickColumn(SummaryColumn::kcal);
+  summary.Sheet().ClickColumn(SummaryColumn::kcal);
   EXPECT_EQ(Cell(0, SummaryColumn::food), "Bread");
 }
 
 TEST_F(DaySummaryOfADay, FollowsEveryChangeOfTheDay) {
   DaySummary& summary = Open();
-  EXPECT_EQ(summary.Bars()[1].use_text, "Used: Kcal, 0%");
+  EXPECT_EQ(summary.Sheet().Bars()[1].use_text, "Used: Kcal, 0%");
   // As a drop on an open morning window does it.
   const auto change = [this](auto edit) {
     edit();
@@ -261,44 +262,44 @@ TEST_F(DaySummaryOfADay, FollowsEveryChangeOfTheDay) {
   };
   change([this] { DropOnDayPart(program, DayPart::morning, "add-" + LineOf(kApple) + kLineEnd); });
   EXPECT_EQ(Cell(0, SummaryColumn::food), "Apple");
-  EXPECT_EQ(summary.Bars()[1].use_text, "Used:78 Kcal, 78%");
+  EXPECT_EQ(summary.Sheet().Bars()[1].use_text, "Used:78 Kcal, 78%");
   change([this] { Item_Plus_Een(program, DayPart::morning, "Apple"); });
   EXPECT_EQ(Cell(0, SummaryColumn::count), "2");
-  EXPECT_EQ(summary.Bars()[1].use_text, "Used:156 Kcal, 156%");
+  EXPECT_EQ(summary.Sheet().Bars()[1].use_text, "Used:156 Kcal, 156%");
   change([this] { program.store.L_ochtend.Clear(); });
-  EXPECT_TRUE(summary.Rows()->empty());
+  EXPECT_TRUE(summary.Sheet().Rows()->empty());
 }
 
 TEST_F(DaySummaryOfADay, KeepsTheChosenAgeOverARefresh) {
   DaySummary& summary = Open();
-  summary.ClickButton(AnalysisView::requirements);
+  summary.Sheet().ClickButton(AnalysisView::requirements);
   summary.ClickEntry(4);
   summary.Refresh_Daguittreksel();
-  EXPECT_EQ(summary.Requirement().leeftijd_index, 0);
+  EXPECT_EQ(summary.Sheet().Requirement().leeftijd_index, 0);
   // A new window asks the profile again.
-  EXPECT_EQ(Open().Requirement().leeftijd_index, 6);
+  EXPECT_EQ(Open().Sheet().Requirement().leeftijd_index, 6);
 }
 
 TEST_F(DaySummaryOfADay, WorksItsBarsOutAnewForAnotherWidth) {
   Eat(DayPart::morning, kApple);
   DaySummary& summary = Open();
-  EXPECT_TRUE(summary.ResizeBars({8380, 2000}));
-  EXPECT_FLOAT_EQ(summary.Bars()[2].requirement_width, 6260);
-  EXPECT_TRUE(summary.ResizeBars({4120, 2000}));
-  EXPECT_FLOAT_EQ(summary.Bars()[2].requirement_width, 2000);
+  EXPECT_TRUE(summary.Sheet().ResizeBars({8380, 2000}));
+  EXPECT_FLOAT_EQ(summary.Sheet().Bars()[2].requirement_width, 6260);
+  EXPECT_TRUE(summary.Sheet().ResizeBars({4120, 2000}));
+  EXPECT_FLOAT_EQ(summary.Sheet().Bars()[2].requirement_width, 2000);
   // 78 of 100: 100 / 178 and 78 / 178 of 2000.
-  EXPECT_NEAR(summary.Bars()[1].requirement_width, 1123.5955, 0.001);
-  EXPECT_NEAR(summary.Bars()[1].use_width, 876.4045, 0.001);
-  EXPECT_FALSE(summary.ResizeBars({4120, 2000}));
+  EXPECT_NEAR(summary.Sheet().Bars()[1].requirement_width, 1123.5955, 0.001);
+  EXPECT_NEAR(summary.Sheet().Bars()[1].use_width, 876.4045, 0.001);
+  EXPECT_FALSE(summary.Sheet().ResizeBars({4120, 2000}));
 }
 
 TEST_F(DaySummaryOfADay, ChangesItsSizeAndShowsTheRequirements) {
   DaySummary& summary = Open();
-  summary.ClickButton(AnalysisView::bmi);
+  summary.Sheet().ClickButton(AnalysisView::bmi);
   EXPECT_EQ(summary.Stand(), Schermstand::normal);
   EXPECT_EQ(summary.ClickRescale({8500, 4800, 60, 100}), (WindowRecord{8500, 2400, 60, 2100}));
   EXPECT_EQ(program.windows.geometry.SummarySmall, 1);
-  EXPECT_EQ(summary.View(), AnalysisView::requirements);
+  EXPECT_EQ(summary.Sheet().View(), AnalysisView::requirements);
   EXPECT_EQ(summary.Stand(), Schermstand::small);
   EXPECT_EQ(summary.ClickRescale({8500, 2400, 60, 100}), (WindowRecord{8500, 4400, 60, 0}));
   EXPECT_EQ(program.windows.geometry.SummarySmall, 0);
@@ -309,12 +310,12 @@ TEST_F(DaySummaryOfADay, TellsOnceOfAnAmountThatNoNumberCanHold) {
   Eat(DayPart::morning, {.product = "Whale", .kj = huge});
   Eat(DayPart::morning, kApple);
   DaySummary& summary = Open();
-  ASSERT_EQ(summary.Rows()->size(), 2u);
+  ASSERT_EQ(summary.Sheet().Rows()->size(), 2u);
   EXPECT_EQ(Cell(0, SummaryColumn::kj), "");
   // The re-totalling says so, and has no totals to give.
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(test.boxes.shown[0].text.ends_with("#FF11-0"));
-  EXPECT_EQ(summary.Bars()[0].use_text, "");
+  EXPECT_EQ(summary.Sheet().Bars()[0].use_text, "");
 }
 
 TEST_F(DaySummaryOfADay, MergesADayOfFiveThousandLines) {
@@ -323,7 +324,7 @@ TEST_F(DaySummaryOfADay, MergesADayOfFiveThousandLines) {
     Eat(kDayParts[static_cast<std::size_t>(i % 3)], {.product = name, .kcal = "1"});
   }
   Open();
-  EXPECT_EQ(window.summary->Rows()->size(), 2500u);
+  EXPECT_EQ(window.summary->Sheet().Rows()->size(), 2500u);
   EXPECT_EQ(Cell(2499, SummaryColumn::key), "5000");
   EXPECT_TRUE(test.boxes.shown.empty());
 }

@@ -40,7 +40,8 @@ TEST(PiesOracle, AgreesOnOrderSharesAndWedges) {
   for (const TableRow& row : ReadTable("pies.tsv", "cells order shares wedges")) {
     SCOPED_TRACE(row[0]);
     Top5 top5;
-    Bouw_Top5(test.program, RowsWith(SummaryColumn::sodium, Parted(row[0], ';')), 5, top5);
+    Bouw_Top5(test.program, AnalysisWindow::day_summary,
+              RowsWith(SummaryColumn::sodium, Parted(row[0], ';')), 5, top5);
     std::vector<Text> names;
     for (const Text& place : Parted(row[1], ';')) names.push_back("Food " + place);
     EXPECT_EQ(top5.lst_naam, names);

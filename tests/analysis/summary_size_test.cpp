@@ -31,8 +31,10 @@ TEST(SummarySize, NeverGrowsBackAboveTheTop) {
 }
 
 TEST(SummarySize, GivesTheStatusBarItsThreePanels) {
-  EXPECT_EQ(SummaryPanelWidths(8380), (std::array<int, 3>{1500, 4000, 2880}));
-  EXPECT_EQ(SummaryPanelWidths(5000), (std::array<int, 3>{1500, 4000, 0}));
+  EXPECT_EQ(SummaryPanelWidths(AnalysisWindow::day_summary, 8380),
+            (std::array<int, 3>{1500, 4000, 2880}));
+  EXPECT_EQ(SummaryPanelWidths(AnalysisWindow::day_summary, 5000),
+            (std::array<int, 3>{1500, 4000, 0}));
 }
 
 // 3800 / 14 - 84 = 187 and 2040 / 15 = 136, whole numbers.

@@ -32,7 +32,7 @@ class Top5Pictures : public testing::Test {
   Top5Pictures()
       : panel(
             [this](const Wedge& wedge, const PictureSize& picture) {
-              return Teken_Taartpunt(test.program, wedge, picture);
+              return Teken_Taartpunt(test.program, AnalysisWindow::day_summary, wedge, picture);
             },
             &host) {
     host.show();
@@ -48,7 +48,7 @@ class Top5Pictures : public testing::Test {
     return rows;
   }
   void Show(const SummaryRows& rows, int gekozen_stof = 1) {
-    Bouw_Top5(test.program, rows, gekozen_stof, top5);
+    Bouw_Top5(test.program, AnalysisWindow::day_summary, rows, gekozen_stof, top5);
     panel.Show(top5);
   }
   QWidget& Pie() { return *FindIn<QWidget>(panel, "Graph_pie"); }
