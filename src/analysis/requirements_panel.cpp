@@ -84,6 +84,7 @@ void RequirementsPanel::Set_Taal(const TextTables& texts, AnalysisWindow window)
 
 void RequirementsPanel::ShowLine(Line& line, float length, const Text& text, const Text& tip) {
   line.bar->SetLength(length);
+  line.bar->setVisible(length > 0 || !text.empty());  // not before there are amounts
   line.text->setText(ToQt(text));
   const QString words = ToQt(tip);
   if (line.bar->toolTip() == words) return;

@@ -65,6 +65,7 @@ TEST(EntryBoxes, OfTheMainWindowAndItsChildWindowsTakeTextOnly) {
   window.OpenWindow(WindowId::diary);
   window.OpenWindow(WindowId::day_summary);
   window.OpenWindow(WindowId::comparison);
+  window.OpenWindow(WindowId::multi_day);
   QApplication::processEvents();
   // Name and unit of a combined food in three windows; two searches in the food lists; the diary.
   ExpectTextOnly(window, 3 * 2 + 2 + 1);

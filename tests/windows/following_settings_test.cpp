@@ -61,6 +61,7 @@ class Windows {
     main_.OpenWindow(WindowId::day_summary);
     main_.OpenWindow(WindowId::comparison);
     program.windows.comparison->TakeFood(CompareBox::first, "add-" + LineOf(kOats) + "\xBE");
+    main_.OpenWindow(WindowId::multi_day);
     main_.UpdateCommands();
     browser_ = std::make_unique<BrowserDialog>(program, &main_);
     browser_->Open();
@@ -188,7 +189,10 @@ class FollowingSettings : public testing::Test {
     Rec_DayFile day;
     day[DayFileField::Trend] = Packed("10|20|30|1|2|3|4|0.5|80.5|");
     day[DayFileField::Header] = Packed(name + "~~~~~1.80~80.5~Male~42~05-03-04~75~Friday~~~~");
+    day[DayFileField::Morning] = LineOf(kOats) + kLineEnd;
     WriteRecord(UserFolder(program.paths, name) + "Files/day.kvf", day);
+    day[DayFileField::Header] = Packed(name + "~~~~~1.80~80.5~Male~42~07-03-04~75~Sunday~~~~");
+    WriteRecord(UserFolder(program.paths, name) + "Files/other day.kvf", day);
     FoodLine food = kOats;
     WriteRecord(CustomFile(program.paths, name), Rec_ListLine{{LineOf(food) + kLineEnd}});
     WriteRecord(FavoritesFile(program.paths, name), Rec_ListLine{{LineOf(food) + kLineEnd}});

@@ -81,6 +81,8 @@ class HugeTexts : public testing::Test {
     program.profile[ProfileField::name] = "Anna";
     SetCurrentUser(program, "Anna");
     SaveDay(program);
+    program.store.KV_bestand = "other day.kvf";
+    SaveDay(program);
     Save_Profile(program, ProfileFile(program.paths, "Anna"));
     EXPECT_TRUE(test.boxes.shown.empty());
   }
@@ -108,6 +110,7 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
   window.OpenWindow(WindowId::comparison);
   test.program.windows.comparison->TakeFood(
       CompareBox::first, "add-" + Text(test.program.store.L_ochtend[0]) + "\xBE");
+  window.OpenWindow(WindowId::multi_day);
   window.UpdateStatusBar();
   QApplication::processEvents();
   auto* const summary = window.findChild<QWidget*>("KV_tb_daguittreksel");
@@ -116,6 +119,13 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
     summary->findChild<QToolButton*>(QStringLiteral("Toolbar_%1").arg(view))->click();
     QApplication::processEvents();
     ExpectBounded(window, view == 3 ? 3 * 10 + 12 : 3 * 10);
+  }
+  auto* const days = window.findChild<QWidget*>("KV_tb_meerdaags");
+  ASSERT_NE(days, nullptr);
+  for (int view = 1; view <= 4; ++view) {
+    days->findChild<QToolButton*>(QStringLiteral("Toolbar_%1").arg(view))->click();
+    QApplication::processEvents();
+    ExpectBounded(window, view == 4 ? 3 * 10 + 12 : 3 * 10);
   }
 }
 

@@ -34,6 +34,7 @@
 #include "language/built_in_texts.h"
 #include "storage/folders.h"
 #include "support/test_program.h"
+#include "windows/written_days.h"
 
 namespace kelvora {
 namespace {
@@ -235,6 +236,7 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
     window.Set_Taal();
     window.show();
     test.OpenDay("Anna");
+    WriteDays(program, 2);
     ApplyChosenArrangement(program);
     window.UpdateCommands();
     Look(window, 100);
@@ -248,11 +250,18 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
     }
     window.OpenWindow(WindowId::diary);
     window.OpenWindow(WindowId::day_summary);
+    window.OpenWindow(WindowId::multi_day);
     window.UpdateCommands();
     Look(window, 150);
     // The other panels of the day summary.
     for (const char* button : {"Toolbar_2", "Toolbar_3", "Toolbar_4"}) {
       window.findChild<QWidget*>(QStringLiteral("KV_tb_daguittreksel"))
+          ->findChild<QAbstractButton*>(QLatin1String(button))
+          ->click();
+      Look(window, 100);
+    }
+    for (const char* button : {"Toolbar_2", "Toolbar_3", "Toolbar_4"}) {
+      window.findChild<QWidget*>(QStringLiteral("KV_tb_meerdaags"))
           ->findChild<QAbstractButton*>(QLatin1String(button))
           ->click();
       Look(window, 100);

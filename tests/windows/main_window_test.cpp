@@ -67,11 +67,11 @@ TEST_F(MainWindowOfTheProgram, ButtonsFollowUserDayAndChanges) {
   EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 18, 19, 22}));
   test.program.paths.UserName = "Anna";
   window.UpdateCommands();
-  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 8, 16, 18, 19, 22}));
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 8, 14, 16, 18, 19, 22}));
   OpenDay();
-  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 5, 7, 8, 10, 11, 13, 16, 18, 19, 22}));
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 5, 7, 8, 10, 11, 13, 14, 16, 18, 19, 22}));
   SetFileChanged(test.program, true);
-  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 4, 5, 7, 8, 10, 11, 13, 16, 18, 19, 22}));
+  EXPECT_EQ(EnabledButtons(), (std::vector<int>{2, 3, 4, 5, 7, 8, 10, 11, 13, 14, 16, 18, 19, 22}));
 }
 
 TEST_F(MainWindowOfTheProgram, QuickButtonsNeedADayButTheReset) {
@@ -164,8 +164,7 @@ TEST_F(MainWindowOfTheProgram, WhatLaterVersionsServeIsDisabledAndSaysSo) {
   }
   missing.sort();
   EXPECT_EQ(missing, (QStringList{"mnu_check_updates", "mnu_exporteer_dta", "mnu_exporteer_html",
-                                  "mnu_exporteer_xml", "mnu_print_dag", "mnu_print_reis",
-                                  "mnu_uit_meerdaagsuittreksel"}));
+                                  "mnu_exporteer_xml", "mnu_print_dag", "mnu_print_reis"}));
 }
 
 TEST_F(MainWindowOfTheProgram, ThePrintButtonTellsAndItsMenuHasTwoEntries) {

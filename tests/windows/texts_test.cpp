@@ -25,6 +25,7 @@
 #include "storage/profile_file.h"
 #include "support/test_program.h"
 #include "windows/shown_texts.h"
+#include "windows/written_days.h"
 
 namespace kelvora {
 namespace {
@@ -121,12 +122,14 @@ class WindowTexts : public testing::Test {
     program.store.L_ochtend.Add(program.store.Default_list[0]);
     SaveDay(program);
     Save_Profile(program, ProfileFile(program.paths, "7"));
+    WriteDays(program, 2);
     ApplyChosenArrangement(program);
     window.OpenWindow(WindowId::diary);
     window.OpenWindow(WindowId::day_summary);
     window.OpenWindow(WindowId::comparison);
     program.windows.comparison->TakeFood(CompareBox::first,
                                          "add-" + Text(program.store.Default_list[0]) + "\xBE");
+    window.OpenWindow(WindowId::multi_day);
     window.UpdateCommands();
     window.UpdateStatusBar();
     QApplication::processEvents();

@@ -60,7 +60,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_item_del, Needs::user},
     CommandRow{Command::mnu_item_favo, Needs::user},
     CommandRow{Command::mnu_uit_daguittreksel, Needs::day},
-    NotServed(Command::mnu_uit_meerdaagsuittreksel, Needs::user),
+    CommandRow{Command::mnu_uit_meerdaagsuittreksel, Needs::user},
     CommandRow{Command::mnu_voedingswaarde_tabel, Needs::user},
     CommandRow{Command::mnu_weegschaal, Needs::nothing, Needs::user},
     CommandRow{Command::mnu_website_Etenlijn, Needs::nothing},

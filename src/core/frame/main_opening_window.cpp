@@ -2,6 +2,7 @@
 #include "analysis/comparison_window.h"
 #include "analysis/day_summary_window.h"
 #include "analysis/diary_window.h"
+#include "analysis/multi_day_window.h"
 #include "core/frame/child_area_panel.h"
 #include "core/frame/main_window.h"
 #include "days/day_dialogs.h"
@@ -38,8 +39,9 @@ void MainWindow::OpenWindow(WindowId id) {
       return OpenChild(id, new DaySummaryWindow(program_, area_), "summary");
     case WindowId::comparison:
       return OpenChild(id, new ComparisonWindow(program_, area_), "compare");
-    case WindowId::food_details:
     case WindowId::multi_day:
+      return OpenChild(id, new MultiDayWindow(program_, area_), "trend");
+    case WindowId::food_details:
       return;
   }
 }

@@ -71,7 +71,7 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_item_del, State::user, State::user},
     EnableRow{Command::mnu_item_favo, State::user, State::user},
     EnableRow{Command::mnu_uit_daguittreksel, State::day, State::day},
-    EnableRow{Command::mnu_uit_meerdaagsuittreksel, State::never, State::never},
+    EnableRow{Command::mnu_uit_meerdaagsuittreksel, State::user, State::user},
     EnableRow{Command::mnu_voedingswaarde_tabel, State::user, State::user},
     EnableRow{Command::mnu_weegschaal, State::empty, State::user},
     EnableRow{Command::mnu_website_Etenlijn, State::empty, State::empty},
