@@ -14,6 +14,8 @@ namespace {
 constexpr int kFirstShown = static_cast<int>(SummaryColumn::food);
 constexpr int kLeastFoodWidth = 90;
 constexpr int kHeadingMargin = 10;  // both sides of a heading together
+constexpr int kCellMargin = 8;      // the same of a cell
+constexpr int kMostNumber = 90;     // a number of forty digits leaves the others their place
 
 }  // namespace
 
@@ -77,7 +79,18 @@ void SummaryTable::resizeEvent(QResizeEvent* event) {
   Zet_Kolombreedtes();
 }
 
-// Each column has its given width, or what its heading needs; the foods have the rest.
+// What the longest number of a column needs; digits are all as wide as each other.
+int SummaryTable::WidthOfNumbers(std::size_t column) const {
+  std::string_view longest;
+  for (const SummaryRow& row : *rows_) {
+    const Text& cell = row.cells[column];
+    if (cell.size() > longest.size()) longest = cell;
+  }
+  return fontMetrics().horizontalAdvance(ToQtCell(longest)) + kCellMargin;
+}
+
+// Each column has its given width, or what its heading and its numbers need; the foods have the
+// rest.
 void SummaryTable::Zet_Kolombreedtes() {
   if (model_.columnCount() == 0) return;
   const auto widths = SummaryColumnWidths(TwipsOfPixels(width()));
@@ -85,8 +98,11 @@ void SummaryTable::Zet_Kolombreedtes() {
   int left = viewport()->width();
   for (int i = kFirstShown + 1; i < static_cast<int>(kSummaryColumns); ++i) {
     const QString heading = model_.headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
-    const int needed = letters.horizontalAdvance(heading.trimmed()) + kHeadingMargin;
-    const int column = std::max(PixelsOfTwips(widths[static_cast<std::size_t>(i)]), needed);
+    const int words = letters.horizontalAdvance(heading.trimmed()) + kHeadingMargin;
+    const auto place = static_cast<std::size_t>(i);
+    const bool text = IsTextColumn(static_cast<SummaryColumn>(i));
+    const int needed = std::max(words, text ? 0 : std::min(WidthOfNumbers(place), kMostNumber));
+    const int column = std::max(PixelsOfTwips(widths[place]), needed);
     setColumnWidth(i, column);
     left -= column;
   }

@@ -32,6 +32,7 @@ class SummaryTable : public QTableView {
 
  private:
   void Zet_Kolombreedtes();
+  [[nodiscard]] int WidthOfNumbers(std::size_t column) const;
   [[nodiscard]] std::set<Text> SelectedKeys() const;
   void SelectKeys(const std::set<Text>& keys);
   void ShowOrder(const std::optional<ColumnOrder>& order);

@@ -83,7 +83,8 @@ QString InWords(const Top5Entry& entry) {
 int WidthOfLines(const QLabel& label) {
   int width = 0;
   for (const QString& line : label.text().split('\n')) {
-    width = std::max(width, label.fontMetrics().horizontalAdvance(line));
+    // A fraction of a pixel less would cost the end of the line.
+    width = std::max(width, label.fontMetrics().horizontalAdvance(line) + 1);
   }
   return width;
 }

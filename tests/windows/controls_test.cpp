@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QTest>
 
 #include "core/frame/arrangement.h"
 #include "core/frame/data_window.h"
@@ -20,6 +21,7 @@
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
 #include "support/test_program.h"
+#include "windows/written_days.h"
 
 namespace kelvora {
 namespace {
@@ -152,6 +154,81 @@ Frame_1_2_b | Details 1 (per 100 grams) |
 Frame_2_2_b | Details 2 (per 100 grams) |
 page_help |  |
 Frame_hulp | Help |
+)");
+}
+
+TEST_F(ControlsOfADay, OfSeveralDays) {
+  WriteDays(program, 2);
+  for (std::size_t i = 0; i < 7; ++i) {
+    program.profile.strings[static_cast<std::size_t>(ProfileField::txt_kj) + i] = "100";
+  }
+  window.OpenWindow(WindowId::multi_day);
+  ASSERT_TRUE(
+      QTest::qWaitFor([this] { return Child("KV_tb_meerdaags").windowTitle() == "Trend"; }));
+  Child("KV_tb_meerdaags").findChild<QAbstractButton*>(QStringLiteral("Toolbar_3"))->click();
+  // Foods of 100 to 700 kilojoules on both days: 1400 of 5600 are 25 percent.
+  ExpectControls(Child("KV_tb_meerdaags"), R"(
+KV_tb_meerdaags | Trend |
+body |  |
+Toolbar | Views of the trend window |
+Toolbar_1 | Trend line | Generate a trend line for the current user
+Toolbar_2 | Rec. nutrition | Recommended nutrition's
+Toolbar_3 | Top 5 diagram | Top 5 consumptions
+Toolbar_4 | Consumption list | Summary of all consumptions
+panels |  |
+Pic_grafiekbox | Trend lines of all days |
+Pic_Grafiek_top | Time lines of the days |
+Pic_txt | Percentage of the highest value of each line |
+Pic_Grafiek | Trend lines of all days |
+Pic_dates | 01-03-04 - 02-03-04 |
+Pic_trendlijnen |  |
+Pic_trendlijnen_1 | Weight and energy |
+Bar_kleur_0 |  |
+Teken_lijn_0 | Food weight | Show the line of the food weight
+Bar_kleur_1 |  |
+Teken_lijn_1 | Energy, Kj / Kcal | Show the line of the energy
+Bar_kleur_2 |  |
+Teken_lijn_2 | Your weight | Show the line of your own weight
+Pic_trendlijnen_2 | Fats |
+Bar_kleur_3 |  |
+Teken_lijn_3 | Fat, unsaturated | Show the line of the unsaturated fat
+Bar_kleur_4 |  |
+Teken_lijn_4 | Fat, saturated | Show the line of the saturated fat
+Pic_trendlijnen_3 | Other nutrients |
+Bar_kleur_5 |  |
+Teken_lijn_5 | Carbohydrates | Show the line of the carbohydrates
+Bar_kleur_6 |  |
+Teken_lijn_6 | Protein | Show the line of the protein
+Bar_kleur_7 |  |
+Teken_lijn_7 | Sodium | Show the line of the sodium
+Teken_dag | Draw time lines | Draw a vertical line for every day
+Pic_Behoefte | Recommended nutrition and your average per day |
+pic_n_0 | Energy, Kj: 100 Kj, 100% | Energy, Kj: 100 Kj, 100%
+pic_g_0 | Energy, Kj used: 1500 Kj, 1500% | Energy, Kj used: 1500 Kj, 1500%
+pic_n_1 | Energy, Kcal: 100 Kcal, 100% | Energy, Kcal: 100 Kcal, 100%
+pic_g_1 | Energy, Kcal used: 358.5 Kcal, 358.5% | Energy, Kcal used: 358.5 Kcal, 358.5%
+pic_n_2 | Unsaturated fats: 100 gram, 100% | Unsaturated fats: 100 gram, 100%
+pic_g_2 | Unsaturated fat used: 10 Gram 10% | Unsaturated fat used: 10 Gram 10%
+pic_n_3 | Saturated fats: 100 gram, 100% | Saturated fats: 100 gram, 100%
+pic_g_3 | Saturated fat used: 5 Gram 5% | Saturated fat used: 5 Gram 5%
+pic_n_4 | Sodium: 100 gram, 100% | Sodium: 100 gram, 100%
+pic_g_4 | Sodium used: 2 Gram 2% | Sodium used: 2 Gram 2%
+pic_n_5 | Protein: 100 gram, 100% | Protein: 100 gram, 100%
+pic_g_5 | Protein used: 50 Gram 50% | Protein used: 50 Gram 50%
+pic_n_6 | Carbohydrates: 100 gram, 100% | Carbohydrates: 100 gram, 100%
+pic_g_6 | Carbohydrates used: 100 Gram 100% | Carbohydrates used: 100 Gram 100%
+Pic_top5 | Pie chart for: (Energy, Kj) |
+Graph_pie | Pie chart for: (Energy, Kj) |
+lbl_piecolor_0 | 7: 1400 Kj , 25% |
+lbl_piecolor_1 | 6: 1200 Kj , 21% |
+lbl_piecolor_2 | 5: 1000 Kj , 18% |
+lbl_piecolor_3 | 4: 800 Kj , 14% |
+lbl_piecolor_4 | 3: 600 Kj , 11% |
+lbl_piecolor_5 | Remaining consumptions: 10% |
+Pic_uittreksel |  |
+LV_uittreksel | Consumptions of all days |
+StatusBar |  |
+ProgressBar | Progress of the summary |
 )");
 }
 

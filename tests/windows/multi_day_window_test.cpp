@@ -166,6 +166,35 @@ TEST_F(SeveralDaysInTheProgram, ListTheirFoods) {
   EXPECT_EQ(Cell(0, SummaryColumn::food), "7");
 }
 
+TEST_F(SeveralDaysInTheProgram, ShowNumbersOfManyDaysWhole) {
+  for (const char* name : {"10", "11", "12"}) {
+    Rec_DayFile record;
+    record[DayFileField::Header] = Packed("Anna~~~~~~~~~") + name + Packed("-03-04~");
+    for (int i = 0; i < 400; ++i) {
+      record[DayFileField::Morning] += LineOf({.product = "Bread",
+                                               .gram = "35",
+                                               .kj = "343",
+                                               .kcal = "82",
+                                               .protein = "13",
+                                               .sodium = "1.25"}) +
+                                       kLineEnd;
+    }
+    WriteRecord(program.paths.FilesPath + name + "032004210000.kvf", record);
+  }
+  program.windows.geometry.multi_day = {9200, 5500, 60, 60};
+  Open();
+  Press(4);
+  EXPECT_EQ(Cell(7, SummaryColumn::kj), "411600");
+  EXPECT_EQ(Cell(7, SummaryColumn::sodium), "1500.000");
+  int right = 0;
+  for (int column = 1; column < 12; ++column) {
+    const QModelIndex cell = List()->model()->index(7, column);
+    EXPECT_GE(List()->columnWidth(column), List()->sizeHintForIndex(cell).width()) << column;
+    right = List()->columnViewportPosition(column) + List()->columnWidth(column);
+  }
+  EXPECT_LE(right, List()->viewport()->width());
+}
+
 TEST_F(SeveralDaysInTheProgram, ShowTheFiveLargestOfTheNutrientFromTheMenu) {
   Open();
   Press(3);
@@ -346,6 +375,7 @@ TEST_F(SeveralDaysInTheProgram, FollowTheLanguage) {
   EXPECT_EQ(Button(1)->text(), "Trendlijn");
   EXPECT_EQ(Label("StatusBar_2"), "Trendlijn van Anna");
   EXPECT_EQ(Label("Pic_nt_1"), "Aanbevolen:1000 kcal, 100%");
+  Press(4);
   EXPECT_EQ(List()->model()->headerData(11, Qt::Horizontal).toString(), "Koolh.");
 }
 
