@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
     AddDayBenchmarks(report);
     AddCountBenchmarks(report);
     AddBrowseBenchmarks(report);
+    AddYearsBenchmarks(report);
     AddNumberBenchmarks(report);
     AddLoadBenchmarks(report);
     AddSearchBenchmarks(report);

@@ -74,6 +74,7 @@ void AddLoadBenchmarks(Report& report);
 void AddSearchBenchmarks(Report& report);
 void AddDayBenchmarks(Report& report);
 void AddBrowseBenchmarks(Report& report);
+void AddYearsBenchmarks(Report& report);
 void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);

@@ -133,9 +133,7 @@ void MultiDay::Set_Taal() {
 }
 
 void MultiDay::Resize() {
-  if (Working()) return;
-  Genereer_Voedingsbehoefte();
-  Bouw_Top5();
+  if (!Working()) Bouw_Top5();
 }
 
 void MultiDay::ClickEntry(int position) {

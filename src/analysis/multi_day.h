@@ -29,7 +29,8 @@ class MultiDay {
   void Refresh_Meerdaagsuittreksel();
   // Brings what was written in one language into another: the charts and the status bar.
   void Set_Taal();
-  // The five largest and the averages as they are now, for a window of another size.
+  // The five largest as they are now, for a window of another size. The averages stay what they
+  // are, and their bars follow the panel.
   void Resize();
   // A position of the menu under the button that is down; chart, bars or pie follow.
   void ClickEntry(int position);

@@ -211,7 +211,7 @@ TEST_F(ReadingOfDays, OfOneDayTellsSoWithANormalPointer) {
   AddDay("a.kvf", {.trend = "1|"});
   const DayHistory& days = Read();
   EXPECT_TRUE(days.series.keys.empty());
-  EXPECT_EQ(OnlyBox(), kTooFew);
+  ASSERT_EQ(OnlyBox(), kTooFew);
   EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::warning);
   EXPECT_FALSE(test.pointer.waiting);
 }
