@@ -111,7 +111,10 @@ void AnalysisBody::ConnectAll() {
     sheet_.ClickColumn(column);
     ShowRows();
   });
-  connect(Pic_Behoefte_, &RequirementsPanel::Resized, this, &AnalysisBody::ShowBars);
+  // `Plaats_Balken`: the bars follow the panel.
+  connect(Pic_Behoefte_, &RequirementsPanel::Resized, this, [this] {
+    program_.Guard(CodeOf(sheet_.Window(), "#F9-14", "#F12-14"), [this] { ShowBars(); });
+  });
 }
 
 void AnalysisBody::SetCaptions() {
