@@ -1,9 +1,15 @@
-// All days of one user at a glance: 2, 10 and 20 years of them, of 600 different foods.
+// All days of one user at a glance: 2, 10 and 20 years of them, of 600 different foods; and their
+// chart drawn anew.
 #include <array>
+#include <chrono>
+#include <random>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QImage>
 
 #include "analysis/multi_day_window.h"
+#include "analysis/trend_panel.h"
 #include "diary.h"
 #include "platform/qt/qt_platform.h"
 #include "report.h"
@@ -62,6 +68,56 @@ void ReadFiles(benchmark::State& state, std::size_t days) {
   ReadSameFiles(state, DiaryOf(days, kFoods));
 }
 
+// Days one after the other, whose values go up and down without an end.
+DaySeries NoisyDays(std::size_t days) {
+  using namespace std::chrono;
+  DaySeries series;
+  std::minstd_rand random(1);
+  for (std::size_t i = 0; i < days; ++i) {
+    const year_month_day date{sys_days(year(2004) / 1 / 1) + std::chrono::days(i)};
+    series.keys.push_back(TwoDigits(static_cast<int>(date.year()) % 100) +
+                          TwoDigits(static_cast<int>(static_cast<unsigned>(date.month()))) +
+                          TwoDigits(static_cast<int>(static_cast<unsigned>(date.day()))));
+    for (std::size_t k = 0; k < kSeriesCount; ++k) {
+      series.L_data_1[k].push_back("1");
+      series.L_data_2[k].push_back(static_cast<double>(random() % 101));
+    }
+  }
+  return series;
+}
+
+// The chart with all its lines, as large as the window lets it be.
+struct Chart {
+  TestProgram test;
+  TrendPanel panel{test.program, nullptr};
+
+  Chart(std::size_t days, float tijdlijn_stand) {
+    for (QCheckBox* const tick : panel.findChildren<QCheckBox*>()) tick->setChecked(true);
+    panel.resize(748, 640);
+    panel.Show(NoisyDays(days), tijdlijn_stand);
+    panel.show();
+    QApplication::processEvents();
+  }
+};
+
+// A tick is taken away and set again, each time until the chart is on the screen.
+void DrawAnew(benchmark::State& state, std::size_t days) {
+  Chart chart(days, kPerDate);
+  auto* const tick = chart.panel.findChild<QCheckBox*>(QStringLiteral("Teken_lijn_7"));
+  for (auto _ : state) {
+    tick->click();
+    QApplication::processEvents();
+  }
+}
+
+void FillPicture(benchmark::State& state, std::size_t) {
+  QImage picture(748, 640, QImage::Format_RGB32);
+  for (auto _ : state) {
+    picture.fill(Qt::gray);
+    benchmark::ClobberMemory();
+  }
+}
+
 }  // namespace
 
 void AddYearsBenchmarks(Report& report) {
@@ -76,6 +132,8 @@ void AddYearsBenchmarks(Report& report) {
     report.AddPair("MultiDayWindow/" + std::to_string(days), reach, Plan::many,
                    of(OpenWindow, days), of(ReadFiles, days));
   }
+  report.AddPair("TrendChart/7300", UnderMicroseconds(16e3), Plan::many, of(DrawAnew, 7300),
+                 of(FillPicture, 7300));
 }
 
 }  // namespace kelvora::bench

@@ -12,6 +12,7 @@ import subprocess
 import time
 from pathlib import Path
 
+from day_file_writer import food, write_days
 from desktop import SPLASH, WIZARD, Desktop
 from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
 
@@ -29,6 +30,8 @@ DETAILS = "^(Food item details|Details van het voedingsmiddel)$"
 ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 
 
+TREND_BUTTON = {"english": (510, 60), "nederlands": (583, 65)}
+IN_THE_CHART = (600, 400)
 # The colours of a dark desktop, in the form in which one of the common ones keeps them.
 DARK = """[Colors:{0}]
 BackgroundNormal={1}
@@ -82,9 +85,14 @@ def take(desktop, path):
 
 def take_window(desktop, title, path):
     """One window with its frame."""
-    desktop.window(title)
-    window = desktop.output("xdotool", "search", "--onlyvisible", "--name", title).split()[-1]
-    subprocess.run(["import", "-frame", "-window", window, str(path)], env=desktop.environment,
+    found = []
+
+    def is_there():
+        found[:] = desktop.output("xdotool", "search", "--onlyvisible", "--name", title).split()
+        return found
+
+    desktop.wait_for(f"the window {title}", is_there)
+    subprocess.run(["import", "-frame", "-window", found[-1], str(path)], env=desktop.environment,
                    check=True)
 
 
@@ -156,6 +164,22 @@ def take_summary(desktop, folder, stem):
     desktop.click(diary)
     desktop.type("Slept well; walked 5 km.")
     take(desktop, folder / f"diary_{stem}.png")
+    desktop.keys("ctrl+z")  # as it was, so that nothing asks for it
+
+
+def take_trend(desktop, folder, stem):
+    """The four views of several months, the first with the pointer over a day."""
+    files = next(Path(desktop.home.name).rglob("Files"))
+    foods = [food(f"Food {letter}", kj=100 * place) for place, letter in enumerate("ABCDEFG", 1)]
+    write_days(files, [([1500 + 90 * (day % 7), 8000 + 150 * (day % 11), 1900 + 36 * (day % 11), 40,
+                         15, 250, 80, 2, 82 - day / 40], foods) for day in range(120)])
+    desktop.click(TREND_BUTTON[stem])
+    for view in (1, 2, 3, 4):
+        desktop.output("xdotool", "mousemove", *(str(side * desktop.scale) for side in IN_THE_CHART))
+        time.sleep(1.5)
+        take(desktop, folder / f"trend_{view}_{stem}.png")
+        desktop.keys("Tab", "space")
+    desktop.click(TREND_BUTTON[stem])
 
 
 def main():
@@ -188,6 +212,7 @@ def main():
         take_comparison(desktop, folder, stem)
         take_summary(desktop, folder, stem)
         desktop.keys("ctrl+s")
+        take_trend(desktop, folder, stem)
         desktop.keys("ctrl+o")
         desktop.click(DAYS_FIRST)
         take(desktop, folder / f"open_day_{stem}.png")

@@ -33,6 +33,7 @@
 #include "storage/food_files.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
+#include "windows/days_read.h"
 
 namespace kelvora {
 namespace {
@@ -73,8 +74,10 @@ class Windows {
       dialog->show();
     }
     Refresh_Totalen(program);
-    QApplication::processEvents();
+    Settle();
   }
+
+  void Settle() const { EXPECT_TRUE(DaysAreRead(main_)); }
 
   [[nodiscard]] QStringList Shown() const {
     QStringList shown;
@@ -215,7 +218,7 @@ class FollowingSettings : public testing::Test {
       Windows windows(program);
       before = windows.Shown();
       change();
-      QApplication::processEvents();
+      windows.Settle();
       followed = windows.Shown();
     }
     const Windows anew(program);

@@ -20,6 +20,7 @@
 #include "storage/folders.h"
 #include "storage/profile_file.h"
 #include "support/test_program.h"
+#include "windows/days_read.h"
 #include "windows/find_in.h"
 #include "windows/shown_texts.h"
 
@@ -112,7 +113,7 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
       CompareBox::first, "add-" + Text(test.program.store.L_ochtend[0]) + "\xBE");
   window.OpenWindow(WindowId::multi_day);
   window.UpdateStatusBar();
-  QApplication::processEvents();
+  EXPECT_TRUE(DaysAreRead(window));
   auto* const summary = window.findChild<QWidget*>("KV_tb_daguittreksel");
   ASSERT_NE(summary, nullptr);
   for (int view = 1; view <= 4; ++view) {

@@ -34,6 +34,7 @@
 #include "language/built_in_texts.h"
 #include "storage/folders.h"
 #include "support/test_program.h"
+#include "windows/days_read.h"
 #include "windows/written_days.h"
 
 namespace kelvora {
@@ -252,6 +253,7 @@ TEST_F(WindowLayout, OfTheMainWindowWithADay) {
     window.OpenWindow(WindowId::day_summary);
     window.OpenWindow(WindowId::multi_day);
     window.UpdateCommands();
+    EXPECT_TRUE(DaysAreRead(window));
     Look(window, 150);
     // The other panels of the day summary.
     for (const char* button : {"Toolbar_2", "Toolbar_3", "Toolbar_4"}) {

@@ -24,6 +24,7 @@
 #include "storage/folders.h"
 #include "storage/profile_file.h"
 #include "support/test_program.h"
+#include "windows/days_read.h"
 #include "windows/shown_texts.h"
 #include "windows/written_days.h"
 
@@ -132,7 +133,7 @@ class WindowTexts : public testing::Test {
     window.OpenWindow(WindowId::multi_day);
     window.UpdateCommands();
     window.UpdateStatusBar();
-    QApplication::processEvents();
+    EXPECT_TRUE(DaysAreRead(window));
   }
 
   TestProgram test;
