@@ -11,6 +11,7 @@
 #include "analysis/multi_day_window.h"
 #include "analysis/trend_panel.h"
 #include "diary.h"
+#include "nutrition/dates.h"
 #include "platform/qt/qt_platform.h"
 #include "report.h"
 
