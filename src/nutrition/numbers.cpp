@@ -130,6 +130,16 @@ Text WriteShortest(Number value, std::string_view separator) {
   return text;
 }
 
+// RoundTo by arithmetic, which is many times faster. A single has 24 bits: with a power of ten up
+// to these it fits into a double exactly, and so does the place where it lies half-way. The
+// quotient is too far from the middle between two singles for being rounded twice to show.
+constexpr std::array<double, 7> kPowersOfTen = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+float RoundToFewDecimals(float value, std::size_t decimals) {
+  const double power = kPowersOfTen[decimals];
+  const double rounded = std::nearbyint(value * power);
+  return rounded == 0 ? 0.0f : static_cast<float>(rounded / power);
+}
+
 }  // namespace
 
 double Val(std::string_view text) {
@@ -172,6 +182,10 @@ float Single(double value) {
 }
 
 float RoundTo(float value, int decimals) {
+  if (!std::isfinite(value)) ThrowSystemError(std::errc::result_out_of_range);
+  if (decimals >= 0 && decimals < static_cast<int>(kPowersOfTen.size())) {
+    return RoundToFewDecimals(value, static_cast<std::size_t>(decimals));
+  }
   // A single has at most 112 significant decimal digits: that many are its exact value.
   constexpr int kExact = 112;
   const Decimal rounded = RoundDecimal(NearestDecimal(value, kExact), decimals, Halves::to_even);
