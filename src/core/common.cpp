@@ -17,6 +17,25 @@ constexpr std::array kPriorityFields = {FoodField::kKj,   FoodField::kKcal,  Foo
 constexpr std::array<std::string_view, 6> kPriorityPatterns = {"#####0", "####0", "###0",
                                                                "###0",   "###0",  "###0"};
 
+// What CleanText makes of each byte.
+struct Cleaned {
+  char byte = 0;
+  bool stays = true;
+};
+constexpr auto kCleaned = [] {
+  constexpr std::string_view kAccented = "áéíóúäëïöü"_w;
+  constexpr std::string_view kPlain = "aeiouaeiou";
+  constexpr std::string_view kRemoved = "?@#%^&*()'€$£¦"_w;
+  std::array<Cleaned, 256> cleaned{};
+  for (std::size_t code = 0; code < cleaned.size(); ++code) {
+    const char byte = static_cast<char>(code);
+    const std::size_t place = kAccented.find(byte);
+    cleaned[code].byte = place == kAccented.npos ? byte : kPlain[place];
+    cleaned[code].stays = kRemoved.find(byte) == kRemoved.npos;
+  }
+  return cleaned;
+}();
+
 TextList* ListOfRoutingCode(KV_data& store, std::string_view code) {
   for (const DayPart part : kDayParts) {
     if (RoutingCodeOf(part) == code) return &store.ListOf(part);
@@ -60,14 +79,12 @@ bool CategoryKnown(const KV_data& store, std::string_view category) {
 }
 
 Text& CleanText(Text& text) {
-  constexpr std::string_view kAccented = "áéíóúäëïöü"_w;
-  constexpr std::string_view kPlain = "aeiouaeiou";
-  static constexpr std::string_view kRemoved = "?@#%^&*()'€$£¦"_w;
-  std::erase_if(text, [](char c) { return kRemoved.find(c) != kRemoved.npos; });
-  for (char& c : text) {
-    const std::size_t place = kAccented.find(c);
-    if (place != kAccented.npos) c = kPlain[place];
+  auto end = text.begin();
+  for (const char c : text) {
+    const Cleaned& cleaned = kCleaned[static_cast<unsigned char>(c)];
+    if (cleaned.stays) *end++ = cleaned.byte;
   }
+  text.erase(end, text.end());
   return text;
 }
 
