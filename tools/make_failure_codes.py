@@ -27,8 +27,9 @@ MODULES = {
     9: "Declarations_Interface", 10: "Declarations_printen", 11: "Declarations_Rekenfuncties",
     12: "Declarations_language_files",
 }
-# Two conversions that share a code, as they are meant to.
-SHARED = {("FF", 11, 1): {"Lbs_To_Kg", "Kg_To_Lbs"}}
+# Routines that share a code, as they are meant to.
+SHARED = {("FF", 11, 1): {"Lbs_To_Kg", "Kg_To_Lbs"},
+          ("FF", 6, 2): {"Export_HTML_Index_Head", "Export_HTML_Index_Row"}}
 
 HEAD = """# Failure codes
 

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace kelvora {
@@ -37,6 +38,13 @@ std::vector<TableRow> ReadTable(const std::string& name, std::string_view column
   }
   if (rows.empty()) throw std::runtime_error(name + " is empty");
   return rows;
+}
+
+std::string ReadExpectedFile(const std::string& name) {
+  std::ifstream file(KELVORA_ORACLES "/" + name, std::ios::binary);
+  std::string bytes(std::istreambuf_iterator<char>(file), {});
+  if (bytes.empty()) throw std::runtime_error(name + " can't be read");
+  return bytes;
 }
 
 double NumberOf(const std::string& text) {

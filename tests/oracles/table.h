@@ -14,6 +14,9 @@ using TableRow = std::vector<std::string>;
 // not `columns` (separated by blanks), or if a row has another number of fields.
 [[nodiscard]] std::vector<TableRow> ReadTable(const std::string& name, std::string_view columns);
 
+// The bytes of tests/oracles/`name`. Throws if it can't be read or is empty.
+[[nodiscard]] std::string ReadExpectedFile(const std::string& name);
+
 // A table's number, decimal or hexadecimal, with nothing behind it.
 [[nodiscard]] double NumberOf(const std::string& text);
 
