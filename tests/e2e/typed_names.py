@@ -72,9 +72,10 @@ def new_day(desktop):
 
 
 def expect_hint(desktop, enter, picture):
-    """Enters something; much more than the box of the name itself has changed then."""
+    """Gives a command that enters something; much more than the box of the name itself has changed
+    then. The hint doesn't stand for ever, so nothing waits for the screen to stand still before."""
     before = region(desktop.picture(), *PERSON)
-    enter()
+    desktop.output("xdotool", *enter)
 
     def much_has_changed():
         after = region(desktop.picture(), *PERSON)
@@ -84,6 +85,7 @@ def expect_hint(desktop, enter, picture):
     if picture is not None:
         subprocess.run(["import", "-window", "root", str(picture)], env=desktop.environment,
                        check=True)
+    desktop.settle()
 
 
 def main():
@@ -94,7 +96,7 @@ def main():
         users = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users")
 
         new_day(desktop)
-        expect_hint(desktop, lambda: desktop.type("Łukasz"), pictures and pictures / "typed.png")
+        expect_hint(desktop, ["type", "--delay", "40", "Łukasz"], pictures and pictures / "typed.png")
         fill_in_the_rest(desktop)
         begin_day(desktop, users, ["ukasz"])
 
@@ -104,7 +106,7 @@ def main():
                                  stdout=subprocess.PIPE)
         desktop.processes.append(owner)
         assert owner.stdout.readline() == "ready\n"
-        expect_hint(desktop, lambda: desktop.keys("ctrl+v"), pictures and pictures / "pasted.png")
+        expect_hint(desktop, ["key", "ctrl+v"], pictures and pictures / "pasted.png")
         fill_in_the_rest(desktop)
         desktop.keys("Return")
         # Without a name nobody is let through; a box says so.
