@@ -31,7 +31,7 @@ DaySummaryWindow::DaySummaryWindow(Program& program, QWidget* parent)
   body_->AddPanel(Pic_BMI_);
   BuildRescale();
   connect(body_, &AnalysisBody::EntryChosen, this, &DaySummaryWindow::ClickEntry);
-  connect(body_, &AnalysisBody::ViewShown, this, &DaySummaryWindow::ShowCharts);
+  connect(body_, &AnalysisBody::ViewShown, this, &DaySummaryWindow::ShowBmi);
   SetCaptions();
   Interface_Draw();
   body_->ShowView();
@@ -83,7 +83,8 @@ void DaySummaryWindow::Set_Taal() {
   SetCaptions();
   body_->ShowBars();
   body_->ShowRows();
-  ShowCharts();
+  body_->ShowPie();
+  ShowBmi();
   body_->ShowStatus();
 }
 
@@ -92,7 +93,8 @@ void DaySummaryWindow::Refresh_Daguittreksel() {
   // The other captions only change with the language or the size.
   setWindowTitle(ToQt(summary_->Title()));
   body_->ShowRows();
-  ShowCharts();
+  body_->ShowPie();
+  ShowBmi();
   body_->ShowStatus();
 }
 
@@ -105,8 +107,7 @@ void DaySummaryWindow::ClickEntry(int position) {
   if (Survives([&](DaySummary& summary) { summary.ClickEntry(position); })) body_->ShowView();
 }
 
-void DaySummaryWindow::ShowCharts() {
-  body_->ShowPie();
+void DaySummaryWindow::ShowBmi() {
   if (body_->Shows(Pic_BMI_)) Pic_BMI_->Show(summary_->Bmi());
 }
 

@@ -43,7 +43,7 @@ class DaySummaryWindow : public QWidget, public DaySummaryView {
   // Lets the summary do it; false if the window is gone then.
   [[nodiscard]] bool Survives(const std::function<void(DaySummary&)>& work);
   void ClickEntry(int position);
-  void ShowCharts();
+  void ShowBmi();
 
   Program& program_;
   OpenFlag<DaySummaryView> open_flag_;

@@ -97,8 +97,6 @@ void MultiDayWindow::ShowStage() {
 
 void MultiDayWindow::ShowAll() {
   ShowStage();
-  body_->ShowRows();
-  body_->ShowPie();
   body_->ShowBars();
   body_->ShowView();
   body_->Toolbar().Mark(AnalysisView::trend,
