@@ -112,6 +112,11 @@ class Desktop:
             self.no_window(WIZARD)
         return process
 
+    def layout(self, layout):
+        """Gives the keyboard another layout. A letter that no key has is typed by giving it to a spare
+        key for a moment: a program that is busy for longer than that reads another letter."""
+        subprocess.run(["setxkbmap", "-layout", layout], env=self.environment, check=True)
+
     def shows(self, title):
         """Whether a visible window has that title now."""
         return bool(self.output("xdotool", "search", "--onlyvisible", "--name", title))

@@ -92,6 +92,7 @@ def main():
     program, clipboard = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve()
     pictures = Path(sys.argv[3]) if len(sys.argv) > 3 else None
     with Desktop() as desktop:
+        desktop.layout("pl")
         desktop.start(program, first_run=True)
         users = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users")
 
