@@ -60,6 +60,10 @@ std::optional<std::size_t> TextList::FindLast(std::string_view key) const {
   return std::nullopt;
 }
 
+void TextList::ShareBlocks(const TextList& source) {
+  blocks_.insert(blocks_.end(), source.blocks_.begin(), source.blocks_.end());
+}
+
 std::string_view TextList::Keep(std::initializer_list<std::string_view> pieces) {
   std::size_t size = 0;
   for (const std::string_view piece : pieces) size += piece.size();

@@ -53,6 +53,8 @@ class TextList {
  private:
   using Block = std::shared_ptr<char[]>;
 
+  // Holds on to the blocks of another list.
+  void ShareBlocks(const TextList& source);
   // Copies the pieces behind each other into a block.
   std::string_view Keep(std::initializer_list<std::string_view> pieces);
 
@@ -69,7 +71,7 @@ class TextList {
 
 template <class Wanted>
 void TextList::AddSharedLines(const TextList& source, Wanted wanted) {
-  blocks_.insert(blocks_.end(), source.blocks_.begin(), source.blocks_.end());
+  ShareBlocks(source);
   for (const std::string_view line : source) {
     if (wanted(line)) lines_.push_back(line);
   }
