@@ -179,7 +179,7 @@ class Desktop:
         end = time.monotonic() + 30
         before, since = self.screen(), time.monotonic()
         while time.monotonic() < end:
-            time.sleep(0.02)
+            time.sleep(0.04)
             now = self.screen()
             if now != before or self.at_work():
                 before, since = now, time.monotonic()

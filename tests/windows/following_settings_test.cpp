@@ -209,20 +209,19 @@ class FollowingSettings : public testing::Test {
     ASSERT_TRUE(Save_From_Form(program, form));
   }
 
-  // Makes the change with every window open, and opens all windows anew.
+  // Makes the change with every window open, and opens all windows anew. Those are open for the
+  // next change.
   template <class Change>
   void ExpectFollowed(const char* what, Change change) {
     SCOPED_TRACE(what);
-    QStringList followed;
-    {
-      Windows windows(program);
-      before = windows.Shown();
-      change();
-      windows.Settle();
-      followed = windows.Shown();
-    }
-    const Windows anew(program);
-    const QStringList expected = anew.Shown();
+    if (windows == nullptr) windows = std::make_unique<Windows>(program);
+    before = windows->Shown();
+    change();
+    windows->Settle();
+    const QStringList followed = windows->Shown();
+    windows.reset();
+    windows = std::make_unique<Windows>(program);
+    const QStringList expected = windows->Shown();
     changed = followed != before;
     ASSERT_EQ(followed.size(), expected.size());
     for (qsizetype i = 0; i < expected.size(); ++i) {
@@ -242,6 +241,7 @@ class FollowingSettings : public testing::Test {
 
   TestProgram test;
   Program& program = test.program;
+  std::unique_ptr<Windows> windows;
   QStringList before;
   bool changed = false;
 };
