@@ -33,7 +33,7 @@ std::optional<FileInfo> InfoOf(const std::string& path) {
   return std::nullopt;
 }
 
-FileInfo InfoOf(const OpenFile& file) {
+FileInfo InfoOf(const FileHandle& file) {
   FileInfo info{};
   if (fstat(file.Descriptor(), &info) != 0) ThrowLastError();
   return info;
@@ -48,10 +48,10 @@ FileStamp StampOf(const FileInfo& info) {
   return {info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec};
 }
 
-OpenFile Open(const std::string& path, int flags, mode_t mode = 0) {
+FileHandle Open(const std::string& path, int flags, mode_t mode = 0) {
   const int descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, mode);
   if (descriptor < 0) ThrowLastError();
-  return OpenFile(descriptor);
+  return FileHandle(descriptor);
 }
 
 // A file that nobody may write is not deleted either, though its folder would allow it.
@@ -83,7 +83,7 @@ void Remove(const std::string& path) {
   if (unlink(path.c_str()) != 0) ThrowLastError();
 }
 
-void WriteBytes(const OpenFile& file, std::string_view bytes) {
+void WriteBytes(const FileHandle& file, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written = write(file.Descriptor(), bytes.data(), bytes.size());
     if (written < 0 && errno == EINTR) continue;
@@ -93,7 +93,7 @@ void WriteBytes(const OpenFile& file, std::string_view bytes) {
 }
 
 // Not every file system knows how to.
-void Sync(const OpenFile& file) {
+void Sync(const FileHandle& file) {
   if (fsync(file.Descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP) ThrowLastError();
 }
 
@@ -102,13 +102,13 @@ void SyncFolder(const std::string& path) {
   // One may write into a folder without being allowed to list it.
   if (descriptor < 0 && errno == EACCES) return;
   if (descriptor < 0) ThrowLastError();
-  const OpenFile folder(descriptor);
+  const FileHandle folder(descriptor);
   Sync(folder);
 }
 
 void WriteNewFile(const std::string& path, std::string_view bytes, std::optional<mode_t> mode) {
   constexpr mode_t kByMask = 0666;
-  OpenFile file = Open(path, O_WRONLY | O_CREAT | O_TRUNC, mode ? S_IRUSR | S_IWUSR : kByMask);
+  FileHandle file = Open(path, O_WRONLY | O_CREAT | O_TRUNC, mode ? S_IRUSR | S_IWUSR : kByMask);
   // Some file systems have no modes.
   if (mode && fchmod(file.Descriptor(), *mode) != 0) errno = 0;
   WriteBytes(file, bytes);
@@ -123,23 +123,24 @@ void IgnoreFileSignals() {
   std::signal(SIGPIPE, SIG_IGN);
 }
 
-OpenFile::OpenFile(OpenFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+FileHandle::FileHandle(FileHandle&& other) noexcept
+    : descriptor_(std::exchange(other.descriptor_, -1)) {}
 
-OpenFile::~OpenFile() {
+FileHandle::~FileHandle() {
   if (descriptor_ >= 0) close(descriptor_);
 }
 
-void OpenFile::Close() {
+void FileHandle::Close() {
   if (close(std::exchange(descriptor_, -1)) != 0) ThrowLastError();
 }
 
-OpenFile OpenForReading(const std::string& path) {
-  OpenFile file = Open(path, O_RDONLY);
+FileHandle OpenForReading(const std::string& path) {
+  FileHandle file = Open(path, O_RDONLY);
   ThrowIfNoRegularFile(InfoOf(file));
   return file;
 }
 
-std::string ReadBytes(const OpenFile& file) {
+std::string ReadBytes(const FileHandle& file) {
   std::string bytes(static_cast<std::size_t>(InfoOf(file).st_size), '\0');
   std::size_t size = 0;
   while (size < bytes.size()) {
@@ -153,7 +154,7 @@ std::string ReadBytes(const OpenFile& file) {
   return bytes;
 }
 
-FileStamp StampOf(const OpenFile& file) {
+FileStamp StampOf(const FileHandle& file) {
   return StampOf(InfoOf(file));
 }
 

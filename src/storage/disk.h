@@ -21,12 +21,12 @@ void IgnoreFileSignals();
 enum class NewFileMode { by_mask, owner_only };
 
 // An open file; closed with this object, without asking how that went.
-class OpenFile {
+class FileHandle {
  public:
-  explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
-  OpenFile(OpenFile&& other) noexcept;
-  OpenFile& operator=(OpenFile&&) = delete;
-  ~OpenFile();
+  explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+  FileHandle(FileHandle&& other) noexcept;
+  FileHandle& operator=(FileHandle&&) = delete;
+  ~FileHandle();
 
   [[nodiscard]] int Descriptor() const { return descriptor_; }
   // Closes it now.
@@ -37,13 +37,13 @@ class OpenFile {
 };
 
 // Opens a regular file for reading. A folder, a pipe or a device is refused without waiting for it.
-[[nodiscard]] OpenFile OpenForReading(const std::string& path);
+[[nodiscard]] FileHandle OpenForReading(const std::string& path);
 
 // The bytes of the file, as many as it has at the call.
-[[nodiscard]] std::string ReadBytes(const OpenFile& file);
+[[nodiscard]] std::string ReadBytes(const FileHandle& file);
 
 // The state of an open file, and of the one at a path: nothing if there is none.
-[[nodiscard]] FileStamp StampOf(const OpenFile& file);
+[[nodiscard]] FileStamp StampOf(const FileHandle& file);
 [[nodiscard]] std::optional<FileStamp> StampOf(const std::string& path);
 
 // True if anything has that path, be it a link that leads nowhere.

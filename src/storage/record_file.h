@@ -34,7 +34,7 @@ class InputFile {
   [[nodiscard]] FileStamp Stamp() const { return StampOf(file_); }
 
  private:
-  OpenFile file_;
+  FileHandle file_;
 };
 
 // The whole file. Throws std::system_error.
