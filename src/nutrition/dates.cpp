@@ -63,6 +63,12 @@ LongDateOrder DateOrder(const Locale& locale) {
   return month < day ? LongDateOrder::month_day_year : LongDateOrder::day_month_year;
 }
 
+Text ShortDateOf(const LocalTime& time, const Locale& locale) {
+  Text date = locale.ShortDate(time);
+  if (!date.empty()) return date;
+  return TwoDigits(time.day) + "-" + TwoDigits(time.month) + "-" + std::to_string(time.year);
+}
+
 Text TwoDigits(int number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }

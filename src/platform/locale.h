@@ -26,6 +26,8 @@ class Locale {
   [[nodiscard]] virtual Text LongDatePattern() const = 0;
   // The full name of the weekday, in the system's language; empty if text can't hold it.
   [[nodiscard]] virtual Text WeekdayName(const LocalTime& time) const = 0;
+  // The date in the system's short form; empty if text can't hold it.
+  [[nodiscard]] virtual Text ShortDate(const LocalTime& time) const = 0;
 };
 
 }  // namespace kelvora

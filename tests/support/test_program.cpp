@@ -47,6 +47,12 @@ Text FixedLocale::WeekdayName(const LocalTime& time) const {
   return kNames.at(static_cast<std::size_t>(days % 7));
 }
 
+Text FixedLocale::ShortDate(const LocalTime& time) const {
+  if (short_date) return *short_date;
+  return std::to_string(time.day) + date_mark + std::to_string(time.month) + date_mark +
+         std::to_string(time.year);
+}
+
 bool RecordingOpener::Open(const std::string& address) {
   opened.push_back(address);
   return knows_a_program;

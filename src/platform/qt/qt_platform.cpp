@@ -78,6 +78,12 @@ QDateTime DateTimeOf(const LocalTime& time) {
   return {QDate(time.year, time.month, time.day), QTime(time.hour, time.minute, time.second)};
 }
 
+// Empty if text can't hold it.
+Text WholeTextOf(const QString& shown) {
+  const Text text = FromQt(shown);
+  return ToQt(text) == shown ? text : Text();
+}
+
 std::string Standard(QStandardPaths::StandardLocation location) {
   return QStandardPaths::writableLocation(location).toStdString();
 }
@@ -148,9 +154,11 @@ Text QtLocale::LongDatePattern() const {
 }
 
 Text QtLocale::WeekdayName(const LocalTime& time) const {
-  const QString name = QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd"));
-  const Text text = FromQt(name);
-  return ToQt(text) == name ? text : Text();
+  return WholeTextOf(QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd")));
+}
+
+Text QtLocale::ShortDate(const LocalTime& time) const {
+  return WholeTextOf(QLocale::system().toString(DateTimeOf(time).date(), QLocale::ShortFormat));
 }
 
 std::string QtFolders::ApplicationData() const {

@@ -29,6 +29,7 @@ class QtLocale : public Locale {
   Text HourMinuteSecond(const LocalTime& time) const override;
   Text LongDatePattern() const override;
   Text WeekdayName(const LocalTime& time) const override;
+  Text ShortDate(const LocalTime& time) const override;
 };
 
 class QtFolders : public Folders {
