@@ -57,15 +57,17 @@ Text Joined(std::initializer_list<std::string_view> pieces) {
 
 void Report::Add(const Rec_DayFile& day, std::string_view shown_date) {
   if (options_.format == ReportFormat::xml) {
-    sections_ += Export_XML_Day(context_, day, options_.diary);
+    sections_.push_back(Export_XML_Day(context_, day, options_.diary));
   } else {
     const PageKind& kind = KindOf(options_.format);
     index_ += kind.index_row(context_, day);
-    sections_ += kind.day(context_, day, options_.diary);
+    sections_.push_back(kind.day(context_, day, options_.diary));
     for (std::size_t i = 0; options_.graphs && i < bars_.size(); ++i) {
       bars_[i] += kind.graph_bar(context_, day, kReportGraphs[i]);
     }
   }
+  // What a text has grown beyond its end is as much again where there are many.
+  sections_.back().shrink_to_fit();
   if (start_date_.empty()) start_date_ = shown_date;
   end_date_ = shown_date;
   ++days_;
@@ -75,33 +77,43 @@ ReportSpan Report::Span(std::string_view user_name) const {
   return {user_name, days_, start_date_, end_date_};
 }
 
-Text Report::Join(std::string_view user_name, const ReportDay& today) const {
+std::vector<Text> Report::TakePieces(std::string_view user_name, const ReportDay& today) {
   const ReportSpan span = Span(user_name);
-  return options_.format == ReportFormat::xml ? JoinXml(span) : JoinPage(span, today);
+  const bool xml = options_.format == ReportFormat::xml;
+  std::vector<Text> pieces = std::move(sections_);
+  pieces.insert(pieces.begin(), xml ? FrontOfXml(span) : FrontOfPage(span));
+  pieces.push_back(xml ? Export_XML_Footer(context_)
+                       : KindOf(options_.format).footer(context_, today));
+  return pieces;
 }
 
-Text Report::JoinXml(const ReportSpan& span) const {
-  return Joined(
-      {Export_XML_Header(context_, span.start_date, span.end_date, span.days, span.user_name),
-       days_ > 0 ? Export_XML_User(context_) : Text(), sections_, Export_XML_Footer(context_)});
+Text Report::FrontOfXml(const ReportSpan& span) const {
+  const Text user = days_ > 0 ? Export_XML_User(context_) : Text();
+  return Export_XML_Header(context_, span.start_date, span.end_date, span.days, span.user_name) +
+         user;
 }
 
-Text Report::JoinPage(const ReportSpan& span, const ReportDay& today) const {
+Text Report::FrontOfPage(const ReportSpan& span) const {
   const PageKind& kind = KindOf(options_.format);
-  Text head, user, graphs;
+  Text head, user;
   if (kind.has_head_and_user) {
     head = Export_HTML_Header(context_, span);
     user = Export_HTML_User(context_, span.days);
   }
-  if (options_.graphs && (days_ > 0 || kind.has_empty_graphs)) {
-    for (std::size_t i = 0; i < bars_.size(); ++i) {
-      graphs += kind.graph_open(context_);
-      graphs += bars_[i];
-      graphs += kind.graph_close(context_, TitleOf(kReportGraphs[i], context_.texts));
-    }
+  return Joined(
+      {head, user, kind.index_head(context_), index_, kind.index_end(context_), Graphs()});
+}
+
+Text Report::Graphs() const {
+  const PageKind& kind = KindOf(options_.format);
+  Text graphs;
+  if (!options_.graphs || (days_ == 0 && !kind.has_empty_graphs)) return graphs;
+  for (std::size_t i = 0; i < bars_.size(); ++i) {
+    graphs += kind.graph_open(context_);
+    graphs += bars_[i];
+    graphs += kind.graph_close(context_, TitleOf(kReportGraphs[i], context_.texts));
   }
-  return Joined({head, user, kind.index_head(context_), index_, kind.index_end(context_), graphs,
-                 sections_, kind.footer(context_, today)});
+  return graphs;
 }
 
 }  // namespace kelvora

@@ -1,8 +1,9 @@
-// One report while it is made: days are added in the order of the list, then the whole is joined.
-// Reads and writes no file.
+// One report while it is made: days are added in the order of the list, then the whole is taken, in
+// pieces, since the days of many years make a large file. Reads and writes no file.
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "output/html.h"
 
@@ -29,12 +30,14 @@ class Report {
   // valid as long as the report and `user_name`.
   [[nodiscard]] ReportSpan Span(std::string_view user_name) const;
 
-  // The file, in Windows-1252. `user_name` is that of the user's folder.
-  [[nodiscard]] Text Join(std::string_view user_name, const ReportDay& today) const;
+  // The file as pieces that follow each other, in Windows-1252. The days are taken out of the
+  // report: asked once. `user_name` is that of the user's folder.
+  [[nodiscard]] std::vector<Text> TakePieces(std::string_view user_name, const ReportDay& today);
 
  private:
-  [[nodiscard]] Text JoinXml(const ReportSpan& span) const;
-  [[nodiscard]] Text JoinPage(const ReportSpan& span, const ReportDay& today) const;
+  [[nodiscard]] Text FrontOfXml(const ReportSpan& span) const;
+  [[nodiscard]] Text FrontOfPage(const ReportSpan& span) const;
+  [[nodiscard]] Text Graphs() const;
 
   const ReportContext& context_;
   ReportOptions options_;
@@ -42,7 +45,7 @@ class Report {
   Text start_date_, end_date_;
   Text index_;
   std::array<Text, kReportGraphs.size()> bars_;
-  Text sections_;
+  std::vector<Text> sections_;  // one for each day
 };
 
 }  // namespace kelvora

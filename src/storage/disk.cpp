@@ -106,12 +106,12 @@ void SyncFolder(const std::string& path) {
   Sync(folder);
 }
 
-void WriteNewFile(const std::string& path, std::string_view bytes, std::optional<mode_t> mode) {
+void WriteNewFile(const std::string& path, FilePieces pieces, std::optional<mode_t> mode) {
   constexpr mode_t kByMask = 0666;
   FileHandle file = Open(path, O_WRONLY | O_CREAT | O_TRUNC, mode ? S_IRUSR | S_IWUSR : kByMask);
   // Some file systems have no modes.
   if (mode && fchmod(file.Descriptor(), *mode) != 0) errno = 0;
-  WriteBytes(file, bytes);
+  for (const std::string_view piece : pieces) WriteBytes(file, piece);
   Sync(file);
   file.Close();
 }
@@ -171,7 +171,7 @@ bool PathIsTaken(const std::string& path) {
   return false;
 }
 
-void ReplaceFile(const std::string& path, std::string_view bytes, NewFileMode new_mode) {
+void ReplaceFile(const std::string& path, FilePieces pieces, NewFileMode new_mode) {
   std::optional<mode_t> mode;
   if (new_mode == NewFileMode::owner_only) mode = S_IRUSR | S_IWUSR;
   const auto old = InfoOf(path);
@@ -180,11 +180,13 @@ void ReplaceFile(const std::string& path, std::string_view bytes, NewFileMode ne
     ThrowIfWriteProtected(path, *old);
     mode = old->st_mode & 07777u;
   }
-  ThrowIfNoRoom(path, bytes.size(), old ? &*old : nullptr);
+  std::uint64_t size = 0;
+  for (const std::string_view piece : pieces) size += piece.size();
+  ThrowIfNoRoom(path, size, old ? &*old : nullptr);
   // Another program may make it anew meanwhile.
   while (InfoOf(path)) Remove(path);
   try {
-    WriteNewFile(path, bytes, mode);
+    WriteNewFile(path, pieces, mode);
   } catch (...) {
     // A part of a file would be taken for the whole.
     unlink(path.c_str());

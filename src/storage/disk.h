@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -49,11 +50,14 @@ class FileHandle {
 // True if anything has that path, be it a link that leads nowhere.
 [[nodiscard]] bool PathIsTaken(const std::string& path);
 
+// What a file is to hold: pieces that follow each other.
+using FilePieces = std::span<const std::string_view>;
+
 // Deletes the file, writes all bytes as a new one of the same mode, syncs it and its folder. Where
 // the disk has no room for the bytes, and a file that may not be written stays as it was; at any
 // later failure no file is left, neither the old one nor a part of the new one, but for the last:
 // when only the folder can't be synced.
-void ReplaceFile(const std::string& path, std::string_view bytes, NewFileMode mode);
+void ReplaceFile(const std::string& path, FilePieces pieces, NewFileMode mode);
 
 // Deletes the file if there is one, or the link if it leads nowhere.
 void DeleteFileIfThere(const std::string& path);

@@ -84,7 +84,12 @@ std::string ReadFile(const std::string& path) {
 }
 
 void WriteFileAnew(const std::string& path, std::string_view bytes, NewFileMode mode) {
-  ReplaceFile(path, bytes, mode);
+  ReplaceFile(path, FilePieces(&bytes, 1), mode);
+}
+
+void WriteFileAnew(const std::string& path, std::span<const Text> pieces) {
+  const std::vector<std::string_view> views(pieces.begin(), pieces.end());
+  ReplaceFile(path, views, NewFileMode::by_mask);
 }
 
 bool DecodeFirstRecord(std::string_view bytes, std::span<Text> strings) {

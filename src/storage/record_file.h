@@ -44,6 +44,8 @@ class InputFile {
 // fails, the closing included.
 void WriteFileAnew(const std::string& path, std::string_view bytes,
                    NewFileMode mode = NewFileMode::by_mask);
+// The same of pieces that follow each other, for what is too large to be joined first.
+void WriteFileAnew(const std::string& path, std::span<const Text> pieces);
 
 // Fills `strings` from the first record of `bytes`; false, with `strings` untouched, if the count
 // is 0 or less. Fewer bytes than a count has are a file cut short: its strings are empty. Views

@@ -51,7 +51,9 @@ struct ReportProgram : TestProgram {
       SplitBlock(day[DayFileField::Header], header);
       report.Add(day, ShownDate(context, header[HeaderRow::kDate]));
     }
-    return report.Join(user_name, today);
+    Text whole;
+    for (const Text& piece : report.TakePieces(user_name, today)) whole += piece;
+    return whole;
   }
 };
 

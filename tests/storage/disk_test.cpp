@@ -65,6 +65,29 @@ TEST(Disk, AllBytesGoOutInOneWriteBetweenDeleteAndSyncs) {
   }
 }
 
+TEST(Disk, PiecesFollowEachOtherAndNeedTheRoomOfAll) {
+  TemporaryFolder folder;
+  const std::string path = folder.Path("file");
+  const std::vector<Text> pieces = {"one", "", std::string(5000, 'x'), "end"};
+  {
+    const InjectedFault watched({});
+    WriteFileAnew(path, pieces);
+    EXPECT_EQ(InjectedFault::Changes(),
+              (std::vector<std::string>{"room", "write 3", "write 5000", "write 3", "sync", "close",
+                                        "sync folder", "close"}));
+  }
+  EXPECT_EQ(ReadFile(path), "one" + std::string(5000, 'x') + "end");
+  {
+    const InjectedFault fault({.room = 5000});  // two blocks are needed where one is free
+    EXPECT_THROW(WriteFileAnew(folder.Path("other"), pieces), std::system_error);
+  }
+  {
+    const InjectedFault fault({.disk_full_after = 100});
+    EXPECT_THROW(WriteFileAnew(folder.Path("other"), pieces), std::system_error);
+  }
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("other")));
+}
+
 TEST(Disk, AFileThatFitsOnlyIntoTheRoomOfTheOldOneIsWritten) {
   TemporaryFolder folder;
   const std::string path = folder.Path("file");
