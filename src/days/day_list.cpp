@@ -7,12 +7,12 @@
 
 #include "core/common.h"
 #include "days/day_form.h"
+#include "days/stored_day.h"
 #include "language/browse_texts.h"
 #include "nutrition/dates.h"
 #include "nutrition/numbers.h"
 #include "nutrition/totals.h"
 #include "storage/folders.h"
-#include "storage/record_file.h"
 
 namespace kelvora {
 namespace {
@@ -36,52 +36,6 @@ constexpr std::array kNutrients = {
 
 const NutrientColumn& NutrientOf(const Program& program) {
   return kNutrients[static_cast<std::size_t>(PriorityOfUser(program))];
-}
-
-// What the list needs of one day file.
-struct StoredDay {
-  FolderFile file;
-  bool has_record = false;
-  Text date, weekday, height, weight;
-  Text trend;
-};
-
-// What is shorter than its count holds no record, and nothing of another file takes its place.
-bool HoldsRecord(std::string_view bytes) {
-  constexpr std::size_t kCountSize = 4;
-  return bytes.size() >= kCountSize;
-}
-
-StoredDay ReadDay(const FolderFile& file) {
-  const std::string bytes = ReadFile(file.path);
-  StoredDay day;
-  day.file = file;
-  std::array<std::string_view, Rec_DayFile::kSize> strings;
-  day.has_record = HoldsRecord(bytes) && DecodeFirstRecord(bytes, strings);
-  if (!day.has_record) return day;
-  const auto field = [&strings](DayFileField id) { return strings[static_cast<std::size_t>(id)]; };
-  TextList header;
-  SplitBlock(field(DayFileField::Header), header);
-  day.date = header[HeaderRow::kDate];
-  day.weekday = header[HeaderRow::kWeekday];
-  day.height = header[HeaderRow::kHeight];
-  day.weight = header[HeaderRow::kWeight];
-  day.trend = field(DayFileField::Trend);
-  return day;
-}
-
-std::vector<StoredDay> ReadStoredDays(Program& program, const std::string& folder, Unread& unread,
-                                      const Pause& pause) {
-  std::vector<StoredDay> days;
-  program.platform.pointer.ShowWait();
-  const std::vector<FolderFile> files = FilesWithPathsIn(folder, ".kvf");
-  program.store.lst_files.Clear();
-  for (const FolderFile& file : files) program.store.lst_files.Add(file.name);
-  for (const FolderFile& file : files) {
-    unread.Try(file.name, [&] { days.push_back(ReadDay(file)); });
-    if (pause()) break;
-  }
-  return days;
 }
 
 // The row of a day file of which nothing but the name is known.
@@ -140,7 +94,11 @@ DayList ReadDays(Program& program, const std::function<bool()>& overtaken) {
   DayList list;
   std::vector<DayRow>& rows = list.rows;
   list.values.Try({}, [&] {
-    const std::vector<StoredDay> days = ReadStoredDays(program, folder, list.files, pause);
+    program.platform.pointer.ShowWait();
+    const std::vector<FolderFile> files = FilesWithPathsIn(folder, ".kvf");
+    program.store.lst_files.Clear();
+    for (const FolderFile& file : files) program.store.lst_files.Add(file.name);
+    const std::vector<StoredDay> days = ReadStoredDays(files, list.files, pause);
     std::vector<double> keys;
     for (const StoredDay& day : days) keys.push_back(ReadStoredNumber(DateKeyOf(day.date)));
     std::vector<std::size_t> places;
