@@ -11,10 +11,6 @@ namespace {
 
 using namespace export_form_text;
 
-constexpr std::array kWeightUnits = {kKilogram, kPounds, kStones};  // as
-constexpr std::array<std::string_view, 3> kWeightPatterns = {"#0.00", "#0.00",
-                                                             "#0.0"};  // UnitSystem
-
 }  // namespace
 
 std::vector<std::size_t> NewestFirst(const std::vector<Text>& stored_dates, const Pause& pause) {
@@ -23,15 +19,6 @@ std::vector<std::size_t> NewestFirst(const std::vector<Text>& stored_dates, cons
   // The sort leaves the lowest key first.
   for (const Text& date : stored_dates) keys.push_back(-ReadStoredNumber(DateKeyOf(date)));
   return ExchangeSorted(keys, pause);
-}
-
-Text ListedWeight(const ReportContext& context, std::string_view kilograms) {
-  const auto unit = static_cast<std::size_t>(context.system);
-  Text weight(kilograms);
-  if (context.system == UnitSystem::imperial_us) weight = Kg_To_Lbs(weight, context.units);
-  if (context.system == UnitSystem::imperial_uk) weight = Kg_To_Stones(weight, context.units);
-  if (!weight.empty()) weight = PrintNumber(context, weight, kWeightPatterns[unit]);
-  return weight + " " + context.texts[kWeightUnits[unit]];
 }
 
 std::string ReportFileName(const TextTables& texts, ReportFormat format,

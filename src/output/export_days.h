@@ -1,5 +1,5 @@
-// The rules of the export dialog that need no window: the order of the days, what the list shows of
-// their weight, how a report's file is named, and what is asked and told.
+// The rules of the export dialog that need no window: the order of the days, how a report's file
+// is named, and what is asked and told.
 #pragma once
 
 #include <optional>
@@ -20,10 +20,6 @@ inline constexpr std::size_t kMostDaysWithGraphs = 92;
 // Equal dates stand as the exchange sort leaves them.
 [[nodiscard]] std::vector<std::size_t> NewestFirst(const std::vector<Text>& stored_dates,
                                                    const Pause& pause);
-
-// A stored weight as the list shows it, in the unit of the settings with its name. A weight that is
-// empty has no number.
-[[nodiscard]] Text ListedWeight(const ReportContext& context, std::string_view kilograms);
 
 // The name of a report's file, UTF-8. `folder_name` is that of the user's folder, UTF-8 as well;
 // the user's name in `span` isn't used, since text can't hold every name of a folder.

@@ -41,21 +41,6 @@ TEST(ExportDays, EqualDatesStandAsTheExchangeSortLeavesThem) {
   }
 }
 
-TEST(ExportDays, TheListShowsTheWeightInTheUnitOfTheSettings) {
-  ReportProgram test;
-  const auto shown = [&test](std::string_view system, std::string_view kilograms) {
-    test.program.settings[Setting::opt_system] = system;
-    return ListedWeight(test.Context(), kilograms);
-  };
-  EXPECT_EQ(shown("0", "80,5"), "80.50 Kg");
-  EXPECT_EQ(shown("1", "70"), "154.32 Lbs");
-  EXPECT_EQ(shown("2", "70"), "11.0 Stones");
-  EXPECT_EQ(shown("0", ""), " Kg");
-  test.locale.separator = ",";
-  EXPECT_EQ(shown("1", "70"), "154,32 Lbs");
-  EXPECT_EQ(shown("2", "70"), "11,0 Stones");
-}
-
 TEST(ExportDays, TheFileIsNamedAfterTheFolderAndTheDays) {
   TestProgram test;
   const ReportSpan span{"Zo?", 3, "05-03-04", "03-03-04"};

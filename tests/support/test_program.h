@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -53,7 +54,11 @@ struct FixedScreen : Screen {
 struct CountingEvents : Events {
   int yields = 0;
   int ends = 0;
-  void Yield() override { ++yields; }
+  std::function<void()> at_yield = [] {};  // what a user does meanwhile
+  void Yield() override {
+    ++yields;
+    at_yield();
+  }
   void End() override { ++ends; }
 };
 
