@@ -159,6 +159,8 @@ struct CoreView {
   virtual void ShowItem(std::string_view tag, std::string_view line) = 0;
   // Shows the dialog for a new food modally; returns when it is gone.
   virtual void OpenNewFood() = 0;
+  // Shows the export dialog modally; returns when it is gone.
+  virtual void OpenExport() = 0;
   // Opens the food menu beside a row of a food list, with these entries enabled; returns at once.
   virtual void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) = 0;
   // Shows the splash, which ends by itself; returns at once.

@@ -120,7 +120,8 @@ void TakeLanguage(Program& program, SettingsForm& form, std::string_view name) {
   form.Combo_taal = name;
   program.Guard("#F8-0", [&] {
     ChooseLanguage(program, form.Combo_taal);
-    for (WindowView* const window : {program.windows.day_settings, program.windows.new_food}) {
+    const OpenWindows& open = program.windows;
+    for (WindowView* const window : {open.day_settings, open.new_food, open.export_html}) {
       if (window != nullptr) window->Set_Taal();
     }
     program.settings[Setting::Combo_taal] = form.Combo_taal;

@@ -116,6 +116,7 @@ struct RecordingCore : CoreView {
   int updates = 0;
   int settings_opened = 0;
   int new_foods_opened = 0;
+  int exports_opened = 0;
   std::vector<std::pair<Text, Text>> items_shown;  // tag and line
   std::vector<FoodMenu> food_menus;
   int toolbar_texts_set = 0;
@@ -137,6 +138,7 @@ struct RecordingCore : CoreView {
     items_shown.emplace_back(tag, line);
   }
   void OpenNewFood() override { ++new_foods_opened; }
+  void OpenExport() override { ++exports_opened; }
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace) override {
     food_menus.push_back(enabled);
   }

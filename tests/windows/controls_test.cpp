@@ -20,6 +20,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "output/export_dialog.h"
 #include "support/test_program.h"
 #include "windows/written_days.h"
 
@@ -378,6 +379,29 @@ LV_browse_files | Days: | Double-click a day to open it
 profile_pane |  |
 chk_profiel | Show the profile |
 cmd_openen | Open |
+cmd_annuleer | Cancel |
+)");
+}
+
+TEST_F(Controls, OfTheDaysToExport) {
+  ExportDaysDialog dialog(program, nullptr);
+  dialog.Open();
+  ExpectControls(dialog, R"(
+KV_export_html | Export days to HTML, XML or DTA |
+Frame_4 | Export to: |
+opt_soort_0 | .HTML file for email |
+opt_soort_2 | .XML file for email |
+opt_soort_1 | .DTA file for internet websites |
+Frame_1 | Select the days: |
+opt_seletie_0 | Select all days |
+opt_seletie_1 | Make your own selection |
+Frame_3 | Options: |
+chk_grafieken | Export the graphs |
+chk_notities | Export the diary |
+chk_close | Close this window after exporting |
+Frame_2 | Saved days: |
+LV_user_files | Saved days: |
+cmd_export | Export |
 cmd_annuleer | Cancel |
 )");
 }

@@ -17,6 +17,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "output/export_dialog.h"
 #include "platform/qt/text_area.h"
 #include "platform/qt/text_box.h"
 #include "support/test_program.h"
@@ -81,6 +82,7 @@ TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
     ExpectTextOnly(DaySettingsDialog(program, nullptr), 2 + measures + 4 + 7 + 1 + 7);
   }
   ExpectTextOnly(BrowserDialog(program, nullptr), 0);
+  ExpectTextOnly(ExportDaysDialog(program, nullptr), 0);
   ExpectTextOnly(SettingsDialog(program, nullptr), 1);
   ExpectTextOnly(WizardDialog(program, nullptr), 0);
   ExpectTextOnly(PopupWindow(program, kAboutMode, nullptr), 0);

@@ -28,6 +28,7 @@
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "nutrition/totals.h"
+#include "output/export_dialog.h"
 #include "platform/qt/text.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"
@@ -69,6 +70,8 @@ class Windows {
     wizard_ = std::make_unique<WizardDialog>(program, &main_);
     details_ = std::make_unique<FoodDetailsDialog>(program, "custom", LineOf(kOats), &main_);
     new_food_ = std::make_unique<NewFoodDialog>(program, &main_);
+    export_ = std::make_unique<ExportDaysDialog>(program, &main_);
+    export_->Open();
     for (QWidget* const dialog :
          std::initializer_list<QWidget*>{wizard_.get(), details_.get(), new_food_.get()}) {
       dialog->show();
@@ -85,7 +88,8 @@ class Windows {
                                        {"browser", browser_.get()},
                                        {"wizard", wizard_.get()},
                                        {"details", details_.get()},
-                                       {"new food", new_food_.get()}}) {
+                                       {"new food", new_food_.get()},
+                                       {"export", export_.get()}}) {
       Describe(QLatin1String(name), *window, shown);
     }
     return shown;
@@ -158,6 +162,7 @@ class Windows {
   std::unique_ptr<WizardDialog> wizard_;
   std::unique_ptr<FoodDetailsDialog> details_;
   std::unique_ptr<NewFoodDialog> new_food_;
+  std::unique_ptr<ExportDaysDialog> export_;
 };
 
 class FollowingSettings : public testing::Test {
@@ -267,7 +272,7 @@ TEST_F(FollowingSettings, EachSettingReachesEveryWindowAtOnce) {
            Case{"large texts", [](SettingsForm& f) { f.chk_help = !f.chk_help; }, true},
            Case{"the wizard", [](SettingsForm& f) { f.chk_wiz = !f.chk_wiz; }, true},
            Case{"applying at once", [](SettingsForm& f) { f.chk_apply = !f.chk_apply; }, false},
-           Case{"the export", [](SettingsForm& f) { f.chk_export = !f.chk_export; }, false},
+           Case{"the export", [](SettingsForm& f) { f.chk_export = !f.chk_export; }, true},
            Case{"a printer", [](SettingsForm& f) { f.combo_printer = "Laser"; }, false},
        }) {
     ExpectFollowed(row.what, [&] { SaveSettings(row.change); });

@@ -15,6 +15,7 @@
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
 #include "food/food_details_dialog.h"
+#include "output/export_dialog.h"
 #include "platform/qt/qt_platform.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
@@ -136,6 +137,10 @@ TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {
   browser.show();
   QApplication::processEvents();
   ExpectBounded(browser, 8);
+  ExportDaysDialog days_to_export(test.program, nullptr);
+  days_to_export.Open();
+  QApplication::processEvents();
+  ExpectBounded(days_to_export, 6);
   for (const auto mode : {DayDialogMode::new_day, DayDialogMode::day_settings}) {
     test.program.day.DayDialogMode = mode;
     DaySettingsDialog settings(test.program, nullptr);

@@ -32,6 +32,7 @@
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
 #include "language/built_in_texts.h"
+#include "output/export_dialog.h"
 #include "storage/folders.h"
 #include "support/test_program.h"
 #include "windows/days_read.h"
@@ -300,6 +301,15 @@ TEST_F(WindowLayout, OfTheListOfDays) {
   MakeUserFolders(program.paths, "Anna");
   InBothLanguages([this] {
     BrowserDialog dialog(program, nullptr);
+    dialog.Open();
+    Look(dialog, 20);
+  });
+}
+
+TEST_F(WindowLayout, OfTheDaysToExport) {
+  MakeUserFolders(program.paths, "Anna");
+  InBothLanguages([this] {
+    ExportDaysDialog dialog(program, nullptr);
     dialog.Open();
     Look(dialog, 20);
   });

@@ -19,6 +19,7 @@
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "language/own_texts.h"
+#include "output/export_dialog.h"
 #include "platform/qt/text.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
@@ -168,6 +169,9 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   BrowserDialog browser(program, nullptr);
   browser.Open();
   EXPECT_GT(ExpectFromTables(browser, kSquare), 35u);
+  ExportDaysDialog days_to_export(program, nullptr);
+  days_to_export.Open();
+  EXPECT_GT(ExpectFromTables(days_to_export, kSquare), 20u);
   const SettingsDialog settings(program, nullptr);
   EXPECT_GT(ExpectFromTables(settings, kSquare), 60u);
   const WizardDialog wizard(program, nullptr);

@@ -43,9 +43,9 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_new, Needs::nothing},
     CommandRow{Command::mnu_browse, Needs::nothing},
     CommandRow{Command::mnu_bestand_opslaan, Needs::day_or_unwritten, Needs::changed_day},
-    NotServed(Command::mnu_exporteer_html, Needs::user),
-    NotServed(Command::mnu_exporteer_xml, Needs::user),
-    NotServed(Command::mnu_exporteer_dta, Needs::user),
+    CommandRow{Command::mnu_exporteer_html, Needs::user},
+    CommandRow{Command::mnu_exporteer_xml, Needs::user},
+    CommandRow{Command::mnu_exporteer_dta, Needs::user},
     CommandRow{Command::mnu_properties, Needs::nothing},
     CommandRow{Command::mnu_file_properties, Needs::day},
     NotServed(Command::mnu_print_dag, Needs::day),
@@ -226,6 +226,11 @@ void RunCommand(Program& program, Command command) {
     case Command::mnu_bestand_opslaan:
       SaveDay(program);
       return;
+    // Meant: the same dialog for all three, which presets nothing.
+    case Command::mnu_exporteer_html:
+    case Command::mnu_exporteer_xml:
+    case Command::mnu_exporteer_dta:
+      return program.windows.core->OpenExport();
     case Command::mnu_properties:
       return program.windows.core->OpenSettings();
     case Command::mnu_file_properties:

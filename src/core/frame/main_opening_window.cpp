@@ -11,6 +11,7 @@
 #include "food/food_details_dialog.h"
 #include "food/food_lists_window.h"
 #include "food/new_food_dialog.h"
+#include "output/export_dialog.h"
 #include "platform/qt/look.h"
 
 namespace kelvora {
@@ -56,6 +57,10 @@ void MainWindow::ShowItem(std::string_view tag, std::string_view line) {
 
 void MainWindow::OpenNewFood() {
   if (program_.windows.new_food == nullptr) ShowNewFoodDialog(program_, this);
+}
+
+void MainWindow::OpenExport() {
+  if (program_.windows.export_html == nullptr) ShowExportDialog(program_, this);
 }
 
 void MainWindow::ShowSplash() {

@@ -40,6 +40,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void OpenSettings() override;
   void ShowItem(std::string_view tag, std::string_view line) override;
   void OpenNewFood() override;
+  void OpenExport() override;
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) override;
   void ShowSplash() override;
   void ShowAbout() override;

@@ -54,9 +54,9 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_new, State::empty, State::empty},
     EnableRow{Command::mnu_browse, State::empty, State::empty},
     EnableRow{Command::mnu_bestand_opslaan, State::day, State::changed_day},
-    EnableRow{Command::mnu_exporteer_html, State::never, State::never},
-    EnableRow{Command::mnu_exporteer_xml, State::never, State::never},
-    EnableRow{Command::mnu_exporteer_dta, State::never, State::never},
+    EnableRow{Command::mnu_exporteer_html, State::user, State::user},
+    EnableRow{Command::mnu_exporteer_xml, State::user, State::user},
+    EnableRow{Command::mnu_exporteer_dta, State::user, State::user},
     EnableRow{Command::mnu_properties, State::empty, State::empty},
     EnableRow{Command::mnu_file_properties, State::day, State::day},
     EnableRow{Command::mnu_print_dag, State::never, State::never},
@@ -181,6 +181,17 @@ TEST(Commands, WhatIsNotServedSaysSoBehindItsTip) {
   Make_Taal_Dutch(test.program.texts);
   EXPECT_EQ(TipOf(test.program, Command::mnu_check_updates, std::nullopt),
             "Nog geen deel van deze versie.");
+}
+
+TEST(Commands, TheThreeFormatsOpenTheSameDialog) {
+  TestProgram test;
+  const std::array formats = {Command::mnu_exporteer_html, Command::mnu_exporteer_xml,
+                              Command::mnu_exporteer_dta};
+  for (const Command format : formats) RunCommand(test.program, format);
+  EXPECT_EQ(test.core.exports_opened, 0);  // without a user
+  SetCurrentUser(test.program, "Anna");
+  for (const Command format : formats) RunCommand(test.program, format);
+  EXPECT_EQ(test.core.exports_opened, 3);
 }
 
 TEST(Commands, TheProfileCommandOpensTheDialogForTheOpenDay) {
