@@ -9,11 +9,12 @@ def block(lines, end="¾"):
     return "".join(line + end for line in lines)
 
 
-def write_day_file(path, date, trend, morning=(), afternoon=(), evening=(), user="Anna"):
+def write_day_file(path, date, trend, morning=(), afternoon=(), evening=(), user="Anna", diary="",
+                   weight="", weekday=""):
     """One record: trend, diary, header and the three parts of the day.  Foods are lists of fields."""
-    header = [user] + [""] * 8 + [date] + [""] * 5
+    header = [user] + [""] * 5 + [weight, "", "", date, "", weekday] + [""] * 3
     parts = [block([block(food, "½") for food in part]) for part in (morning, afternoon, evening)]
-    strings = [block(map(str, trend), "½"), "", block(header), *parts]
+    strings = [block(map(str, trend), "½"), diary, block(header), *parts]
     data = struct.pack("<i", 1)
     for string in strings:
         text = string.encode("cp1252")
