@@ -31,6 +31,8 @@ ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 
 
 TREND_BUTTON = {"english": (510, 60), "nederlands": (583, 65)}
+REPORT_BUTTON = {"english": (560, 60), "nederlands": (636, 65)}
+EXPORT = "^(Export days to|Dagen exporteren naar) HTML, XML "
 IN_THE_CHART = (600, 400)
 # The colours of a dark desktop, in the form in which one of the common ones keeps them.
 DARK = """[Colors:{0}]
@@ -182,6 +184,16 @@ def take_trend(desktop, folder, stem):
     desktop.click(TREND_BUTTON[stem])
 
 
+def take_export(desktop, folder, stem):
+    """The dialog of the days to export, some of them chosen."""
+    desktop.click(REPORT_BUTTON[stem])
+    desktop.window(EXPORT)
+    desktop.keys("Down", *["shift+Down"] * 6)
+    take_window(desktop, EXPORT, folder / f"export_{stem}.png")
+    desktop.keys("Escape")
+    desktop.no_window(EXPORT)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("program", type=lambda name: Path(name).resolve())
@@ -213,6 +225,7 @@ def main():
         take_summary(desktop, folder, stem)
         desktop.keys("ctrl+s")
         take_trend(desktop, folder, stem)
+        take_export(desktop, folder, stem)
         desktop.keys("ctrl+o")
         desktop.click(DAYS_FIRST)
         take(desktop, folder / f"open_day_{stem}.png")
