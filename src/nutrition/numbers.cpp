@@ -4,7 +4,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <optional>
 
 #include "core/failure.h"
 
@@ -140,6 +142,48 @@ float RoundToFewDecimals(float value, std::size_t decimals) {
   return rounded == 0 ? 0.0f : static_cast<float>(rounded / power);
 }
 
+// A magnitude in units of its last place, halves away from zero, by arithmetic. What fifteen digits
+// and the product leave out is below a hundredth of kNearHalf: only nearer to the middle between
+// two results can it decide, and there nothing is answered, as for what is too large. The middle
+// itself is exact where there are no places.
+std::optional<std::uint64_t> UnitsOf(double magnitude, std::size_t places) {
+  constexpr double kLargest = 1e9;
+  constexpr double kNearHalf = 1e-3;
+  if (places >= kPowersOfTen.size()) return std::nullopt;
+  const double scaled = magnitude * kPowersOfTen[places];
+  if (!(scaled < kLargest)) return std::nullopt;
+  const double below = std::floor(scaled);
+  const double rest = scaled - below;
+  const bool exact_half = places == 0 && rest == 0.5;
+  if (!exact_half && std::fabs(rest - 0.5) < kNearHalf) return std::nullopt;
+  return static_cast<std::uint64_t>(below) + (rest >= 0.5 ? 1 : 0);
+}
+
+PlainDigits PlainDigitsOf(std::uint64_t units, std::size_t places) {
+  if (units == 0) return {};
+  std::string digits = std::to_string(units);
+  if (digits.size() < places) digits.insert(0, places - digits.size(), '0');
+  std::string fraction = digits.substr(digits.size() - places);
+  digits.resize(digits.size() - places);
+  fraction.erase(fraction.find_last_not_of('0') + 1);
+  return {std::move(digits), std::move(fraction)};
+}
+
+struct Rounded {
+  bool negative;
+  PlainDigits plain;
+};
+
+// The value's fifteen digits with so many places kept, halves away from zero.
+Rounded RoundedTo(double value, std::size_t places) {
+  if (const auto units = UnitsOf(std::fabs(value), places)) {
+    return {std::signbit(value) && *units > 0, PlainDigitsOf(*units, places)};
+  }
+  const Decimal decimal =
+      RoundDecimal(DecimalOf(value, 15), static_cast<int>(places), Halves::away_from_zero);
+  return {decimal.negative, PlainDigitsOf(decimal)};
+}
+
 }  // namespace
 
 double Val(std::string_view text) {
@@ -167,7 +211,8 @@ double Val(std::string_view text) {
 
 Text CommaToPoint(std::string_view text) {
   Text result(text);
-  std::ranges::replace(result, ',', '.');
+  // Written for each byte, so that many are looked at in one step.
+  for (char& c : result) c = c == ',' ? '.' : c;
   return result;
 }
 
@@ -212,10 +257,8 @@ Text FormatNumber(double value, std::string_view pattern, std::string_view separ
   const std::string_view fraction_pattern =
       point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
 
-  const Decimal decimal = RoundDecimal(
-      DecimalOf(value, 15), static_cast<int>(fraction_pattern.size()), Halves::away_from_zero);
-  auto [whole, fraction] = PlainDigitsOf(decimal);
-
+  auto [negative, plain] = RoundedTo(value, fraction_pattern.size());
+  auto& [whole, fraction] = plain;
   const auto required = static_cast<std::size_t>(std::ranges::count(whole_pattern, '0'));
   if (whole.size() < required) whole.insert(0, required - whole.size(), '0');
   // Behind the point every place up to the last "0" is shown.
@@ -223,7 +266,7 @@ Text FormatNumber(double value, std::string_view pattern, std::string_view separ
   const std::size_t shown = last_zero == std::string_view::npos ? 0 : last_zero + 1;
   if (fraction.size() < shown) fraction.append(shown - fraction.size(), '0');
 
-  Text text = decimal.negative ? "-" : "";
+  Text text = negative ? "-" : "";
   text += whole;
   if (point != std::string_view::npos) text.append(separator).append(fraction);
   return text;

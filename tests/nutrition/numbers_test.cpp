@@ -143,6 +143,19 @@ TEST(FormatNumber, RoundsHalvesAwayFromZero) {
   EXPECT_EQ(FormatNumber(999.5, "##0", "."), "1000");
 }
 
+// A million units and more, many places, and what lies beside the middle.
+TEST(FormatNumber, LargeNumbersAndManyPlacesGoByTheSameRule) {
+  EXPECT_EQ(FormatNumber(999999999.4, "0", "."), "999999999");
+  EXPECT_EQ(FormatNumber(999999999.5, "0", "."), "1000000000");
+  EXPECT_EQ(FormatNumber(1000000000.5, "0", "."), "1000000001");
+  EXPECT_EQ(FormatNumber(999999.9995, "0.000", "."), "1000000.000");
+  EXPECT_EQ(FormatNumber(999999.9994, "0.000", "."), "999999.999");
+  EXPECT_EQ(FormatNumber(0.1234567, "0.0000000", "."), "0.1234567");
+  EXPECT_EQ(FormatNumber(12.0305, "#.000#", "."), "12.0305");
+  EXPECT_EQ(FormatNumber(12.03, "#.0###", "."), "12.03");
+  EXPECT_EQ(FormatNumber(0.07, "#.00", "."), ".07");
+}
+
 TEST(FormatNumber, AResultOfZeroHasNoSign) {
   EXPECT_EQ(FormatNumber(-0.004, "0.00", "."), "0.00");
   EXPECT_EQ(FormatNumber(-0.4, "##", "."), "");
