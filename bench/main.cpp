@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     AddCountBenchmarks(report);
     AddBrowseBenchmarks(report);
     AddYearsBenchmarks(report);
+    AddExportBenchmarks(report);
     AddNumberBenchmarks(report);
     AddLoadBenchmarks(report);
     AddSearchBenchmarks(report);

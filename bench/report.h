@@ -75,6 +75,7 @@ void AddSearchBenchmarks(Report& report);
 void AddDayBenchmarks(Report& report);
 void AddBrowseBenchmarks(Report& report);
 void AddYearsBenchmarks(Report& report);
+void AddExportBenchmarks(Report& report);
 void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);
