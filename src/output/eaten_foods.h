@@ -1,5 +1,5 @@
-// What was eaten on a day, as the reports list it: each different line of the three day parts once,
-// in the order of first appearance, with how often it occurs.
+// What was eaten on a day, as reports and printed pages list it: each different line of the three
+// day parts once, in the order of first appearance, with how often it occurs.
 #pragma once
 
 #include <array>
@@ -38,15 +38,21 @@ struct EatenFood {
   }
 };
 
-// The foods of one day. Commas in its lines show as points, in names too.
+// The foods of one day. The constructors throw std::system_error for an amount or a total that a
+// single can't hold.
 class EatenFoods {
  public:
-  // Throws std::system_error for an amount or a total that a single can't hold.
+  // Of a stored day. Each line says which part of the day it stands in, so that lines of different
+  // parts stay apart. Commas show as points, in names too.
   explicit EatenFoods(const Rec_DayFile& day);
+  // Of the open day, its lines as they stand: equal ones are counted over the whole day.
+  explicit EatenFoods(const KV_data& store);
 
   [[nodiscard]] const std::vector<EatenFood>& Rows() const { return rows_; }
 
  private:
+  explicit EatenFoods(const TextList& lines);
+
   TextList distinct_, counts_;  // what the rows are views of
   std::vector<EatenFood> rows_;
 };

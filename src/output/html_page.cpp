@@ -65,14 +65,6 @@ struct UserCells {
 constexpr std::array kUserCells = {UserCells{R"(width="15%" class=" tdE1")", "tdE3"},
                                    UserCells{R"(width="15%" class=" tdO1")", "tdE2"}};
 
-Text HeightText(const ReportContext& context) {
-  Text metres = context.profile[ProfileField::height];
-  if (context.system == UnitSystem::metric) return metres + " " + context.texts[kMeter];
-  const Text feet = Meter_To_Feet_Inch(metres, HeightPart::feet, context.units);
-  const Text inches = Meter_To_Feet_Inch(metres, HeightPart::inches, context.units);
-  return feet + "'" + inches + "'' " + context.texts[kFeetInch];
-}
-
 Text WeightText(const ReportContext& context, ProfileField field) {
   return ConvertedWeight(context, context.profile[field]) + " " + WeightUnit(context);
 }
@@ -155,7 +147,7 @@ void AddUser(Text& page, const ReportContext& context, std::size_t days) {
   UserTable table(page, texts);
   table.AddRow(kUserName, profile[ProfileField::name], kUserGender, profile[ProfileField::gender]);
   table.AddRow(kUserReference, profile[ProfileField::reference] + " ", kUserHeight,
-               HeightText(context));
+               HeightText(context, {kMeter, kFeetInch}));
   table.AddRow(kUserAddress1, profile[ProfileField::address_1] + " ", kUserGoalWeight,
                WeightText(context, ProfileField::goal_weight));
   table.AddRow(kUserAddress2, profile[ProfileField::address_2] + " ", kUserLastWeight,

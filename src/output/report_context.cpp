@@ -39,8 +39,12 @@ Text PrintFoodWeight(const ReportContext& context, std::string_view stored,
 
 Text PrintFoodWeight(const ReportContext& context, float grams, std::string_view pattern) {
   if (!context.food_in_ounces) return FormatNumber(grams, pattern, context.separator);
-  Text written = Str(grams, ".");
-  return Gram_To_Oz(written, context.units);
+  return PrintFoodWeight(context, grams);
+}
+
+Text PrintFoodWeight(const ReportContext& context, float grams) {
+  Text written = Str(grams, context.separator);
+  return context.food_in_ounces ? Gram_To_Oz(written, context.units) : written;
 }
 
 Text ConvertedWeight(const ReportContext& context, std::string_view kilograms) {
@@ -63,6 +67,14 @@ Text DayWeight(const ReportContext& context, std::string_view kilograms) {
 
 const Text& WeightUnit(const ReportContext& context) {
   return context.texts[kWeightUnits[static_cast<std::size_t>(context.system)]];
+}
+
+Text HeightText(const ReportContext& context, const HeightWords& words) {
+  Text metres = context.profile[ProfileField::height];
+  if (context.system == UnitSystem::metric) return metres + " " + context.texts[words.meter];
+  const Text feet = Meter_To_Feet_Inch(metres, HeightPart::feet, context.units);
+  const Text inches = Meter_To_Feet_Inch(metres, HeightPart::inches, context.units);
+  return feet + "'" + inches + "'' " + context.texts[words.feet_inch];
 }
 
 Text ShownDate(const ReportContext& context, std::string_view stored) {

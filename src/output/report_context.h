@@ -43,6 +43,8 @@ template <class Writer>
                                    std::string_view pattern);
 [[nodiscard]] Text PrintFoodWeight(const ReportContext& context, float grams,
                                    std::string_view pattern);
+// An amount as number text, with no more digits than it has.
+[[nodiscard]] Text PrintFoodWeight(const ReportContext& context, float grams);
 
 // A stored weight in the unit of the settings, as the conversions print it: kilograms by "##0.00".
 // A weight that is empty has no number.
@@ -50,6 +52,13 @@ template <class Writer>
 // The same by "##0.00" in each unit.
 [[nodiscard]] Text DayWeight(const ReportContext& context, std::string_view kilograms);
 [[nodiscard]] const Text& WeightUnit(const ReportContext& context);
+
+// The height of the profile in the unit of the settings, with the words for it.
+struct HeightWords {
+  TextId meter;
+  TextId feet_inch;
+};
+[[nodiscard]] Text HeightText(const ReportContext& context, const HeightWords& words);
 
 // The stored date as users of the unit system write it.
 [[nodiscard]] Text ShownDate(const ReportContext& context, std::string_view stored);
