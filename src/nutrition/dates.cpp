@@ -69,6 +69,11 @@ Text ShortDateOf(const LocalTime& time, const Locale& locale) {
   return TwoDigits(time.day) + "-" + TwoDigits(time.month) + "-" + std::to_string(time.year);
 }
 
+Text ShortTimeOf(const LocalTime& time, const Locale& locale) {
+  Text shown = locale.ShortTime(time);
+  return shown.empty() ? TwoDigits(time.hour) + ":" + TwoDigits(time.minute) : shown;
+}
+
 Text TwoDigits(int number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }

@@ -36,8 +36,9 @@ struct StoredDate {
 enum class LongDateOrder { month_day_year, day_month_year, year_month_day };
 [[nodiscard]] LongDateOrder DateOrder(const Locale& locale);
 
-// The date in the locale's short form, or as dd-mm-yyyy where text can't hold that.
+// Date and time in the locale's short form, or as dd-mm-yyyy and hh:mm where text can't hold that.
 [[nodiscard]] Text ShortDateOf(const LocalTime& time, const Locale& locale);
+[[nodiscard]] Text ShortTimeOf(const LocalTime& time, const Locale& locale);
 
 // A number as two digits, with a leading zero; the last two digits of a longer one.
 [[nodiscard]] Text TwoDigits(int number);

@@ -21,13 +21,14 @@ class Locale {
   [[nodiscard]] virtual Text DayMonthYear(const LocalTime& time) const = 0;
   // The time as hh/mm/s, seconds without a leading zero. The locale may add AM or PM.
   [[nodiscard]] virtual Text HourMinuteSecond(const LocalTime& time) const = 0;
+  // Date and time in the system's short form; empty if text can't hold it.
+  [[nodiscard]] virtual Text ShortDate(const LocalTime& time) const = 0;
+  [[nodiscard]] virtual Text ShortTime(const LocalTime& time) const = 0;
   // How the system writes a long date: d, M and y for day, month and year, as in
   // "dddd d MMMM yyyy", with no other text in it.
   [[nodiscard]] virtual Text LongDatePattern() const = 0;
   // The full name of the weekday, in the system's language; empty if text can't hold it.
   [[nodiscard]] virtual Text WeekdayName(const LocalTime& time) const = 0;
-  // The date in the system's short form; empty if text can't hold it.
-  [[nodiscard]] virtual Text ShortDate(const LocalTime& time) const = 0;
 };
 
 }  // namespace kelvora

@@ -199,14 +199,6 @@ TEST(Dates, TheOrderIsThatOfTheSystemsLongDate) {
   EXPECT_EQ(static_cast<int>(LongDateOrder::year_month_day), 2);
 }
 
-TEST(Dates, AShortDateIsThatOfTheSystemOrOneThatTextHolds) {
-  FixedLocale locale;
-  const LocalTime day{.year = 2004, .month = 3, .day = 5};
-  EXPECT_EQ(ShortDateOf(day, locale), "5/3/2004");
-  locale.short_date = Text();
-  EXPECT_EQ(ShortDateOf(day, locale), "05-03-2004");
-}
-
 TEST(Dates, WhatIsNoDateIsAFailureOfItsOwn) {
   TestProgram test;
   EXPECT_EQ(Format_Datum("today", "0", UnitsOf(test.program)), "");

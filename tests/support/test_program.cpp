@@ -33,6 +33,18 @@ Text FixedLocale::HourMinuteSecond(const LocalTime& time) const {
          std::to_string(time.second) + time_suffix;
 }
 
+Text FixedLocale::ShortDate(const LocalTime& time) const {
+  if (short_date) return *short_date;
+  if (!has_short_form) return {};
+  return std::to_string(time.month) + "/" + std::to_string(time.day) + "/" + TwoDigits(time.year);
+}
+
+Text FixedLocale::ShortTime(const LocalTime& time) const {
+  if (!has_short_form) return {};
+  return std::to_string((time.hour + 11) % 12 + 1) + ":" + TwoDigits(time.minute) +
+         (time.hour < 12 ? " AM" : " PM");
+}
+
 Text FixedLocale::WeekdayName(const LocalTime& time) const {
   if (weekday) return *weekday;
   // The first of January of the year 1 was a Monday; a year has 365 days and the leap days before.
@@ -45,12 +57,6 @@ Text FixedLocale::WeekdayName(const LocalTime& time) const {
                    kDaysBefore.at(static_cast<std::size_t>(time.month - 1)) +
                    (leaps && time.month > 2 ? 1 : 0) + time.day;
   return kNames.at(static_cast<std::size_t>(days % 7));
-}
-
-Text FixedLocale::ShortDate(const LocalTime& time) const {
-  if (short_date) return *short_date;
-  return std::to_string(time.day) + date_mark + std::to_string(time.month) + date_mark +
-         std::to_string(time.year);
 }
 
 bool RecordingOpener::Open(const std::string& address) {

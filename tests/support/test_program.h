@@ -32,13 +32,15 @@ struct FixedLocale : Locale {
   Text time_suffix;             // " PM" and the like
   std::optional<Text> weekday;  // for every date; without it the true one, in English
   Text long_date = "dddd d MMMM yyyy";
-  std::optional<Text> short_date;  // of every day; without it as in 5/3/2004
+  std::optional<Text> short_date;  // of every day
   Text SystemDecimalSeparator() const override { return separator; }
+  bool has_short_form = true;  // 3/5/04 and 2:07 PM
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
   Text LongDatePattern() const override { return long_date; }
-  Text WeekdayName(const LocalTime& time) const override;
   Text ShortDate(const LocalTime& time) const override;
+  Text ShortTime(const LocalTime& time) const override;
+  Text WeekdayName(const LocalTime& time) const override;
 };
 
 struct FixedClock : Clock {

@@ -78,10 +78,9 @@ QDateTime DateTimeOf(const LocalTime& time) {
   return {QDate(time.year, time.month, time.day), QTime(time.hour, time.minute, time.second)};
 }
 
-// Empty if text can't hold it.
-Text WholeTextOf(const QString& shown) {
-  const Text text = FromQt(shown);
-  return ToQt(text) == shown ? text : Text();
+// Words of the system; nothing if text can't hold them.
+Text TextOrNone(const QString& words) {
+  return TextHolds(words) ? FromQt(words) : Text();
 }
 
 std::string Standard(QStandardPaths::StandardLocation location) {
@@ -146,6 +145,14 @@ Text QtLocale::DayMonthYear(const LocalTime& time) const {
 Text QtLocale::HourMinuteSecond(const LocalTime& time) const {
   return FromQt(DateTimeOf(time).toString(QStringLiteral("HH/mm/s")));
 }
+Text QtLocale::ShortDate(const LocalTime& time) const {
+  return TextOrNone(QLocale::system().toString(DateTimeOf(time).date(), QLocale::ShortFormat));
+}
+
+Text QtLocale::ShortTime(const LocalTime& time) const {
+  return TextOrNone(QLocale::system().toString(DateTimeOf(time).time(), QLocale::ShortFormat));
+}
+
 
 Text QtLocale::LongDatePattern() const {
   // Words between quotes, as in "d 'de' MMMM", are not letters of the pattern.
@@ -154,11 +161,7 @@ Text QtLocale::LongDatePattern() const {
 }
 
 Text QtLocale::WeekdayName(const LocalTime& time) const {
-  return WholeTextOf(QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd")));
-}
-
-Text QtLocale::ShortDate(const LocalTime& time) const {
-  return WholeTextOf(QLocale::system().toString(DateTimeOf(time).date(), QLocale::ShortFormat));
+  return TextOrNone(QLocale::system().toString(DateTimeOf(time), QStringLiteral("dddd")));
 }
 
 std::string QtFolders::ApplicationData() const {

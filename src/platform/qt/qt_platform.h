@@ -28,8 +28,9 @@ class QtLocale : public Locale {
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
   Text LongDatePattern() const override;
-  Text WeekdayName(const LocalTime& time) const override;
   Text ShortDate(const LocalTime& time) const override;
+  Text ShortTime(const LocalTime& time) const override;
+  Text WeekdayName(const LocalTime& time) const override;
 };
 
 class QtFolders : public Folders {
