@@ -106,6 +106,12 @@ std::vector<Text> WithChosen(std::vector<Text> names, const Text& chosen) {
   return names;
 }
 
+std::vector<Text> PrinterNames(Program& program) {
+  std::vector<Text> names;
+  program.Guard("#F8-3", [&] { names = program.platform.printers.Names(); });
+  return names;
+}
+
 void ShowHelp(Program& program, bool shown) {
   program.settings[Setting::chk_help] = FlagOf(shown);
   if (program.windows.core != nullptr) program.windows.core->Set_toolbar_teksten();

@@ -54,6 +54,9 @@ void FollowInternet(SettingsForm& form);
 // `names` with the chosen one, which stays a choice while the system lacks it.
 [[nodiscard]] std::vector<Text> WithChosen(std::vector<Text> names, const Text& chosen);
 
+// The printers of the system; none after a failure, which shows "#F8-3".
+[[nodiscard]] std::vector<Text> PrinterNames(Program& program);
+
 // Shows or hides help buttons and button texts at once.
 void ShowHelp(Program& program, bool shown);
 

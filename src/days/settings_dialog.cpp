@@ -11,6 +11,7 @@
 
 #include "days/day_dialogs.h"
 #include "language/choose_language.h"
+#include "language/own_texts.h"
 #include "language/properties_texts.h"
 #include "platform/qt/choice_list.h"
 #include "platform/qt/look.h"
@@ -125,7 +126,6 @@ void SettingsDialog::BuildLanguageAndPrinter(QVBoxLayout* page) {
     grid->addWidget(row.list, line++, 1, 1, row.columns);
   }
   grid->addWidget(cmd_reset, 0, 2);
-  captions_.push_back({combo_printer_, "placeholderText", kNoPrinter, std::nullopt});
   qobject_cast<QVBoxLayout*>(group->layout())->addLayout(grid);
   connect(Combo_taal_, &QComboBox::textActivated, this,
           [this](const QString& name) { TakeLanguage(program_, form_, FromQt(name)); });
@@ -281,6 +281,14 @@ void SettingsDialog::Set_Taal() {
     }
     if (caption.tip) caption.widget->setToolTip(ToQt(texts[*caption.tip]));
   }
+  ShowWhetherThereArePrinters();
+}
+
+void SettingsDialog::ShowWhetherThereArePrinters() {
+  const TextTables& texts = program_.texts;
+  combo_printer_->setPlaceholderText(ToQt(combo_printer_->count() == 0
+                                              ? texts[kNoPrinter]
+                                              : OwnTextOf(texts, OwnText::no_printer_chosen)));
 }
 
 void SettingsDialog::TakeTick(const Tick& tick, bool on) {
@@ -299,8 +307,9 @@ void SettingsDialog::ResetLanguages() {
 void SettingsDialog::FillLists() {
   Fill(Combo_taal_, WithChosen(EntriesOf(LanguageFileNames(program_.paths)), form_.Combo_taal),
        form_.Combo_taal);
-  Fill(combo_printer_, WithChosen(program_.platform.printers.Names(), form_.combo_printer),
+  Fill(combo_printer_, WithChosen(PrinterNames(program_), form_.combo_printer),
        form_.combo_printer);
+  ShowWhetherThereArePrinters();
 }
 
 void SettingsDialog::ShowForm() {

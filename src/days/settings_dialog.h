@@ -72,6 +72,7 @@ class SettingsDialog : public QDialog, public WindowView {
   void TakeTick(const Tick& tick, bool on);
   void ResetLanguages();
   void FillLists();
+  void ShowWhetherThereArePrinters();
   void ShowForm();
   void Save();
 

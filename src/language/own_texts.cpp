@@ -116,6 +116,11 @@ constexpr std::array kRows = {
                "Vergelijk als voedingsmiddel 1"_w},
     OwnTextRow{OwnText::compare_as_food_2, "Compare as food item 2"_w,
                "Vergelijk als voedingsmiddel 2"_w},
+    OwnTextRow{OwnText::sheet_too_small,
+               "The paper is too small for the whole page; print what fits on it?"_w,
+               "Het papier is te klein voor de hele pagina; afdrukken wat erop past?"_w},
+    OwnTextRow{OwnText::no_printer_chosen, "No printer has been chosen yet."_w,
+               "Er is nog geen printer gekozen."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

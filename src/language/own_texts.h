@@ -77,6 +77,9 @@ enum class OwnText {
   // What the rows of a food list can be compared as.
   compare_as_food_1,
   compare_as_food_2,
+  // Before a page is printed that is longer or wider than the sheet.
+  sheet_too_small,
+  no_printer_chosen,  // what the list of printers says until one is
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -90,6 +93,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 49;
+inline constexpr int kOwnTextCount = 51;
 
 }  // namespace kelvora

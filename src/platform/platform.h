@@ -11,6 +11,7 @@
 #include "platform/opener.h"
 #include "platform/pointer.h"
 #include "platform/printers.h"
+#include "platform/printing.h"
 #include "platform/screen.h"
 
 namespace kelvora {
@@ -25,6 +26,7 @@ struct Platform {
   Events& events;
   Opener& opener;
   Printers& printers;
+  Printing& printing;
   FolderChooser& folder_chooser;
 };
 

@@ -70,6 +70,22 @@ bool RecordingOpener::Start(const CommandLine& command, const std::string& folde
   return starts;
 }
 
+std::vector<Text> ListedPrinters::Names() const {
+  if (no_names) std::rethrow_exception(no_names);
+  return names;
+}
+
+Sheet RecordingPrinting::SheetOf(const Text& printer) {
+  asked_for.push_back(printer);
+  if (no_sheet) std::rethrow_exception(no_sheet);
+  return sheet;
+}
+
+void RecordingPrinting::Print(const PrintJob& job) {
+  if (no_print) std::rethrow_exception(no_print);
+  jobs.push_back(job);
+}
+
 std::optional<std::string> RecordingFolderChooser::Choose(const Text& prompt,
                                                           const std::string& start) {
   prompts.push_back(prompt);

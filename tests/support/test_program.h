@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <exception>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -33,13 +34,13 @@ struct FixedLocale : Locale {
   std::optional<Text> weekday;  // for every date; without it the true one, in English
   Text long_date = "dddd d MMMM yyyy";
   std::optional<Text> short_date;  // of every day
-  Text SystemDecimalSeparator() const override { return separator; }
   bool has_short_form = true;  // 3/5/04 and 2:07 PM
+  Text SystemDecimalSeparator() const override { return separator; }
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
-  Text LongDatePattern() const override { return long_date; }
   Text ShortDate(const LocalTime& time) const override;
   Text ShortTime(const LocalTime& time) const override;
+  Text LongDatePattern() const override { return long_date; }
   Text WeekdayName(const LocalTime& time) const override;
 };
 
@@ -78,7 +79,18 @@ struct RecordingOpener : Opener {
 
 struct ListedPrinters : Printers {
   std::vector<Text> names;
-  std::vector<Text> Names() const override { return names; }
+  std::exception_ptr no_names;
+  std::vector<Text> Names() const override;
+};
+
+// Prints nothing but a note. Its sheet is A4 without margins; what it is to throw, it throws.
+struct RecordingPrinting : Printing {
+  Sheet sheet{.width = 11906, .height = 16838, .medium = "iso_a4_210x297mm"};
+  std::exception_ptr no_sheet, no_print;
+  std::vector<Text> asked_for;
+  std::vector<PrintJob> jobs;
+  Sheet SheetOf(const Text& printer) override;
+  void Print(const PrintJob& job) override;
 };
 
 // Chooses `answer`; remembers what it was asked with.
@@ -166,9 +178,10 @@ class TestProgram {
   CountingEvents events;
   RecordingOpener opener;
   ListedPrinters printers;
+  RecordingPrinting printing;
   RecordingFolderChooser folder_chooser;
-  Platform platform{boxes,  pointer, locale, folders,  clock,
-                    screen, events,  opener, printers, folder_chooser};
+  Platform platform{boxes,  pointer, locale,   folders,  clock,         screen,
+                    events, opener,  printers, printing, folder_chooser};
   RecordingCore core;
   Program program{platform};
 

@@ -26,8 +26,9 @@ struct WaitingProgram {
 
   TestProgram test;
   CountingPointer pointer;
-  Platform platform{test.boxes,  pointer,     test.locale, test.folders,  test.clock,
-                    test.screen, test.events, test.opener, test.printers, test.folder_chooser};
+  Platform platform{test.boxes,    pointer,       test.locale,        test.folders,
+                    test.clock,    test.screen,   test.events,        test.opener,
+                    test.printers, test.printing, test.folder_chooser};
   Program program{platform};
 };
 

@@ -98,9 +98,29 @@ TEST_F(SettingsWindow, WithoutAChosenPrinterNoneIsSelected) {
   Open();
   EXPECT_EQ(Find<QComboBox>("combo_printer")->currentIndex(), -1);
   EXPECT_EQ(Find<QComboBox>("combo_printer")->count(), 2);
+  EXPECT_EQ(Find<QComboBox>("combo_printer")->placeholderText(), "No printer has been chosen yet.");
+  EXPECT_TRUE(Enabled("combo_printer"));
+}
+
+TEST_F(SettingsWindow, AComputerWithoutPrintersSaysSo) {
+  test.printers.names.clear();
+  Open();
+  EXPECT_EQ(Find<QComboBox>("combo_printer")->count(), 0);
   EXPECT_EQ(Find<QComboBox>("combo_printer")->placeholderText(),
             "There is no printer on this computer.");
-  EXPECT_TRUE(Enabled("combo_printer"));
+}
+
+// The chosen printer stays, whatever becomes of the list.
+TEST_F(SettingsWindow, PrintersThatCantBeListedAreToldAndTheChosenOneStays) {
+  Stored(Setting::combo_printer) = "Ink";
+  test.printers.no_names =
+      std::make_exception_ptr(std::system_error(std::make_error_code(std::errc::timed_out)));
+  Open();
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].text,
+            "An error occured.\n\nConnection timed out\nBrelux CODE:#F8-3");
+  EXPECT_EQ(Find<QComboBox>("combo_printer")->count(), 1);
+  EXPECT_EQ(Find<QComboBox>("combo_printer")->currentText(), "Ink");
 }
 
 TEST_F(SettingsWindow, EveryTickAndOptionIsSaved) {
@@ -298,6 +318,7 @@ TEST_F(SettingsWindow, TabGoesInReadingOrder) {
 }
 
 TEST_F(SettingsWindow, NothingIsClippedInEitherLanguage) {
+  test.printers.names.clear();  // the words for that take the most room
   for (const char* file : {"English.lsf", "Nederlands.lsf"}) {
     OpenInLanguage(file);
     int seen = 0;

@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPrinterInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
@@ -145,6 +144,7 @@ Text QtLocale::DayMonthYear(const LocalTime& time) const {
 Text QtLocale::HourMinuteSecond(const LocalTime& time) const {
   return FromQt(DateTimeOf(time).toString(QStringLiteral("HH/mm/s")));
 }
+
 Text QtLocale::ShortDate(const LocalTime& time) const {
   return TextOrNone(QLocale::system().toString(DateTimeOf(time).date(), QLocale::ShortFormat));
 }
@@ -152,7 +152,6 @@ Text QtLocale::ShortDate(const LocalTime& time) const {
 Text QtLocale::ShortTime(const LocalTime& time) const {
   return TextOrNone(QLocale::system().toString(DateTimeOf(time).time(), QLocale::ShortFormat));
 }
-
 
 Text QtLocale::LongDatePattern() const {
   // Words between quotes, as in "d 'de' MMMM", are not letters of the pattern.
@@ -208,12 +207,6 @@ bool QtOpener::Start(const CommandLine& command, const std::string& folder) {
   }
   return QProcess::startDetached(QString::fromStdString(command.program), arguments,
                                  QString::fromStdString(folder));
-}
-
-std::vector<Text> QtPrinters::Names() const {
-  std::vector<Text> names;
-  for (const QString& name : QPrinterInfo::availablePrinterNames()) names.push_back(FromQt(name));
-  return names;
 }
 
 std::optional<std::string> QtFolderChooser::Choose(const Text& prompt, const std::string& start) {

@@ -1,10 +1,11 @@
-// The real outside: Qt's boxes, pointer, locale, folders, clock, screen, event loop, printers and
-// folder chooser.
+// The real outside: Qt's boxes, pointer, locale, folders, clock, screen, event loop and folder
+// chooser, and the printers of CUPS.
 #pragma once
 
 #include <QElapsedTimer>
 
 #include "platform/platform.h"
+#include "platform/qt/cups_printers.h"
 
 namespace kelvora {
 
@@ -27,9 +28,9 @@ class QtLocale : public Locale {
   Text SystemDecimalSeparator() const override;
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
-  Text LongDatePattern() const override;
   Text ShortDate(const LocalTime& time) const override;
   Text ShortTime(const LocalTime& time) const override;
+  Text LongDatePattern() const override;
   Text WeekdayName(const LocalTime& time) const override;
 };
 
@@ -67,11 +68,6 @@ class QtOpener : public Opener {
   bool Start(const CommandLine& command, const std::string& folder) override;
 };
 
-class QtPrinters : public Printers {
- public:
-  std::vector<Text> Names() const override;
-};
-
 class QtFolderChooser : public FolderChooser {
  public:
   std::optional<std::string> Choose(const Text& prompt, const std::string& start) override;
@@ -91,10 +87,10 @@ class QtPlatform {
   QtScreenSize screen_;
   QtEvents events_;
   QtOpener opener_;
-  QtPrinters printers_;
+  CupsPrinters printers_;
   QtFolderChooser folder_chooser_;
-  Platform platform_{boxes_,  pointer_, locale_, folders_,  clock_,
-                     screen_, events_,  opener_, printers_, folder_chooser_};
+  Platform platform_{boxes_,  pointer_, locale_,   folders_,  clock_,         screen_,
+                     events_, opener_,  printers_, printers_, folder_chooser_};
 };
 
 }  // namespace kelvora

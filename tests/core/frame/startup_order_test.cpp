@@ -142,9 +142,10 @@ class OrderOfTheStart : public testing::Test {
   CountingEvents events;
   RecordingOpener opener;
   ListedPrinters printers;
+  RecordingPrinting printing;
   RecordingFolderChooser folder_chooser;
-  Platform platform{boxes,  pointer, locale, folders,  clock,
-                    screen, events,  opener, printers, folder_chooser};
+  Platform platform{boxes,  pointer, locale,   folders,  clock,         screen,
+                    events, opener,  printers, printing, folder_chooser};
   OrderedCore core{steps};
   Program program{platform};
 };
@@ -237,8 +238,8 @@ TEST_F(OrderOfTheStart, AFirstRunThatEndsUnderItsBoxShowsNoSettings) {
       return BoxAnswer::ok;
     }
   } ending_boxes;
-  Platform outside{ending_boxes, pointer, locale, folders,  clock,
-                   screen,       events,  opener, printers, folder_chooser};
+  Platform outside{ending_boxes, pointer, locale,   folders,  clock,         screen,
+                   events,       opener,  printers, printing, folder_chooser};
   Program first_run(outside);
   ending_boxes.all = &first_run;
   first_run.windows.core = &core;
