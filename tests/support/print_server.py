@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """A printing system of its own for one test: CUPS with a few queues, in a folder of its own.
 
-    print_server.py <folder>
+    print_server.py <folder> [--without-queues]
 
 makes the folder's content and becomes the server, so that whoever started this ends the server by
 the same process id. Clients reach it with CUPS_SERVER=<folder>/socket. The queues are named after
@@ -137,7 +137,8 @@ def main():
     write(folder / "bin/backend/broken", BROKEN, 0o700)
     folder.joinpath("bin/daemon").symlink_to("/usr/lib/cups/daemon")
     queues = ""
-    for name, (device, state, accepting, sheet) in QUEUES.items():
+    wanted = {} if "--without-queues" in sys.argv[2:] else QUEUES
+    for name, (device, state, accepting, sheet) in wanted.items():
         queues += QUEUE.format(name=name, device=device, state=state, accepting=accepting)
         if sheet:
             write(folder / f"root/ppd/{name}.ppd", description(sheet))

@@ -9,6 +9,7 @@
 #include "language/choose_language.h"
 #include "language/main_texts.h"
 #include "language/own_texts.h"
+#include "output/printing.h"
 #include "storage/day_file.h"
 #include "storage/kept_files.h"
 #include "storage/settings_file.h"
@@ -48,8 +49,8 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_exporteer_dta, Needs::user},
     CommandRow{Command::mnu_properties, Needs::nothing},
     CommandRow{Command::mnu_file_properties, Needs::day},
-    NotServed(Command::mnu_print_dag, Needs::day),
-    NotServed(Command::mnu_print_reis, Needs::day),
+    CommandRow{Command::mnu_print_dag, Needs::day},
+    CommandRow{Command::mnu_print_reis, Needs::day},
     CommandRow{Command::mnu_bestand_sluiten, Needs::nothing},
     CommandRow{Command::mnu_in_ochtend, Needs::day},
     CommandRow{Command::mnu_in_middag, Needs::day},
@@ -235,6 +236,10 @@ void RunCommand(Program& program, Command command) {
       return program.windows.core->OpenSettings();
     case Command::mnu_file_properties:
       return ChangeDaySettings(program);
+    case Command::mnu_print_dag:
+      return Print_Day(program);
+    case Command::mnu_print_reis:
+      return Print_Travel_Form(program);
     case Command::mnu_item_info:
       return GiveToFoodLists(program, &FoodListsView::CORE_show_info_mnu);
     case Command::mnu_item_voegtoe:
