@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     AddYearsBenchmarks(report);
     AddExportBenchmarks(report);
     AddNumberBenchmarks(report);
+    AddPrintBenchmarks(report);
     AddLoadBenchmarks(report);
     AddSearchBenchmarks(report);
     AddLargeBenchmarks(report);

@@ -78,6 +78,7 @@ void AddYearsBenchmarks(Report& report);
 void AddExportBenchmarks(Report& report);
 void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
+void AddPrintBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);
 
 }  // namespace kelvora::bench
