@@ -24,7 +24,7 @@ function(add_windows suffix)
   add_library(kelvora_platform_qt${suffix} STATIC ${qt_platform_sources}
                                                   ${CMAKE_SOURCE_DIR}/resources/kelvora.qrc)
   target_link_libraries(kelvora_platform_qt${suffix} PUBLIC kelvora_logic${suffix} Qt6::Widgets
-                                                            Qt6::Svg Cups::Cups)
+                                                            Qt6::Svg CURL::libcurl Cups::Cups)
   target_compile_options(kelvora_platform_qt${suffix} PRIVATE ${ARGN})
   target_precompile_headers(kelvora_platform_qt${suffix} PRIVATE ${standard_headers} ${qt_headers})
   set_target_properties(kelvora_platform_qt${suffix} PROPERTIES AUTORCC ON AUTOMOC ON)

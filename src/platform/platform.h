@@ -13,6 +13,7 @@
 #include "platform/printers.h"
 #include "platform/printing.h"
 #include "platform/screen.h"
+#include "platform/transfer.h"
 
 namespace kelvora {
 
@@ -28,6 +29,7 @@ struct Platform {
   Printers& printers;
   Printing& printing;
   FolderChooser& folder_chooser;
+  Transfers& transfers;
 };
 
 }  // namespace kelvora

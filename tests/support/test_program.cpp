@@ -93,6 +93,57 @@ std::optional<std::string> RecordingFolderChooser::Choose(const Text& prompt,
   return answer;
 }
 
+class RecordingTransfers::Noted : public Transfer {
+ public:
+  Noted(RecordingTransfers& all, OnState on_state) : all_(all), on_state_(std::move(on_state)) {
+    all_.running_ = this;
+  }
+  ~Noted() override {
+    if (all_.running_ != this) return;
+    all_.running_ = nullptr;
+    ++all_.cancelled;
+  }
+  std::string GetChunk() override {
+    if (chunks.empty()) return {};
+    std::string chunk = std::move(chunks.front());
+    chunks.pop_front();
+    return chunk;
+  }
+  std::string ResponseText() const override { return response_text; }
+  OnState TakeOnState() { return std::move(on_state_); }
+
+  std::deque<std::string> chunks;
+  std::string response_text;
+
+ private:
+  RecordingTransfers& all_;
+  OnState on_state_;
+};
+
+std::unique_ptr<Transfer> RecordingTransfers::Get(const std::string& address, OnState on_state) {
+  addresses.push_back(address);
+  if (real != nullptr) return real->Get(address, std::move(on_state));
+  return std::make_unique<Noted>(*this, std::move(on_state));
+}
+
+void RecordingTransfers::Complete(std::deque<std::string> chunks) {
+  if (running_ == nullptr) throw std::logic_error("no transfer is under way");
+  running_->chunks = std::move(chunks);
+  End(TransferState::completed);
+}
+
+void RecordingTransfers::Fail(std::string response_text) {
+  if (running_ == nullptr) throw std::logic_error("no transfer is under way");
+  running_->response_text = std::move(response_text);
+  End(TransferState::error);
+}
+
+void RecordingTransfers::End(TransferState state) {
+  const OnState on_state = running_->TakeOnState();
+  running_ = nullptr;
+  on_state(state);
+}
+
 TemporaryFolder::TemporaryFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "kelvora-XXXXXX").string();
   if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");

@@ -23,8 +23,9 @@ struct RecordingBoxes : Boxes {
 
 struct RecordingPointer : Pointer {
   bool waiting = false;
-  void ShowWait() override { waiting = true; }
-  void Restore() override { waiting = false; }
+
+ private:
+  void Show(bool wait) override { waiting = wait; }
 };
 
 struct FixedLocale : Locale {
@@ -34,7 +35,7 @@ struct FixedLocale : Locale {
   std::optional<Text> weekday;  // for every date; without it the true one, in English
   Text long_date = "dddd d MMMM yyyy";
   std::optional<Text> short_date;  // of every day
-  bool has_short_form = true;  // 3/5/04 and 2:07 PM
+  bool has_short_form = true;      // 3/5/04 and 2:07 PM
   Text SystemDecimalSeparator() const override { return separator; }
   Text DayMonthYear(const LocalTime& time) const override;
   Text HourMinuteSecond(const LocalTime& time) const override;
@@ -99,6 +100,25 @@ struct RecordingFolderChooser : FolderChooser {
   std::vector<Text> prompts;
   std::vector<std::string> starts;
   std::optional<std::string> Choose(const Text& prompt, const std::string& start) override;
+};
+
+// Sends nothing. The test ends the transfer that is under way, or the program lets it go.
+struct RecordingTransfers : Transfers {
+  Transfers* real = nullptr;           // sends what is asked for, where a test has one
+  std::vector<std::string> addresses;  // as they were asked for
+  bool network_is_up = true;
+  int cancelled = 0;
+  std::unique_ptr<Transfer> Get(const std::string& address, OnState on_state) override;
+  bool NetworkIsUp() const override { return network_is_up; }
+  [[nodiscard]] bool UnderWay() const { return running_ != nullptr; }
+  // End the transfer that was begun last: with a reply in these chunks, or with an error.
+  void Complete(std::deque<std::string> chunks);
+  void Fail(std::string response_text = "Could not connect");
+
+ private:
+  class Noted;
+  void End(TransferState state);
+  Noted* running_ = nullptr;
 };
 
 // A folder of its own below the system's temporary folder, gone with its content at the end.
@@ -180,8 +200,9 @@ class TestProgram {
   ListedPrinters printers;
   RecordingPrinting printing;
   RecordingFolderChooser folder_chooser;
-  Platform platform{boxes,  pointer, locale,   folders,  clock,         screen,
-                    events, opener,  printers, printing, folder_chooser};
+  RecordingTransfers transfers;
+  Platform platform{boxes,  pointer, locale,   folders,  clock,          screen,
+                    events, opener,  printers, printing, folder_chooser, transfers};
   RecordingCore core;
   Program program{platform};
 

@@ -8,11 +8,12 @@ namespace kelvora {
 struct CountingPointer : Pointer {
   int waits = 0;
   bool waiting = false;
-  void ShowWait() override {
-    ++waits;
-    waiting = true;
+
+ private:
+  void Show(bool wait) override {
+    if (wait) ++waits;
+    waiting = wait;
   }
-  void Restore() override { waiting = false; }
 };
 
 // The doubles and folders of `test`, with another pointer.
@@ -26,9 +27,9 @@ struct WaitingProgram {
 
   TestProgram test;
   CountingPointer pointer;
-  Platform platform{test.boxes,    pointer,       test.locale,        test.folders,
-                    test.clock,    test.screen,   test.events,        test.opener,
-                    test.printers, test.printing, test.folder_chooser};
+  Platform platform{test.boxes,    pointer,       test.locale,         test.folders,
+                    test.clock,    test.screen,   test.events,         test.opener,
+                    test.printers, test.printing, test.folder_chooser, test.transfers};
   Program program{platform};
 };
 

@@ -290,9 +290,9 @@ class BusyBrowser : public BrowserDays {
   ~BusyBrowser() override { dialog.reset(); }
 
   ActingEvents acting;
-  Platform platform{test.boxes,         test.pointer, test.locale, test.folders,  test.clock,
-                    test.screen,        acting,       test.opener, test.printers, test.printing,
-                    test.folder_chooser};
+  Platform platform{test.boxes,          test.pointer,  test.locale, test.folders,  test.clock,
+                    test.screen,         acting,        test.opener, test.printers, test.printing,
+                    test.folder_chooser, test.transfers};
   Program busy{platform};
 };
 

@@ -96,9 +96,9 @@ TEST_F(BrowserWindow, ARefusedSwitchSelectsTheCurrentUserAgain) {
 
 TEST_F(BrowserWindow, AUserChosenWhileDaysAreReadHasTheLastWord) {
   ActingEvents acting;
-  Platform platform{test.boxes,         test.pointer, test.locale, test.folders,  test.clock,
-                    test.screen,        acting,       test.opener, test.printers, test.printing,
-                    test.folder_chooser};
+  Platform platform{test.boxes,          test.pointer,  test.locale, test.folders,  test.clock,
+                    test.screen,         acting,        test.opener, test.printers, test.printing,
+                    test.folder_chooser, test.transfers};
   Program busy(platform);
   Make_Taal_English(busy.texts);
   DetermineFolders(busy);

@@ -116,9 +116,9 @@ struct LookingBoxes : RecordingBoxes {
 
 TEST_F(BrowserUsers, WhatCouldNotBeReadIsToldWhenTheListsAreFilled) {
   LookingBoxes boxes;
-  Platform platform{boxes,         test.pointer,  test.locale,        test.folders,
-                    test.clock,    test.screen,   test.events,        test.opener,
-                    test.printers, test.printing, test.folder_chooser};
+  Platform platform{boxes,         test.pointer,  test.locale,         test.folders,
+                    test.clock,    test.screen,   test.events,         test.opener,
+                    test.printers, test.printing, test.folder_chooser, test.transfers};
   Program looked_at(platform);
   Make_Taal_English(looked_at.texts);
   DetermineFolders(looked_at);

@@ -391,9 +391,9 @@ TEST(DaySummaryOfALongDay, MayBeClosedWhileItIsSorted) {
   TestProgram test;
   ClosingEvents events;
   events.program = &test.program;
-  Platform platform{test.boxes,         test.pointer, test.locale, test.folders,  test.clock,
-                    test.screen,        events,       test.opener, test.printers, test.printing,
-                    test.folder_chooser};
+  Platform platform{test.boxes,          test.pointer,  test.locale, test.folders,  test.clock,
+                    test.screen,         events,        test.opener, test.printers, test.printing,
+                    test.folder_chooser, test.transfers};
   Program program(platform);
   events.program = &program;
   Make_Taal_English(program.texts);

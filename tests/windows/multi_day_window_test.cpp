@@ -340,9 +340,9 @@ struct ClosingBoxes : Boxes {
 TEST(SeveralDaysBehindABox, MayBeClosedMeanwhile) {
   TestProgram test;
   ClosingBoxes boxes;
-  Platform platform{boxes,         test.pointer,  test.locale,        test.folders,
-                    test.clock,    test.screen,   test.events,        test.opener,
-                    test.printers, test.printing, test.folder_chooser};
+  Platform platform{boxes,         test.pointer,  test.locale,         test.folders,
+                    test.clock,    test.screen,   test.events,         test.opener,
+                    test.printers, test.printing, test.folder_chooser, test.transfers};
   Program program(platform);
   boxes.program = &program;
   Make_Taal_English(program.texts);

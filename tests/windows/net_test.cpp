@@ -197,9 +197,9 @@ TEST_F(Net, TakesWhatAHandlerThrowsInsideTheLoopOfADialog) {
 // that can't be painted would bring it back for ever.
 TEST_F(Net, AnsweringTheBoxOfAWindowThatCannotBePaintedIsTheEndOfIt) {
   QtBoxes boxes;
-  Platform platform{boxes,         test.pointer,  test.locale,        test.folders,
-                    test.clock,    test.screen,   test.events,        test.opener,
-                    test.printers, test.printing, test.folder_chooser};
+  Platform platform{boxes,         test.pointer,  test.locale,         test.folders,
+                    test.clock,    test.screen,   test.events,         test.opener,
+                    test.printers, test.printing, test.folder_chooser, test.transfers};
   Program program(platform);
   program.actions.Begin();
   auto& application = *dynamic_cast<GuardedApplication*>(qApp);

@@ -123,14 +123,14 @@ BoxAnswer QtBoxes::Show(const Box& box) {
   }
 }
 
-void QtPointer::ShowWait() {
-  if (!waiting_) QApplication::setOverrideCursor(Qt::WaitCursor);
-  waiting_ = true;
-}
-
-void QtPointer::Restore() {
-  if (waiting_) QApplication::restoreOverrideCursor();
-  waiting_ = false;
+void QtPointer::Show(bool waiting) {
+  if (waiting == waiting_) return;
+  waiting_ = waiting;
+  if (waiting) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
 }
 
 Text QtLocale::SystemDecimalSeparator() const {

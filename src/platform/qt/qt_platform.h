@@ -1,11 +1,12 @@
 // The real outside: Qt's boxes, pointer, locale, folders, clock, screen, event loop and folder
-// chooser, and the printers of CUPS.
+// chooser, the printers of CUPS, and the transfers of curl_transfers.h.
 #pragma once
 
 #include <QElapsedTimer>
 
 #include "platform/platform.h"
 #include "platform/qt/cups_printers.h"
+#include "platform/qt/curl_transfers.h"
 
 namespace kelvora {
 
@@ -16,10 +17,9 @@ class QtBoxes : public Boxes {
 
 class QtPointer : public Pointer {
  public:
-  void ShowWait() override;
-  void Restore() override;
-
  private:
+  void Show(bool waiting) override;
+
   bool waiting_ = false;
 };
 
@@ -89,8 +89,9 @@ class QtPlatform {
   QtOpener opener_;
   CupsPrinters printers_;
   QtFolderChooser folder_chooser_;
-  Platform platform_{boxes_,  pointer_, locale_,   folders_,  clock_,         screen_,
-                     events_, opener_,  printers_, printers_, folder_chooser_};
+  CurlTransfers transfers_;
+  Platform platform_{boxes_,  pointer_, locale_,   folders_,  clock_,          screen_,
+                     events_, opener_,  printers_, printers_, folder_chooser_, transfers_};
 };
 
 }  // namespace kelvora

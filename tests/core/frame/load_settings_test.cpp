@@ -73,9 +73,9 @@ TEST_F(LoadSettings, AFirstRunShowsTheMainWindowThenTheBoxThenTheDialog) {
     }
     std::vector<std::string>& order;
   } boxes(order);
-  Platform platform{boxes,         test.pointer,  test.locale,        test.folders,
-                    test.clock,    test.screen,   test.events,        test.opener,
-                    test.printers, test.printing, test.folder_chooser};
+  Platform platform{boxes,         test.pointer,  test.locale,         test.folders,
+                    test.clock,    test.screen,   test.events,         test.opener,
+                    test.printers, test.printing, test.folder_chooser, test.transfers};
   Program program(platform);
   program.windows.core = &core;
   DetermineFolders(program);

@@ -56,7 +56,9 @@ struct OrderedScreen : FixedScreen {
 };
 struct OrderedPointer : RecordingPointer {
   explicit OrderedPointer(Steps& all) : steps(all) {}
-  void ShowWait() override { steps.Note("databases"); }
+  void Show(bool wait) override {
+    if (wait) steps.Note("databases");
+  }
   Steps& steps;
 };
 struct OrderedBoxes : RecordingBoxes {
@@ -144,8 +146,9 @@ class OrderOfTheStart : public testing::Test {
   ListedPrinters printers;
   RecordingPrinting printing;
   RecordingFolderChooser folder_chooser;
-  Platform platform{boxes,  pointer, locale,   folders,  clock,         screen,
-                    events, opener,  printers, printing, folder_chooser};
+  RecordingTransfers transfers;
+  Platform platform{boxes,  pointer, locale,   folders,  clock,          screen,
+                    events, opener,  printers, printing, folder_chooser, transfers};
   OrderedCore core{steps};
   Program program{platform};
 };
@@ -238,8 +241,8 @@ TEST_F(OrderOfTheStart, AFirstRunThatEndsUnderItsBoxShowsNoSettings) {
       return BoxAnswer::ok;
     }
   } ending_boxes;
-  Platform outside{ending_boxes, pointer, locale,   folders,  clock,         screen,
-                   events,       opener,  printers, printing, folder_chooser};
+  Platform outside{ending_boxes, pointer, locale,   folders,  clock,          screen,
+                   events,       opener,  printers, printing, folder_chooser, transfers};
   Program first_run(outside);
   ending_boxes.all = &first_run;
   first_run.windows.core = &core;
