@@ -7,6 +7,7 @@
 #include "food/drag_text.h"
 #include "internet/servers.h"
 #include "language/lists_texts.h"
+#include "language/own_texts.h"
 #include "nutrition/totals.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"
@@ -200,6 +201,11 @@ bool UsesEnglishServer(const Program& program) {
 const Text& ServerText(const Program& program) {
   using namespace lists_text;
   return program.texts[UsesEnglishServer(program) ? kEnglishDatabase : kDutchDatabase];
+}
+
+Text InternetSearchTip(const Program& program) {
+  if (!program.servers.search.empty()) return program.texts[lists_text::kTipInternet];
+  return OwnTextOf(program.texts, OwnText::no_food_server);
 }
 
 }  // namespace kelvora

@@ -62,5 +62,7 @@ void ChooseServer(Program& program, std::string_view choice);
 [[nodiscard]] bool UsesEnglishServer(const Program& program);
 // The name of the database in use, between brackets.
 [[nodiscard]] const Text& ServerText(const Program& program);
+// The tip of the box of a search: what it searches, or that no server is known.
+[[nodiscard]] Text InternetSearchTip(const Program& program);
 
 }  // namespace kelvora

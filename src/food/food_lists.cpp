@@ -165,6 +165,10 @@ Text FoodLists::ResultsText() const {
   return std::to_string(temp_zoeken_.Count()) + " " + program_.texts[kResultsFound];
 }
 
+Text FoodLists::NothingFoundText() const {
+  return std::to_string(Count(FoodView::internet)) + " " + program_.texts[kAvailable];
+}
+
 Text FoodLists::DragPayload(FoodView view, const std::vector<std::size_t>& rows) {
   if (rows.size() > kMaxDraggedRows) {
     Tell(program_, BoxIcon::warning, JoinLines(program_.texts, {kTooManyDragged, kSelectAgain}));

@@ -36,6 +36,9 @@ class FoodLists {
     return SourceOf(view)[number];
   }
 
+  // The foods of the internet view, which a search fills.
+  [[nodiscard]] TextList& temp_internet() { return temp_internet_; }
+
   // The text of one cell; column 0 holds the line's number. Made anew at each call.
   [[nodiscard]] Text Cell(FoodView view, std::size_t row, std::size_t column) const;
 
@@ -85,6 +88,8 @@ class FoodLists {
   // The second panel of the status bar: how many a view has, and what a search found.
   [[nodiscard]] Text AvailableText(FoodView view) const;
   [[nodiscard]] Text ResultsText() const;
+  // The same panel of the internet view after a search that found nothing.
+  [[nodiscard]] Text NothingFoundText() const;
 
   // The payload of dragging these rows; empty after the warning that there are too many.
   [[nodiscard]] Text DragPayload(FoodView view, const std::vector<std::size_t>& rows);

@@ -43,10 +43,12 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
     : QWidget(parent),
       program_(program),
       open_flag_(program.windows, program.windows.lists, this),
-      lists_(program) {
+      lists_(program),
+      search_(program, lists_.temp_internet(), *this) {
   NameWidget(this, "KV_tb_lijsten");
   BuildToolbar();
   BuildSearch();
+  BuildInternetSearch();
   BuildViews();
   BuildFoodButtons();
   BuildStatusBar();
@@ -59,6 +61,7 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
 
 void FoodListsWindow::closeEvent(QCloseEvent* event) {
   open_flag_.Clear();
+  search_.GiveUp();
   QWidget::closeEvent(event);
 }
 
@@ -77,7 +80,6 @@ void FoodListsWindow::BuildToolbar() {
 void FoodListsWindow::BuildSearch() {
   const EntryContext entry = EntryContextOf(program_);
   Pic_zoek_ = new FoodSearchPanel(entry, this);
-  Pic_internet_ = new InternetSearchPanel(entry, this);
   TextBox* const search = &Pic_zoek_->Search();
   connect(&Pic_zoek_->Categories(), &QComboBox::textActivated, this,
           [this, search](const QString& category) {
@@ -228,18 +230,24 @@ void FoodListsWindow::ShowView(FoodView view) {
   Pic_zoek_->setVisible(view == FoodView::standard);
   Pic_internet_->setVisible(view == FoodView::internet);
   Pic_toevoegen_->setVisible(view == FoodView::own || view == FoodView::internet);
-  results_shown_ = false;
+  results_shown_ = nothing_found_ = false;
   ShowStatus();
   SetColumnWidths(view);
 }
 
 void FoodListsWindow::ShowStatus() {
   panels_[0]->setText(ToQt(program_.texts[RowOf(View()).status]));
-  panels_[1]->setText(ToQt(results_shown_ ? lists_.ResultsText() : lists_.AvailableText(View())));
+  panels_[1]->setText(ToQt(StatusText()));
+}
+
+Text FoodListsWindow::StatusText() const {
+  if (View() == FoodView::internet && search_.IsRunning()) return program_.texts[kSearching];
+  if (View() == FoodView::internet && nothing_found_) return lists_.NothingFoundText();
+  return results_shown_ ? lists_.ResultsText() : lists_.AvailableText(View());
 }
 
 void FoodListsWindow::ShowServer() {
-  Pic_internet_->Server().setText(ToQt(ServerText(program_)));
+  Pic_internet_->ShowServer(ToQt(ServerText(program_)), ToQt(InternetSearchTip(program_)));
   Toolbar_->ShowServer(UsesEnglishServer(program_));
 }
 
@@ -250,6 +258,8 @@ void FoodListsWindow::SetEmptyTexts() {
   set(FoodView::standard, OwnText::empty_results);
   set(FoodView::own, OwnText::empty_own_list);
   set(FoodView::favourites, OwnText::empty_favourites);
+  set(FoodView::internet,
+      search_.IsRunning() ? OwnText::search_runs : OwnText::empty_internet_list);
 }
 
 // Rows are made when they are drawn: the bar is full as soon as it is set.
@@ -296,6 +306,7 @@ void FoodListsWindow::Sort(FoodView view, std::size_t column) {
 void FoodListsWindow::FollowSettings() {
   const bool internet = UsesInternet();
   Toolbar_->ShowInternet(internet);
+  if (!internet) search_.GiveUp();
   if (!internet && View() == FoodView::internet) ShowView(FoodView::standard);
   for (const FoodView view : kFoodViews) {
     ShowAnew(view, [&] { lists_.SortAgain(view); });

@@ -1,5 +1,6 @@
 // The food lists window: the source of all food that is eaten. A picture of the lists that
-// food_lists.h fills; what is chosen, dropped or deleted goes to food_list_commands.h.
+// food_lists.h fills; what is chosen, dropped or deleted goes to food_list_commands.h, and the
+// internet is searched by internet/search.h.
 //
 // Besides the mouse: Enter on a list asks which day part the selected rows go to, with the one used
 // last under the cursor, so that Enter twice repeats it; the menu of a row has the same entries.
@@ -11,6 +12,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QWidget>
@@ -21,10 +23,11 @@
 #include "food/food_lists_toolbar_panel.h"
 #include "food/food_search_panel.h"
 #include "food/food_table_panel.h"
+#include "internet/search.h"
 
 namespace kelvora {
 
-class FoodListsWindow : public QWidget, public FoodListsView {
+class FoodListsWindow : public QWidget, public FoodListsView, private InternetSearchView {
   Q_OBJECT
 
  public:
@@ -55,6 +58,11 @@ class FoodListsWindow : public QWidget, public FoodListsView {
 
   void BuildToolbar();
   void BuildSearch();
+  void BuildInternetSearch();
+  void ShowSearching() override;
+  void AllowSearching() override;
+  void ShowFound() override;
+  void ShowNothingFound() override;
   void BuildViews();
   void ConnectView(FoodView view, FoodTable* table);
   void BuildFoodButtons();
@@ -71,6 +79,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   void SetEmptyTexts();
   void ShowResults();
   void ShowStatus();
+  [[nodiscard]] Text StatusText() const;
   void ShowServer();
   void RememberRow(FoodView view, int row);
   void DeleteSelected(FoodView view);
@@ -84,7 +93,10 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   Program& program_;
   OpenFlag<FoodListsView> open_flag_;
   FoodLists lists_;
+  InternetSearch search_;
   bool results_shown_ = false;  // the status tells how many were found, not how many there are
+  bool nothing_found_ = false;  // the status tells so of the internet view
+  bool term_had_focus_ = false;
   DayPart last_day_part_ = DayPart::morning;
   FoodListsToolbar* Toolbar_;
   FoodSearchPanel* Pic_zoek_;
@@ -93,6 +105,7 @@ class FoodListsWindow : public QWidget, public FoodListsView {
   QPushButton* Pic_opties_;
   QStackedWidget* stack_;
   std::array<FoodTable*, kFoodViews.size()> tables_;
+  QShortcut* give_up_;
   QMenu* day_part_menu_;
   DayPartActions day_part_actions_;
   QStatusBar* StatusBar_;

@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 
 #include "language/lists_texts.h"
-#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -14,6 +13,11 @@ namespace kelvora {
 namespace {
 
 using namespace lists_text;
+
+// The box of the term while a search runs: light grey on any desktop, with letters to be read on
+// it.
+constexpr QColor kSearchingGround(0xE0, 0xE0, 0xE0);
+constexpr QColor kSearchingLetters(0x40, 0x40, 0x40);
 
 // The box holds the name of the category most of the time: what is typed takes its place.
 class SearchBox : public TextBox {
@@ -78,7 +82,6 @@ InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* par
   txt_internetzoektext_->setWordWrap(true);
   txt_internet_ = new TextBox(this, QStringLiteral("txt_internet"), entry);
   txt_internet_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
-  txt_internet_->setEnabled(false);
   txt_internetzoektext_->setBuddy(txt_internet_);
   txt_server_ = NewLabel(this, "txt_server");
   auto* const line = new QHBoxLayout;
@@ -92,7 +95,21 @@ InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* par
 
 void InternetSearchPanel::Set_Taal(const TextTables& texts) {
   SetCaption(txt_internetzoektext_, txt_internet_, texts[kInternetSearchHint]);
-  txt_internet_->setToolTip(ToQt(OwnTextOf(texts, OwnText::not_here_yet)));
+}
+
+void InternetSearchPanel::ShowSearching(bool running) {
+  QPalette colours;
+  if (running) {
+    colours.setColor(QPalette::Disabled, QPalette::Base, kSearchingGround);
+    colours.setColor(QPalette::Disabled, QPalette::Text, kSearchingLetters);
+  }
+  txt_internet_->setPalette(colours);
+  txt_internet_->setEnabled(!running);
+}
+
+void InternetSearchPanel::ShowServer(const QString& name, const QString& tip) {
+  txt_server_->setText(name);
+  txt_internet_->setToolTip(tip);
 }
 
 }  // namespace kelvora

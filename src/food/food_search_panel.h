@@ -28,15 +28,19 @@ class FoodSearchPanel : public QWidget {
   TextBox* txt_zoeken_;
 };
 
-// Pic_internet. This version has no search on the food server yet: the box says so.
+// Pic_internet.
 class InternetSearchPanel : public QWidget {
   Q_OBJECT
 
  public:
   InternetSearchPanel(const EntryContext& entry, QWidget* parent);
   void Set_Taal(const TextTables& texts);
+  // While a search runs nothing can be entered.
+  void ShowSearching(bool running);
+  // The name of the server in use, or that there is none.
+  void ShowServer(const QString& name, const QString& tip);
 
-  [[nodiscard]] QLabel& Server() { return *txt_server_; }
+  [[nodiscard]] TextBox& Term() { return *txt_internet_; }
 
  private:
   QLabel* txt_internetzoektext_;

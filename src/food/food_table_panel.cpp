@@ -139,6 +139,12 @@ void FoodTable::keyPressEvent(QKeyEvent* event) {
   if (numeric_pad && event->key() == Qt::Key_Plus) return emit PlusPressed();
   if (numeric_pad && event->key() == Qt::Key_Minus) return emit MinusPressed();
   QTableView::keyPressEvent(event);
+  // The focus makes the first row the current one without selecting it, and where there is no other
+  // row the arrow keys lead nowhere.
+  const bool leads = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (leads && currentIndex().isValid() && !selectionModel()->hasSelection()) {
+    SelectRow(currentIndex().row());
+  }
 }
 
 void FoodTable::paintEvent(QPaintEvent* event) {

@@ -121,6 +121,15 @@ constexpr std::array kRows = {
                "Het papier is te klein voor de hele pagina; afdrukken wat erop past?"_w},
     OwnTextRow{OwnText::no_printer_chosen, "No printer has been chosen yet."_w,
                "Er is nog geen printer gekozen."_w},
+    OwnTextRow{OwnText::empty_internet_list,
+               "Enter a food item above and press ENTER to search on internet."_w,
+               "Vul hierboven een voedingsmiddel in en druk op ENTER om op internet te zoeken."_w},
+    OwnTextRow{OwnText::search_runs, "Searching. Press ESC to stop."_w,
+               "Er wordt gezocht. Druk op ESC om te stoppen."_w},
+    OwnTextRow{OwnText::sent_under_name, "The food item is sent under the name \"%1\"."_w,
+               "Het voedingsmiddel wordt verzonden onder de naam \"%1\"."_w},
+    OwnTextRow{OwnText::no_update_server, "No server for updates is known to this program."_w,
+               "Dit programma kent geen server voor updates."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -80,6 +80,11 @@ enum class OwnText {
   // Before a page is printed that is longer or wider than the sheet.
   sheet_too_small,
   no_printer_chosen,  // what the list of printers says until one is
+  // What the list of foods from the internet says while it is empty, and while a search runs.
+  empty_internet_list,
+  search_runs,
+  sent_under_name,   // who a food is sent to the server by; "%1" is the name
+  no_update_server,  // why no newer version can be looked for
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -93,6 +98,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 51;
+inline constexpr int kOwnTextCount = 55;
 
 }  // namespace kelvora

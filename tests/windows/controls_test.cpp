@@ -102,7 +102,7 @@ Pic_zoek |  |
 combo_cat | Select a food item category: | Show the food items of one category
 txt_zoeken | Search food item (enter a food item and press ENTER): | Press ENTER to search in the remarks as well
 Pic_internet |  |
-txt_internet | Search food item on internet (enter a food item and press ENTER): | Not part of this version yet.
+txt_internet | Search food item on internet (enter a food item and press ENTER): | No food server is known to this program.
 LV_browse_zoeken | Standard list | Drop a consumption here to remove it from the day
 LV_browse_eigen | My own list | Drop a consumption here to remove it from the day
 LV_browse_favo | Favourites list | Drop a consumption here to add it to the favourites list
