@@ -1,7 +1,6 @@
 #include "food/adding.h"
 
 #include "food/food_values.h"
-#include "internet/submission.h"
 #include "language/new_food_texts.h"
 #include "language/own_texts.h"
 #include "nutrition/totals.h"
@@ -51,18 +50,28 @@ std::optional<NewFoodBox> WhatHolds(Program& program, NewFoodForm& form) {
   return NewFoodBox{NewFoodBox::Kind::name};
 }
 
-// After a list that could not be written nothing is said to be saved, and nothing is sent.
-void AddToOwnList(Program& program, const NewFoodForm& form) {
+// True if the own list lies on the disk with the food.
+bool AddToOwnList(Program& program, const NewFoodForm& form) {
   program.store.Custom_list.Add(LineOfNewFood(form));
-  if (!Save_Custom(program, CustomFile(program.paths, program.paths.UserName))) return;
-  if (AddsToInternet(program)) return SubmitFood(program);
-  Tell(program, BoxIcon::information, program.texts[kSaved]);
+  return Save_Custom(program, CustomFile(program.paths, program.paths.UserName));
 }
 
 // The lists select the row of the food that was clicked last.
 void SelectInFoodLists(Program& program, const NewFoodForm& form) {
   program.day.last_clicked_food = Trimmed(form.txt_dNaam);
   if (program.windows.lists != nullptr) program.windows.lists->Populate_Food_List_Custom();
+}
+
+void GoOnToNextFood(Program& program, NewFoodForm& form) {
+  SelectInFoodLists(program, form);
+  BeginNextFood(form, UnitsOf(program));
+  CalculateFood(program, form);
+}
+
+// What the button to add does runs under one failure path, behind the end of a submission too.
+template <class Part>
+bool RunPartOfAdding(Program& program, Part part) {
+  return program.Guard("#F1-2", part);
 }
 
 }  // namespace
@@ -89,8 +98,10 @@ bool AddsToInternet(Program& program) {
 }
 
 Text AddToInternetTip(const Program& program) {
-  if (!program.servers.submission.empty()) return program.texts[kTipAddToInternet];
-  return OwnTextOf(program.texts, OwnText::no_food_server);
+  const TextTables& texts = program.texts;
+  if (program.servers.submission.empty()) return OwnTextOf(texts, OwnText::no_food_server);
+  return texts[kTipAddToInternet] + "\n" +
+         OwnTextWith(texts, OwnText::sent_under_name, SenderName());
 }
 
 void StoreAddsToInternet(Program& program, bool on) {
@@ -123,15 +134,23 @@ Text LineOfNewFood(const NewFoodForm& form) {
   return JoinFields(form, kFieldEnd);
 }
 
-AddedFood AddNewFood(Program& program, NewFoodForm& form) {
+AddedFood AddNewFood(Program& program, NewFoodForm& form, FoodSubmission& submission,
+                     std::function<void()> on_sent) {
   AddedFood result;
-  program.Guard("#F1-2", [&] {
+  RunPartOfAdding(program, [&] {
     result.look_at = WhatHolds(program, form);
     if (result.look_at) return;
-    AddToOwnList(program, form);
-    SelectInFoodLists(program, form);
-    BeginNextFood(form, UnitsOf(program));
-    CalculateFood(program, form);
+    const bool saved = AddToOwnList(program, form);
+    if (saved && AddsToInternet(program)) {
+      result.sending = true;
+      submission.Send({form.txt_dNaam, form.txt_i}, [&program, &form, on_sent] {
+        RunPartOfAdding(program, [&] { GoOnToNextFood(program, form); });
+        on_sent();
+      });
+    } else {
+      if (saved) Tell(program, BoxIcon::information, program.texts[kSaved]);
+      GoOnToNextFood(program, form);
+    }
     result.added = true;
   });
   return result;

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 
 #include "core/program.h"
 #include "food/new_food_check.h"
+#include "internet/submission.h"
 
 namespace kelvora {
 
@@ -24,7 +26,7 @@ namespace kelvora {
 // nothing to it: then the setting becomes "0".
 [[nodiscard]] bool AddsToInternet(Program& program);
 
-// The tip of `chk_inet`: what it does, or that there is no server.
+// The tip of `chk_inet`: what it does and under which name, or that there is no server.
 [[nodiscard]] Text AddToInternetTip(const Program& program);
 
 // A click on `chk_inet`: the choice lasts from now on.
@@ -47,13 +49,19 @@ void TickEnergyLink(Program& program, NewFoodForm& form, bool on);
 
 struct AddedFood {
   bool added = false;
+  bool sending = false;               // the food is on its way to the food server
   std::optional<NewFoodBox> look_at;  // the box that holds the food back
 };
 
 // Adds the food to the own list, writes that list, offers the food to the food server if the
 // settings say so, and makes the form that of the next food. Adds nothing after a failed test, a
 // name that the own list has already, or a No to the question about much sodium. A food whose list
-// can't be written is added all the same, without a word of saving. A failure shows "#F1-2".
-[[nodiscard]] AddedFood AddNewFood(Program& program, NewFoodForm& form);
+// can't be written is added all the same, without a word of saving or sending. A failure shows
+// "#F1-2".
+//
+// While the food is on its way to the server the form is left alone; then it becomes that of the
+// next food, and `on_sent` is called. Until then form and submission must stay.
+[[nodiscard]] AddedFood AddNewFood(Program& program, NewFoodForm& form, FoodSubmission& submission,
+                                   std::function<void()> on_sent);
 
 }  // namespace kelvora

@@ -61,13 +61,14 @@ NewFoodDialog::NewFoodDialog(Program& program, QWidget* parent)
     : QDialog(parent),
       program_(program),
       open_flag_(program.windows, program.windows.new_food, this),
-      form_(EmptyNewFood(program)) {
+      form_(EmptyNewFood(program)),
+      submission_(program) {
   NameWidget(this, "KV_add_voedingsmiddel");
   auto* const frames = new QHBoxLayout;
   frames->setSpacing(kFrameSpacing);
   // Made in the order of the Tab key.
-  frames->addWidget(BuildPrintedFrame());
-  frames->addWidget(BuildPortionFrame());
+  frames_ = {BuildPrintedFrame(), BuildPortionFrame()};
+  for (QGroupBox* const frame : frames_) frames->addWidget(frame);
   auto* const layout = new QVBoxLayout(this);
   layout->setSpacing(kFrameSpacing);
   layout->addLayout(frames, 1);
@@ -141,7 +142,7 @@ QHBoxLayout* NewFoodDialog::BuildButtons() {
   NameWidget(cmd_annuleer_, "cmd_annuleer");
   cmd_annuleer_->setAutoDefault(false);
   captions_.push_back({cmd_annuleer_, kCancel, std::nullopt, kTipCancel});
-  connect(cmd_annuleer_, &QPushButton::clicked, this, &NewFoodDialog::CloseWindow);
+  connect(cmd_annuleer_, &QPushButton::clicked, this, &NewFoodDialog::reject);
 
   auto* const row = new QHBoxLayout;
   row->addWidget(chk_inet_);
@@ -267,6 +268,7 @@ QLabel* NewFoodDialog::AddLabel(QWidget* frame, const QString& name, TextId text
 }
 
 void NewFoodDialog::CloseWindow() {
+  submission_.GiveUp();
   done(QDialog::Rejected);
 }
 
@@ -339,16 +341,6 @@ void NewFoodDialog::AfterLeaving(Leave leave) {
 
 void NewFoodDialog::LeaveFocusedBox() {
   if (auto* const box = qobject_cast<NumberBox*>(focusWidget())) emit box->Left();
-}
-
-void NewFoodDialog::Add() {
-  // Enter adds from within a box, and what was typed there counts.
-  LeaveFocusedBox();
-  TakeTexts();
-  const AddedFood result = AddNewFood(program_, form_);
-  ShowForm();
-  if (result.look_at) return GoTo(*result.look_at);
-  if (result.added) GoTo({NewFoodBox::Kind::printed_gram});
 }
 
 void NewFoodDialog::GoTo(NewFoodBox box) {

@@ -36,6 +36,11 @@ class NewFoodDialog : public QDialog, public WindowView {
   void Set_Taal() override;
   void FollowSettings() override;
   void done(int result) override;
+  // While a food is on its way to the server, Escape and "Cancel" only give that up.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   // A widget and the text that it takes from the tables; a box is read aloud with the heading of
@@ -71,6 +76,9 @@ class NewFoodDialog : public QDialog, public WindowView {
   void TakeTexts();
   void LeaveFocusedBox();
   void Add();
+  // Nothing can be entered while a food is on its way to the server.
+  void ShowSending(bool sending);
+  void BeginNextFood();
   // Puts the focus into a box, with its text selected.
   void GoTo(NewFoodBox box);
   [[nodiscard]] QLineEdit* BoxOf(NewFoodBox box) const;
@@ -81,11 +89,13 @@ class NewFoodDialog : public QDialog, public WindowView {
   Program& program_;
   OpenFlag<WindowView> open_flag_;
   NewFoodForm form_;
+  FoodSubmission submission_;
   std::vector<Caption> captions_;
   std::vector<NumberBox*> number_boxes_;
   WeightEdits printed_weight_, portion_weight_;
   std::array<NumberBox*, FoodValue::kCount> txt_s_{};
   std::array<TextBox*, FoodValue::kCount> txt_d_{};
+  std::array<QGroupBox*, 2> frames_{};
   QLabel* lbl_info_;
   QCheckBox* chk_kj_;
   TextBox* txt_dNaam_;

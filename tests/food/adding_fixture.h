@@ -39,7 +39,8 @@ class AddingAFood : public testing::Test {
   // Adds the form; the boxes shown by it, each as "title|text".
   std::vector<Text> Add() {
     const std::size_t before = test.boxes.shown.size();
-    const AddedFood result = AddNewFood(program, form);
+    const AddedFood result = AddNewFood(program, form, submission, [this] { ++sent; });
+    sending = result.sending;
     added = result.added;
     look_at = result.look_at;
     std::vector<Text> shown;
@@ -65,7 +66,10 @@ class AddingAFood : public testing::Test {
   TestProgram test;
   Program& program = test.program;
   NewFoodForm form = GoodForm();
+  FoodSubmission submission{test.program};
   bool added = false;
+  bool sending = false;
+  int sent = 0;
   std::optional<NewFoodBox> look_at;
 };
 

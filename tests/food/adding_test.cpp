@@ -58,12 +58,56 @@ TEST_F(AddingAFood, SelectsTheFoodInTheListsOpenOrNot) {
   program.windows.lists = nullptr;
 }
 
+TEST_F(AddingAFood, TheServerGetsItPer100GramsWhileTheFormWaits) {
+  program.settings[Setting::chk_addinternet] = "1";
+  program.servers.submission = "http://localhost:1/";
+  setenv("USERNAME", "Anna", 1);
+  form.txt_dNaam = " Soup";
+  EXPECT_EQ(Add(), std::vector<Text>{});
+  EXPECT_TRUE(added);
+  EXPECT_TRUE(sending);
+  // On the package are 1000 kilojoules of 100 grams; the portion of 35 has 350.
+  EXPECT_EQ(test.transfers.addresses,
+            std::vector<std::string>{
+                "http://localhost:1/?naam= Soup&kj=1000&kcal=240&vvet=2.00&ovet=4.40&kdr=40.00"
+                "&ew=8.00&nat=1.200&opmerking=Kelvora FOOD&gepost=Anna"});
+  // The food is saved before anything is heard of the server.
+  EXPECT_EQ(program.store.Custom_list[0],
+            Packed("Soup|1 dish|35|350|84|2.80|1.54|0.70|14.00|0.420|0||"));
+  EXPECT_TRUE(FileExists(Path()));
+  EXPECT_EQ(form.txt_dNaam, " Soup");
+  EXPECT_EQ(sent, 0);
+  test.transfers.Complete({"OK"});
+  EXPECT_EQ(sent, 1);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_TRUE(test.boxes.shown[0].text.starts_with("The new food item is saved in the"));
+  EXPECT_EQ(program.settings[Setting::SubmitCount], "1");
+  EXPECT_EQ(program.day.last_clicked_food, "Soup");
+  EXPECT_EQ(form.txt_dNaam, "");
+}
+
+TEST_F(AddingAFood, AListThatCanNotBeWrittenIsNotSent) {
+  program.settings[Setting::chk_addinternet] = "1";
+  program.servers.submission = "http://localhost:1/";
+  {
+    const InjectedFault full({.disk_full_after = 10});
+    Add();
+  }
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_TRUE(test.boxes.shown[0].text.ends_with("Brelux CODE:#FF1-5"));
+  EXPECT_TRUE(test.transfers.addresses.empty());
+  EXPECT_FALSE(sending);
+}
+
 TEST_F(AddingAFood, WithAServerThatCannotBeReachedItIsSavedAndEndsAsAFailedConnection) {
   program.settings[Setting::chk_addinternet] = "1";
   program.servers.submission = "http://localhost:1/";
-  EXPECT_EQ(Add(), std::vector<Text>{
-                       "Error #504|The new food item is saved in the 'my own list' but not added "
-                       "to the internet database.\nCheck your internet connection and try again."});
+  EXPECT_EQ(Add(), std::vector<Text>{});
+  test.transfers.Fail();
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_EQ(test.boxes.shown[0].title + "|" + test.boxes.shown[0].text,
+            "Error #504|The new food item is saved in the 'my own list' but not added "
+            "to the internet database.\nCheck your internet connection and try again.");
   EXPECT_EQ(test.boxes.shown.back().icon, BoxIcon::error);
   EXPECT_TRUE(added);
   EXPECT_TRUE(FileExists(Path()));
@@ -204,7 +248,9 @@ TEST_F(AddingAFood, WithoutAServerNothingCanBeAddedToItAndTheTipSaysWhy) {
   program.servers.submission = "http://localhost:1/";
   EXPECT_TRUE(MayAddToInternet(program));
   EXPECT_TRUE(AddsToInternet(program));
-  EXPECT_EQ(AddToInternetTip(program), program.texts[new_food_text::kTipAddToInternet]);
+  setenv("USERNAME", "Anna", 1);
+  EXPECT_EQ(AddToInternetTip(program), program.texts[new_food_text::kTipAddToInternet] +
+                                           "\nThe food item is sent under the name \"Anna\".");
   program.settings[Setting::chk_internet] = "0";
   EXPECT_FALSE(MayAddToInternet(program));
 }

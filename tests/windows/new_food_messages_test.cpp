@@ -107,12 +107,23 @@ TEST_F(NewFoodMessages, TheFoodIsSaved) {
 TEST_F(NewFoodMessages, TheFoodIsSavedButNotSent) {
   Stored(Setting::chk_addinternet) = "1";
   KnowAServer();
-  ForBothLanguages([&] { test.program.store.Custom_list.Clear(); }, BoxIcon::error,
-                   "Error #504|The new food item is saved in the 'my own list' but not added to "
-                   "the internet database.\nCheck your internet connection and try again.",
-                   "Fout #504|Het nieuwe voedingsmiddel is opgeslagen in 'mijn eigen lijst', maar "
-                   "niet toegevoegd aan de internetdatabase.\n"
-                   "Controleer je internetverbinding en probeer het opnieuw.");
+  for (const auto& [make, text] :
+       {std::pair{&Make_Taal_English,
+                  "Error #504|The new food item is saved in the 'my own list' but not added to "
+                  "the internet database.\nCheck your internet connection and try again."},
+        std::pair{&Make_Taal_Dutch,
+                  "Fout #504|Het nieuwe voedingsmiddel is opgeslagen in 'mijn eigen lijst', maar "
+                  "niet toegevoegd aan de internetdatabase.\n"
+                  "Controleer je internetverbinding en probeer het opnieuw."}}) {
+    make(test.program.texts);
+    test.program.store.Custom_list.Clear();
+    Open();
+    FillIn();
+    Click("cmd_opslaan");
+    test.transfers.Fail();
+    ExpectBox(text, BoxIcon::error);
+    EXPECT_TRUE(dialog->isVisible());
+  }
   EXPECT_EQ(OwnList().Count(), 1u);
   EXPECT_EQ(Stored(Setting::SubmitCount), "0");
 }
