@@ -88,7 +88,8 @@ struct Program {
   std::optional<OpenedDay> opened_day;  // what a day file with no record falls back on
   KeptFiles kept;
   ServerAddresses servers;
-  Text StartSeparator;  // the decimal separator that the locale had at start
+  bool update_checked = false;  // a check for a newer version has begun since the start
+  Text StartSeparator;          // the decimal separator that the locale had at start
   ActionLog actions;
   bool ending = false;  // the main window is gone for good: nothing new begins
   Platform& platform;

@@ -128,6 +128,14 @@ struct MultiDayView : WindowView {
   virtual void Refresh_Meerdaagsuittreksel() = 0;
 };
 
+// Whether a check for a newer version shows its window or speaks up only if there is one.
+enum class UpdateMode { shown, background };
+
+struct UpdateView : WindowView {
+  // Shows the window of a check that runs in the background; brings one that shows to the front.
+  virtual void ShowWindow() = 0;
+};
+
 struct WizardView : WindowView {
   // Ticks or unticks its checkbox for coming up at start.
   virtual void SetShowAtStart(bool) = 0;
@@ -167,6 +175,9 @@ struct CoreView {
   virtual void ShowSplash() = 0;
   // Shows the About window modally; returns when it is gone.
   virtual void ShowAbout() = 0;
+  // Lets a check for a newer version run in a window of its own; returns at once. One runs at a
+  // time.
+  virtual void OpenUpdate(UpdateMode mode) = 0;
 };
 
 struct OpenWindows {
@@ -184,6 +195,7 @@ struct OpenWindows {
   WindowView* properties = nullptr;  // the settings dialog
   WindowView* export_html = nullptr;
   WindowView* new_food = nullptr;  // the dialog for a new food
+  UpdateView* update = nullptr;    // hidden while its check runs in the background
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
   std::array<bool, 3> totals_shown{};

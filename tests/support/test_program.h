@@ -156,6 +156,7 @@ struct RecordingCore : CoreView {
   int toolbar_texts_set = 0;
   int splashes = 0;
   int abouts = 0;
+  std::vector<UpdateMode> updates_opened;
   void Set_Taal() override {}
   void Set_toolbar_teksten() override { ++toolbar_texts_set; }
   void ShowMainWindow() override {}
@@ -178,6 +179,7 @@ struct RecordingCore : CoreView {
   }
   void ShowSplash() override { ++splashes; }
   void ShowAbout() override { ++abouts; }
+  void OpenUpdate(UpdateMode mode) override { updates_opened.push_back(mode); }
 };
 
 // `bare` is the machine before a first start; `prepared` has its folders determined, English texts

@@ -20,6 +20,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "internet/update_window.h"
 #include "output/export_dialog.h"
 #include "support/test_program.h"
 #include "windows/written_days.h"
@@ -427,6 +428,15 @@ TEST_F(Controls, OfAboutAndTheSplash) {
 KV_popup | About Kelvora FOOD |
 ProgressBar |  |
 cmd_annuleer | Close |
+)");
+}
+
+TEST_F(Controls, OfTheUpdateCheck) {
+  const UpdateWindow window(program, UpdateMode::shown, nullptr);
+  ExpectControls(window, R"(
+KV_tb_internet_update | Internet updates |
+ProgressBar | Progress of the update check |
+StatusBar |  |
 )");
 }
 

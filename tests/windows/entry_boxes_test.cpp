@@ -17,6 +17,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "internet/update_window.h"
 #include "output/export_dialog.h"
 #include "platform/qt/text_area.h"
 #include "platform/qt/text_box.h"
@@ -87,6 +88,7 @@ TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
   ExpectTextOnly(WizardDialog(program, nullptr), 0);
   ExpectTextOnly(PopupWindow(program, kAboutMode, nullptr), 0);
   ExpectTextOnly(DataWindow(program, nullptr), 0);
+  ExpectTextOnly(UpdateWindow(program, UpdateMode::shown, nullptr), 0);
   // Name, unit, group and remark, the weight in two units, and seven values twice.
   ExpectTextOnly(
       FoodDetailsDialog(program, "zoeken", Packed("Bread|1|2|3|4|5|6|7|8|9|10|11|"), nullptr),

@@ -15,11 +15,13 @@
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
 #include "food/food_details_dialog.h"
+#include "internet/update_window.h"
 #include "output/export_dialog.h"
 #include "platform/qt/qt_platform.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
 #include "storage/profile_file.h"
+#include "storage/record_file.h"
 #include "support/test_program.h"
 #include "windows/days_read.h"
 #include "windows/find_in.h"
@@ -129,6 +131,17 @@ TEST_F(HugeTexts, AreDrawnInPartByTheMainWindowAndItsChildWindows) {
     QApplication::processEvents();
     ExpectBounded(window, view == 4 ? 3 * 10 + 12 : 3 * 10);
   }
+}
+
+TEST_F(HugeTexts, AreDrawnInPartByTheUpdateCheck) {
+  Program& program = test.program;
+  std::filesystem::create_directories(program.paths.ProgramPath);
+  WriteFileAnew(program.paths.ProgramPath + "servers.conf", "update = http://up.example\n");
+  UpdateWindow window(program, UpdateMode::shown, nullptr);
+  window.show();
+  QApplication::processEvents();
+  test.transfers.Complete({huge + "\xBD"});
+  ExpectBounded(window, 0);
 }
 
 TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {

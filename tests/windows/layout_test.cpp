@@ -31,9 +31,11 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "internet/update_window.h"
 #include "language/built_in_texts.h"
 #include "output/export_dialog.h"
 #include "storage/folders.h"
+#include "storage/record_file.h"
 #include "support/test_program.h"
 #include "windows/days_read.h"
 #include "windows/written_days.h"
@@ -330,6 +332,17 @@ TEST_F(WindowLayout, OfTheStart) {
     Look(about, 8);
     PopupWindow splash(program, kSplashMode, nullptr);
     Look(splash, 8);
+  });
+}
+
+TEST_F(WindowLayout, OfTheUpdateCheck) {
+  std::filesystem::create_directories(program.paths.ProgramPath);
+  WriteFileAnew(program.paths.ProgramPath + "servers.conf", "update = http://up.example\n");
+  InBothLanguages([this] {
+    UpdateWindow update(program, UpdateMode::shown, nullptr);
+    Look(update, 7);
+    test.transfers.Complete({"3.00\xBD"});
+    Look(update, 7);
   });
 }
 

@@ -16,6 +16,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "internet/update_window.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "language/own_texts.h"
@@ -182,6 +183,8 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(about, kSquare), 8u);
   const NewFoodDialog new_food(program, nullptr);
   EXPECT_GT(ExpectFromTables(new_food, kSquare), 80u);
+  const UpdateWindow update(program, UpdateMode::shown, nullptr);
+  EXPECT_GT(ExpectFromTables(update, kSquare), 7u);
 }
 
 TEST_F(WindowTexts, TheSplashShowsNothingOfItsOwnWhileItRuns) {

@@ -70,7 +70,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_help_index, Needs::nothing},
     CommandRow{Command::mnu_about, Needs::nothing},
     CommandRow{Command::mnu_website, Needs::nothing},
-    NotServed(Command::mnu_check_updates, Needs::nothing),
+    CommandRow{Command::mnu_check_updates, Needs::nothing},
     CommandRow{Command::print_drop_down, Needs::day},
     CommandRow{Command::consumptions_drop_down, Needs::day},
     CommandRow{Command::quick_default, Needs::day},
@@ -260,6 +260,8 @@ void RunCommand(Program& program, Command command) {
       return program.windows.core->ShowAbout();
     case Command::mnu_website:
       return OpenWebsite(program);
+    case Command::mnu_check_updates:
+      return program.windows.core->OpenUpdate(UpdateMode::shown);
     case Command::print_drop_down:
       return Tell(program, BoxIcon::information,
                   JoinLines(program.texts, {kSelectPrintOption, kSeveralOptions}));

@@ -11,6 +11,7 @@
 #include "food/food_details_dialog.h"
 #include "food/food_lists_window.h"
 #include "food/new_food_dialog.h"
+#include "internet/update_window.h"
 #include "output/export_dialog.h"
 #include "platform/qt/look.h"
 
@@ -69,6 +70,24 @@ void MainWindow::ShowSplash() {
 
 void MainWindow::ShowAbout() {
   ShowPopup(program_, kAboutMode, this);
+}
+
+// In the middle of the area and no larger than it needs: it is gone again in a moment.
+void MainWindow::OpenUpdate(UpdateMode mode) {
+  if (program_.ending) return;
+  if (program_.windows.update == nullptr) {
+    auto* const content = new UpdateWindow(program_, mode, area_);
+    QMdiSubWindow* const frame =
+        area_->addSubWindow(content, Qt::SubWindow | Qt::WindowTitleHint |
+                                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    frame->hide();
+    frame->setAttribute(Qt::WA_DeleteOnClose);
+    frame->setObjectName(content->objectName() + QStringLiteral("_frame"));
+    frame->setWindowIcon(IconNamed("update"));
+    frame->adjustSize();
+    frame->move(area_->rect().center() - frame->rect().center());
+  }
+  if (mode == UpdateMode::shown) program_.windows.update->ShowWindow();
 }
 
 void MainWindow::OpenConsumption(DayPart part, const char* icon) {

@@ -44,6 +44,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) override;
   void ShowSplash() override;
   void ShowAbout() override;
+  void OpenUpdate(UpdateMode mode) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

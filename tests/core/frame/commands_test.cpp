@@ -80,7 +80,7 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_help_index, State::empty, State::empty},
     EnableRow{Command::mnu_about, State::empty, State::empty},
     EnableRow{Command::mnu_website, State::empty, State::empty},
-    EnableRow{Command::mnu_check_updates, State::never, State::never},
+    EnableRow{Command::mnu_check_updates, State::empty, State::empty},
     EnableRow{Command::print_drop_down, State::day, State::day},
     EnableRow{Command::consumptions_drop_down, State::day, State::day},
     EnableRow{Command::quick_default, State::day, State::day},
@@ -176,11 +176,10 @@ TEST(Commands, WhatIsNotServedSaysSoBehindItsTip) {
   TestProgram test;
   EXPECT_EQ(TipOf(test.program, Command::mnu_new, main_text::kTipNew), "Start new file or user");
   EXPECT_EQ(TipOf(test.program, Command::mnu_bestand_sluiten, std::nullopt), "");
-  EXPECT_EQ(TipOf(test.program, Command::mnu_check_updates, main_text::kTipUpdate),
+  EXPECT_EQ(TipOf(test.program, Command::none, main_text::kTipUpdate),
             "Check for newer version of Kelvora FOOD\nNot part of this version yet.");
   Make_Taal_Dutch(test.program.texts);
-  EXPECT_EQ(TipOf(test.program, Command::mnu_check_updates, std::nullopt),
-            "Nog geen deel van deze versie.");
+  EXPECT_EQ(TipOf(test.program, Command::none, std::nullopt), "Nog geen deel van deze versie.");
 }
 
 TEST(Commands, TheThreeFormatsOpenTheSameDialog) {
@@ -257,6 +256,8 @@ TEST(Commands, TheWizardAndAboutComeUp) {
   EXPECT_EQ(test.core.abouts, 0);
   RunCommand(test.program, Command::mnu_about);
   EXPECT_EQ(test.core.abouts, 1);
+  RunCommand(test.program, Command::mnu_check_updates);
+  EXPECT_EQ(test.core.updates_opened, std::vector<UpdateMode>{UpdateMode::shown});
   EXPECT_EQ(test.core.opened.size(), 1u);
 }
 
