@@ -9,12 +9,18 @@ Not a test: a person looks at what it makes.
 import argparse
 import struct
 import subprocess
+import sys
+import tempfile
 import time
 from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
+
 from day_file_writer import food, write_days
 from desktop import SPLASH, WIZARD, Desktop
+from food_server import Server, refusing
 from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
+from with_servers import ProgramWithServers
 
 AFTERNOON = (800, 420)
 AFTERNOON_PLUS, MORNING_TOTALS = (926, 340), (651, 137)
@@ -30,6 +36,9 @@ DETAILS = "^(Food item details|Details van het voedingsmiddel)$"
 ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 
 
+# The button of the internet list, the box of its term, and the button that looks for an update.
+INTERNET = {"english": [(320, 150), (140, 226), (797, 65)],
+            "nederlands": [(320, 150), (140, 226), (870, 65)]}
 TREND_BUTTON = {"english": (510, 60), "nederlands": (583, 65)}
 REPORT_BUTTON = {"english": (560, 60), "nederlands": (636, 65)}
 EXPORT = "^(Export days to|Dagen exporteren naar) HTML, XML "
@@ -194,6 +203,45 @@ def take_export(desktop, folder, stem):
     desktop.no_window(EXPORT)
 
 
+class SlowServer(Server):
+    """Keeps silent at the first request."""
+
+    def answer(self, connection, line):
+        first = len(self.requests) == 1
+        Server.answer(connection, b"GET /silent HTTP/1.1" if first else line)
+
+
+def take_internet(desktop, copy, server, folder, stem):
+    """The internet list while it is empty, in a search and with foods; the update window while it
+    asks, when nobody answers, with a newer version and with a server that refuses; About."""
+    internet_list, term, update = INTERNET[stem]
+    desktop.click(internet_list)
+    take(desktop, folder / f"internet_empty_{stem}.png")
+    desktop.click(term)
+    desktop.type("appel taart")
+    desktop.keys("Return")
+    take(desktop, folder / f"internet_searching_{stem}.png")
+    desktop.keys("Escape")
+    desktop.keys("Return")
+    take(desktop, folder / f"internet_found_{stem}.png")
+    taken = refusing()
+    for name, address in [("asking", server.address("silent")), ("newer", server.address("newer")),
+                          ("refused", f"http://127.0.0.1:{taken.getsockname()[1]}"), ("none", None)]:
+        copy.know(**({"update": address} if address else {}))
+        desktop.output("xdotool", "mousemove", *(str(side * desktop.scale) for side in update),
+                       "click", "1")
+        time.sleep(0.8)
+        take(desktop, folder / f"update_{name}_{stem}.png")
+        if name == "asking":
+            time.sleep(4)
+        else:
+            desktop.keys("Return")
+    taken.close()
+    desktop.keys("F10", "Left", "Down", "Return")
+    take_window(desktop, ABOUT, folder / f"about_counters_{stem}.png")
+    desktop.keys("Escape")
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("program", type=lambda name: Path(name).resolve())
@@ -204,7 +252,11 @@ def main():
     arguments = parser.parse_args()
     program, folder, language = arguments.program, arguments.folder, arguments.language
     stem = Path(language).stem.lower()
-    with PictureDesktop(arguments.scale, arguments.dark) as desktop:
+    with PictureDesktop(arguments.scale, arguments.dark) as desktop, SlowServer() as server, \
+            tempfile.TemporaryDirectory() as beside:
+        copy = ProgramWithServers(program, beside)
+        copy.know(dutch=server.address("hits"))
+        program = copy.program
         choose_language(desktop, program, language)
         take_start(desktop, program, folder, stem)
         desktop.start(program)
@@ -223,6 +275,7 @@ def main():
         take_foods(desktop, folder, stem)
         take_comparison(desktop, folder, stem)
         take_summary(desktop, folder, stem)
+        take_internet(desktop, copy, server, folder, stem)
         desktop.keys("ctrl+s")
         take_trend(desktop, folder, stem)
         take_export(desktop, folder, stem)
