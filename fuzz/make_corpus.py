@@ -200,6 +200,20 @@ def language_files():
     }
 
 
+def replies():
+    """Lengths tell what a seed is taken for, so each stands there with up to three bytes behind it."""
+    foods = APPLE + b"\xbc" + CAFE + b"\xbc" + SHORT + b"\xbc"
+    kinds = {
+        "empty": b"", "foods": foods, "text_behind": foods + b"more", "no_quarter": FOODS,
+        "only_quarters": b"\xbc" * 9, "ends_of_lines": b"Soup\xbe" + FIELD_END + b"\xbe\xbc",
+        "all_bytes": ALL_BYTES, "nuls": b"\0" * 9 + b"\xbc", "utf_8": "Crème½1 stuk½¼".encode(),
+        "accepted": b"OK", "accepted_and_more": b"OK, thanks", "lower_case": b"ok",
+        "version": b"3.00\xbdmore\xbd", "own_version": b"2.24\xbd", "no_version": b"\xbd2.25\xbd",
+        "points": b"...\xbd", "long_version": b"9" * 400 + b"\xbd", "line_in_a_term": b"soup\r\nHost: x",
+    }
+    return {f"{name}_{more}": text + b"." * more for name, text in kinds.items() for more in range(4)}
+
+
 def main():
     records = broken(record(b"one")) | {
         "six": record(*[b"%d" % i * i for i in range(6)]),
@@ -219,6 +233,7 @@ def main():
         "category_file": food_files(),
         "language_file": language_files(),
         "text_search": texts_to_search(),
+        "reply": replies(),
     }
     for target, seeds in targets.items():
         folder = CORPUS / target
