@@ -80,5 +80,7 @@ void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
 void AddPrintBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);
+// Of the windows.
+void AddInternetBenchmarks(Report& report);
 
 }  // namespace kelvora::bench

@@ -201,5 +201,6 @@ int main(int argc, char** argv) {
   AddBenchmarks(report, kMillion, kWithoutWaiting);
   report.AddPair("change/150", UnderMicroseconds(kMostOfAChange), Plan::many, ChangeOfTheDay,
                  RetotalAlone);
+  AddInternetBenchmarks(report);
   return report.Run(argc, argv);
 }
