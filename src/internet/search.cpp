@@ -40,7 +40,8 @@ std::optional<TextList> FoodsOfReply(std::string_view reply) {
   std::size_t end = reply.find(kFoodEnd);
   if (end == reply.npos) return std::nullopt;
   TextList foods;
-  for (std::size_t begin = 0; end != reply.npos; end = reply.find(kFoodEnd, begin)) {
+  for (std::size_t begin = 0; end != reply.npos && foods.Count() < kMostFoodsOfReply;
+       end = reply.find(kFoodEnd, begin)) {
     AddFood(reply.substr(begin, end - begin), foods);
     begin = end + 1;
   }

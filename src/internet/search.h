@@ -16,6 +16,10 @@ namespace kelvora {
 // "¼" closes a food in a reply and stands nowhere else.
 inline constexpr char kFoodEnd = '\xBC';
 
+// More foods than this are not taken from one reply: a list of a million opens at once, and a reply
+// that is nothing but ends of foods would ask for gigabytes.
+inline constexpr std::size_t kMostFoodsOfReply = 1'000'000;
+
 // The foods of a reply, each without its closing "¼"; nothing if it holds no "¼". What stands
 // behind the last one doesn't count. A "¾" is left out: it would make two lines of one food
 // wherever that food goes.

@@ -251,6 +251,11 @@ TEST(FoodsOfReply, AreWhatEachQuarterCloses) {
   EXPECT_EQ((*foods)[1], "<b>\xC3");
 }
 
+TEST(FoodsOfReply, AreAMillionAtTheMost) {
+  EXPECT_EQ(FoodsOfReply(std::string(1'000'000, '\xBC'))->Count(), 1'000'000u);
+  EXPECT_EQ(FoodsOfReply(std::string(1'000'001, '\xBC'))->Count(), 1'000'000u);
+}
+
 // The end of a line inside a food would make two foods of it in the day and in the own list.
 TEST(FoodsOfReply, HoldNoEndOfALine) {
   const auto foods = FoodsOfReply(
