@@ -79,8 +79,9 @@ void OpenWindow(benchmark::State& state, std::size_t days) {
   QtPointer pointer;
   QtLocale locale;
   QtEvents events;
-  Platform platform{test.boxes,  pointer, locale,      test.folders,  test.clock,
-                    test.screen, events,  test.opener, test.printers, test.folder_chooser};
+  Platform platform{test.boxes,          pointer,       locale,      test.folders,  test.clock,
+                    test.screen,         events,        test.opener, test.printers, test.printing,
+                    test.folder_chooser, test.transfers};
   Program program(platform);
   program.texts = test.program.texts;
   program.settings = test.program.settings;

@@ -50,9 +50,9 @@ class PrintServer {
 void PrintDay(benchmark::State& state) {
   PrintServer server;
   TestProgram test;
-  Platform platform{test.boxes,      test.pointer,    test.locale,        test.folders,
-                    test.clock,      test.screen,     test.events,        test.opener,
-                    server.printers, server.printers, test.folder_chooser};
+  Platform platform{test.boxes,      test.pointer,    test.locale,         test.folders,
+                    test.clock,      test.screen,     test.events,         test.opener,
+                    server.printers, server.printers, test.folder_chooser, test.transfers};
   Program program(platform);
   program.settings[Setting::combo_printer] = "A3";
   program.settings[Setting::opt_system] = "0";

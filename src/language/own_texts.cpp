@@ -17,8 +17,6 @@ struct OwnTextRow {
 
 // In the order of OwnText.
 constexpr std::array kRows = {
-    OwnTextRow{OwnText::not_here_yet, "Not part of this version yet."_w,
-               "Nog geen deel van deze versie."_w},
     OwnTextRow{OwnText::move_to_morning, "Move to the morning"_w, "Verplaats naar de ochtend"_w},
     OwnTextRow{OwnText::move_to_afternoon, "Move to the afternoon"_w, "Verplaats naar de middag"_w},
     OwnTextRow{OwnText::move_to_evening, "Move to the evening"_w, "Verplaats naar de avond"_w},

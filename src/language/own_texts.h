@@ -14,7 +14,6 @@ enum class Language { english, dutch };
 [[nodiscard]] Language LanguageOf(const TextTables& texts);
 
 enum class OwnText {
-  not_here_yet,  // why a command is disabled that this version can't carry out
   // The menu of the foods of one part of the day.
   move_to_morning,
   move_to_afternoon,
@@ -98,6 +97,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 55;
+inline constexpr int kOwnTextCount = 54;
 
 }  // namespace kelvora

@@ -217,9 +217,9 @@ TEST(SearchingBehindABox, AWindowThatGoesMeanwhileIsLeftAlone) {
   for (const int box : {1, 2}) {
     TestProgram test;
     ClosingBoxes boxes;
-    Platform platform{boxes,         test.pointer,        test.locale,   test.folders,
-                      test.clock,    test.screen,         test.events,   test.opener,
-                      test.printers, test.folder_chooser, test.transfers};
+    Platform platform{boxes,         test.pointer,  test.locale,         test.folders,
+                      test.clock,    test.screen,   test.events,         test.opener,
+                      test.printers, test.printing, test.folder_chooser, test.transfers};
     Program program(platform);
     program.paths = test.program.paths;
     program.servers.search = "http://nl.example/";

@@ -54,11 +54,11 @@ TEST_F(OwnTextFiles, BeginWithTheVersionAndHoldEveryTextInOrder) {
       static_cast<unsigned char>(dutch[4]) + 256u * static_cast<unsigned char>(dutch[5]);
   EXPECT_EQ(dutch.size(), 6 + length);
   EXPECT_TRUE(dutch.substr(6).starts_with(
-      Packed("2.24~Nog geen deel van deze versie.~Verplaats naar de ochtend~")));
+      Packed("2.24~Verplaats naar de ochtend~Verplaats naar de middag~")));
   EXPECT_EQ(std::count(dutch.begin(), dutch.end(), '\xBE'), kOwnTextCount + 1);
   EXPECT_TRUE(ReadFile(Path("default.own"))
                   .substr(6)
-                  .starts_with(Packed("2.24~Not part of this version yet.~Move to the morning~")));
+                  .starts_with(Packed("2.24~Move to the morning~Move to the afternoon~")));
 }
 
 TEST_F(OwnTextFiles, AreReadWithTheirLanguage) {
@@ -73,12 +73,12 @@ TEST_F(OwnTextFiles, ATranslationOfAUsersOwnIsShown) {
   Check_Language_Files(test.program);
   Load_Language_File(test.program, Path("Nederlands.lsf"));
   Save_Language_File(test.program, Path("Frans.lsf"));
-  WriteFileAnew(Path("Frans.own"), Companion("1.0~Pas encore.~Vers le matin~"));
+  WriteFileAnew(Path("Frans.own"), Companion("1.0~Vers le matin~Vers midi~"));
   Load_Language_File(test.program, Path("Frans.lsf"));
-  EXPECT_EQ(Own(OwnText::not_here_yet), "Pas encore.");
   EXPECT_EQ(Own(OwnText::move_to_morning), "Vers le matin");
+  EXPECT_EQ(Own(OwnText::move_to_afternoon), "Vers midi");
   // What it lacks is English, whatever language was there before.
-  EXPECT_EQ(Own(OwnText::move_to_afternoon), "Move to the afternoon");
+  EXPECT_EQ(Own(OwnText::move_to_evening), "Move to the evening");
 }
 
 TEST_F(OwnTextFiles, ALanguageWithoutACompanionAndAnEmptyEntryAreEnglish) {
@@ -89,10 +89,10 @@ TEST_F(OwnTextFiles, ALanguageWithoutACompanionAndAnEmptyEntryAreEnglish) {
   Load_Language_File(test.program, Path("Mijn.lsf"));
   EXPECT_EQ(test.program.texts[main_text::kFile], "Bestand");
   EXPECT_EQ(Own(OwnText::cut_foods), "Cut");
-  WriteFileAnew(Path("Mijn.own"), Companion("2.24~~Naar de ochtend~"));
+  WriteFileAnew(Path("Mijn.own"), Companion("2.24~~Naar de middag~"));
   Load_Language_File(test.program, Path("Mijn.lsf"));
-  EXPECT_EQ(Own(OwnText::not_here_yet), "Not part of this version yet.");
-  EXPECT_EQ(Own(OwnText::move_to_morning), "Naar de ochtend");
+  EXPECT_EQ(Own(OwnText::move_to_morning), "Move to the morning");
+  EXPECT_EQ(Own(OwnText::move_to_afternoon), "Naar de middag");
 }
 
 TEST_F(OwnTextFiles, ADamagedCompanionIsEnglishAndSaysNothing) {
@@ -104,12 +104,12 @@ TEST_F(OwnTextFiles, ADamagedCompanionIsEnglishAndSaysNothing) {
         Companion(""), Companion("2.24~"), Companion("no end")}) {
     WriteFileAnew(Path("Mijn.own"), bytes);
     Load_Language_File(test.program, Path("Mijn.lsf"));
-    EXPECT_EQ(Own(OwnText::not_here_yet), "Not part of this version yet.");
+    EXPECT_EQ(Own(OwnText::move_to_morning), "Move to the morning");
   }
   fs::remove(Path("Mijn.own"));
   fs::create_directory(Path("Mijn.own"));
   Load_Language_File(test.program, Path("Mijn.lsf"));
-  EXPECT_EQ(Own(OwnText::not_here_yet), "Not part of this version yet.");
+  EXPECT_EQ(Own(OwnText::move_to_morning), "Move to the morning");
   EXPECT_TRUE(test.boxes.shown.empty());
 }
 
@@ -122,7 +122,7 @@ TEST_F(OwnTextFiles, ACompanionThatIsTooLongIsCut) {
   WriteFileAnew(Path("Mijn.own"), Companion(entries));
   Load_Language_File(test.program, Path("Mijn.lsf"));
   EXPECT_EQ(test.program.texts.own.size(), static_cast<std::size_t>(kOwnTextCount));
-  EXPECT_EQ(Own(OwnText::not_here_yet), "x");
+  EXPECT_EQ(Own(OwnText::move_to_morning), "x");
 }
 
 TEST_F(OwnTextFiles, StandardOnesAreWrittenAnewForAnotherVersionOrNumberOfTexts) {

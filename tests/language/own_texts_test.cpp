@@ -13,10 +13,10 @@ TEST(OwnTexts, FollowTheLanguageOfTheTables) {
   EXPECT_EQ(LanguageOf(texts), Language::english);
   Make_Taal_English(texts);
   EXPECT_EQ(LanguageOf(texts), Language::english);
-  EXPECT_EQ(OwnTextOf(texts, OwnText::not_here_yet), "Not part of this version yet.");
+  EXPECT_EQ(OwnTextOf(texts, OwnText::move_to_morning), "Move to the morning");
   Make_Taal_Dutch(texts);
   EXPECT_EQ(LanguageOf(texts), Language::dutch);
-  EXPECT_EQ(OwnTextOf(texts, OwnText::not_here_yet), "Nog geen deel van deze versie.");
+  EXPECT_EQ(OwnTextOf(texts, OwnText::move_to_morning), "Verplaats naar de ochtend");
 }
 
 TEST(OwnTexts, ATranslationOfAUsersOwnCountsAsEnglish) {

@@ -151,22 +151,6 @@ TEST_F(MainWindowOfTheProgram, SaveIsAnItemWithADayAndAButtonWithChanges) {
   EXPECT_FALSE(Button(4)->isEnabled());
 }
 
-TEST_F(MainWindowOfTheProgram, WhatLaterVersionsServeIsDisabledAndSaysSo) {
-  OpenDay();
-  SetFileChanged(test.program, true);
-  QStringList missing;
-  for (const QAction* action : window.findChildren<QAction*>()) {
-    const bool says_so = action->toolTip().endsWith("Not part of this version yet.");
-    EXPECT_NE(action->isEnabled() && says_so, true) << action->objectName().toStdString();
-    if (says_so && action->objectName().startsWith("mnu_") &&
-        !action->objectName().endsWith("_drop_down")) {
-      missing << action->objectName();
-    }
-  }
-  missing.sort();
-  EXPECT_EQ(missing, QStringList());
-}
-
 TEST_F(MainWindowOfTheProgram, ThePrintButtonTellsAndItsMenuHasTwoEntries) {
   OpenDay();
   QToolButton* const print = Button(5);

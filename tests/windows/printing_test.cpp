@@ -224,9 +224,9 @@ TEST_F(PrintingSystem, APrinterThatIsGoneIsNoOtherPrinter) {
 
 struct PrintingCommands : PrintingSystem {
   PrintedDay test;
-  Platform platform{test.boxes, test.pointer, test.locale,        test.folders,
-                    test.clock, test.screen,  test.events,        test.opener,
-                    printers_,  printers_,    test.folder_chooser};
+  Platform platform{test.boxes, test.pointer, test.locale,         test.folders,
+                    test.clock, test.screen,  test.events,         test.opener,
+                    printers_,  printers_,    test.folder_chooser, test.transfers};
   Program program{platform};
 
   PrintingCommands() {

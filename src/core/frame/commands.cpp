@@ -8,7 +8,6 @@
 #include "days/open_day.h"
 #include "language/choose_language.h"
 #include "language/main_texts.h"
-#include "language/own_texts.h"
 #include "output/printing.h"
 #include "storage/day_file.h"
 #include "storage/kept_files.h"
@@ -20,26 +19,18 @@ namespace {
 
 using namespace main_text;
 
-// What a command needs besides a window to serve it.
-enum class Needs { nothing, user, day, changed_day, day_or_unwritten };
+// What a command needs. None can be given that needs a command.
+enum class Needs { command, nothing, user, day, changed_day, day_or_unwritten };
 
 struct CommandRow {
   Command command;
   Needs as_item;
   Needs as_button = as_item;
-  bool served = true;
 };
-
-constexpr CommandRow NotServed(Command command, Needs needs, Needs as_button) {
-  return {command, needs, as_button, false};
-}
-constexpr CommandRow NotServed(Command command, Needs needs) {
-  return NotServed(command, needs, needs);
-}
 
 // An item in a menu that needs a user or a day needs it as well.
 constexpr std::array kCommands = {
-    NotServed(Command::none, Needs::nothing),
+    CommandRow{Command::none, Needs::command},
     CommandRow{Command::mnu_startupwizzard, Needs::nothing},
     CommandRow{Command::mnu_new, Needs::nothing},
     CommandRow{Command::mnu_browse, Needs::nothing},
@@ -105,6 +96,8 @@ constexpr std::array kToggles = {
 
 bool Satisfied(const Program& program, Needs needs) {
   switch (needs) {
+    case Needs::command:
+      return false;
     case Needs::nothing:
       return true;
     case Needs::user:
@@ -164,18 +157,12 @@ void RememberArrangement(Program& program, std::string_view chosen) {
 
 }  // namespace
 
-bool IsServed(Command command) {
-  return RowOf(command).served;
-}
-
 bool CommandEnabled(const Program& program, Command command) {
-  const CommandRow& row = RowOf(command);
-  return row.served && Satisfied(program, row.as_item) && FoodMenuAllows(program, command);
+  return Satisfied(program, RowOf(command).as_item) && FoodMenuAllows(program, command);
 }
 
 bool ButtonEnabled(const Program& program, Command command) {
-  const CommandRow& row = RowOf(command);
-  return row.served && Satisfied(program, row.as_button);
+  return Satisfied(program, RowOf(command).as_button);
 }
 
 bool MenuEnabled(const Program& program, std::string_view name) {
@@ -183,13 +170,6 @@ bool MenuEnabled(const Program& program, std::string_view name) {
   constexpr std::array<std::string_view, 4> kOfUser = {"mnu_opties", "mnu_resultaten",
                                                        "mnu_tabellen", "mnu_exporteer"};
   return std::ranges::find(kOfUser, name) == kOfUser.end() || Satisfied(program, Needs::user);
-}
-
-Text TipOf(const Program& program, Command command, std::optional<TextId> tip) {
-  Text text = tip ? program.texts[*tip] : Text();
-  if (IsServed(command)) return text;
-  if (!text.empty()) text += "\n";
-  return text + OwnTextOf(program.texts, OwnText::not_here_yet);
 }
 
 Text CaptionOf(const Program& program, const MenuRow& row) {

@@ -43,19 +43,12 @@ struct DropDownRow {
 [[nodiscard]] std::span<const ButtonRow> QuickToolbar();  // Toolbar_quickscreens
 [[nodiscard]] std::span<const DropDownRow> RowsOfDropDown(Command drop_down);
 
-// True if this version of the program can carry the command out. What it can't stays disabled and
-// says so in its tool tip.
-[[nodiscard]] bool IsServed(Command command);
-
-// Whether user, day and FileChanged allow a command now, and this version serves it: as an item of
-// the menu, as a button, and for a whole menu by its name. Item and button differ in two places,
+// Whether user, day and FileChanged allow a command now: as an item of the menu, as a button, and
+// for a whole menu by its name. Item and button differ in two places,
 // as they are meant to: saving as an item needs no change, comparing as an item needs no user.
 [[nodiscard]] bool CommandEnabled(const Program& program, Command command);
 [[nodiscard]] bool ButtonEnabled(const Program& program, Command command);
 [[nodiscard]] bool MenuEnabled(const Program& program, std::string_view name);
-
-// The tool tip of a command: its text, and behind it why the command is not served.
-[[nodiscard]] Text TipOf(const Program& program, Command command, std::optional<TextId> tip);
 
 // What an item of the menu is called now: the entry of the food server bears the name of the
 // service that the settings choose.

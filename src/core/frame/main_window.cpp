@@ -31,6 +31,10 @@ QString QtName(std::string_view name) {
   return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
 }
 
+Text TipOf(const TextTables& texts, const std::optional<TextId>& tip) {
+  return tip ? texts[*tip] : Text();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Program& program) : program_(program) {
@@ -237,8 +241,7 @@ void MainWindow::Set_Taal() {
   SetMenuTitles();
   for (const ItemAction& entry : item_actions_) SetItemTexts(entry);
   for (const DropDownAction& entry : drop_down_actions_) {
-    SetActionTexts(entry.action, texts[entry.row->caption],
-                   TipOf(program_, entry.row->command, std::nullopt));
+    SetActionTexts(entry.action, texts[entry.row->caption], {});
   }
   SetDayPartTexts(day_part_actions_, texts);
   SetActionTexts(compare_actions_[0], OwnTextOf(texts, OwnText::compare_as_food_1), {});
@@ -255,7 +258,7 @@ void MainWindow::Set_Taal() {
 
 void MainWindow::SetItemTexts(const ItemAction& entry) {
   SetActionTexts(entry.action, CaptionOf(program_, *entry.row),
-                 TipOf(program_, entry.row->command, entry.row->tip));
+                 TipOf(program_.texts, entry.row->tip));
 }
 
 void MainWindow::SetMenuTitles() {
@@ -278,7 +281,7 @@ void MainWindow::Set_toolbar_teksten() {
 // tools stay.
 void MainWindow::SetButtonTexts(const ButtonAction& entry) {
   const Text& caption = program_.texts[entry.row->caption];
-  SetActionTexts(entry.action, caption, TipOf(program_, entry.row->command, entry.row->tip));
+  SetActionTexts(entry.action, caption, TipOf(program_.texts, entry.row->tip));
   const bool large = program_.settings[Setting::chk_help] == "1";
   if (!large && entry.button->parentWidget() == menu_toolbar_) entry.action->setText({});
   entry.button->setAccessibleName(ToQt(caption));

@@ -172,16 +172,6 @@ TEST(Commands, SavingTakesTheChangesToTheDiskAndItsButtonDown) {
   EXPECT_FALSE(ButtonEnabled(test.program, Command::mnu_bestand_opslaan));
 }
 
-TEST(Commands, WhatIsNotServedSaysSoBehindItsTip) {
-  TestProgram test;
-  EXPECT_EQ(TipOf(test.program, Command::mnu_new, main_text::kTipNew), "Start new file or user");
-  EXPECT_EQ(TipOf(test.program, Command::mnu_bestand_sluiten, std::nullopt), "");
-  EXPECT_EQ(TipOf(test.program, Command::none, main_text::kTipUpdate),
-            "Check for newer version of Kelvora FOOD\nNot part of this version yet.");
-  Make_Taal_Dutch(test.program.texts);
-  EXPECT_EQ(TipOf(test.program, Command::none, std::nullopt), "Nog geen deel van deze versie.");
-}
-
 TEST(Commands, TheThreeFormatsOpenTheSameDialog) {
   TestProgram test;
   const std::array formats = {Command::mnu_exporteer_html, Command::mnu_exporteer_xml,
