@@ -41,9 +41,6 @@ def main():
         # A sanitized program can't look for leaks while somebody traces it.
         leaks = desktop.environment.get("ASAN_OPTIONS", "")
         desktop.environment["ASAN_OPTIONS"] = ":".join(filter(None, [leaks, "detect_leaks=0"]))
-        # The settings list the printers; where those are asked for by a socket of this machine, as
-        # desktops do, the system's printing is no network either.
-        desktop.environment["CUPS_SERVER"] = str(copy.folder / "cups.sock")
         script, trace = traced(copy)
         process = desktop.start(script, first_run=True)
         make_user_and_day(desktop)

@@ -111,7 +111,7 @@ TEST_F(Exporting, TheFooterHasTheDateInItsShortFormOrOneThatTextHolds) {
   AddThreeDays();
   ExportAll(kHtml);
   const std::string name = "Anna (3 days from 05-03-04 till 03-03-04).html";
-  EXPECT_NE(ReportText(name).find("This page is created on 5/3/2004 with "), Text::npos);
+  EXPECT_NE(ReportText(name).find("This page is created on 3/5/04 with "), Text::npos);
   test.locale.short_date = Text();
   ExportAll(kHtml);
   EXPECT_NE(ReportText(name).find("This page is created on 05-03-2004 with "), Text::npos);

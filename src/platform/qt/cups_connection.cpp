@@ -1,6 +1,8 @@
 #include "platform/qt/cups_connection.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <system_error>
 
 #include "core/failure.h"
 
@@ -33,6 +35,12 @@ int GoesOn(http_t*, void* deadline) {
 
 bool IsOnThisComputer(std::string_view server) {
   return server.starts_with('/') || server == "localhost";
+}
+
+// Where nobody has named a server and this computer has no socket of one, the library would ask a
+// port of the loopback. Looking for printers is no reason to use the network.
+bool NobodyPrintsHere() {
+  return std::getenv("CUPS_SERVER") == nullptr && std::string_view(cupsServer()) == "localhost";
 }
 
 bool IsRefused(ipp_status_t status) {
@@ -70,6 +78,9 @@ struct CupsConnection::Destination {
 
 CupsConnection::CupsConnection(Deadline deadline) : deadline_(deadline), http_(nullptr, httpClose) {
   cupsSetPasswordCB2(NoPassword, nullptr);
+  if (NobodyPrintsHere()) {
+    throw NoPrintingSystem(std::make_error_code(std::errc::no_such_file_or_directory).message());
+  }
   const auto left = duration_cast<milliseconds>(deadline_ - steady_clock::now()).count();
   http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                            static_cast<int>(std::max<milliseconds::rep>(left, 1)), nullptr));

@@ -1,28 +1,35 @@
 #include "platform/qt/cups_printers.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/qt/cups_connection.h"
 #include "platform/qt/page_pdf.h"
 #include "platform/qt/text.h"
 #include "platform/qt/within_limit.h"
 
 namespace kelvora {
-namespace {
 
-using namespace std::chrono_literals;
-
-// A printer that was just found in a network may take a while to tell its sheet; the rest is quick
-// with any server that answers.
-constexpr auto kLimitOfNames = 1000ms;
-constexpr auto kLimitOfSheet = 2400ms;
-constexpr auto kLimitOfJob = 900ms;
-
-}  // namespace
+template <class Work>
+auto CupsPrinters::Ask(std::chrono::milliseconds limit, Work work) const {
+  using std::chrono::steady_clock;
+  // Counts the time also where the work throws.
+  struct Spent {
+    std::chrono::milliseconds& left;
+    steady_clock::time_point begin = steady_clock::now();
+    ~Spent() {
+      left -= std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::now() - begin);
+    }
+  } const spent{left_};
+  return WithinLimit(limit, std::move(work));
+}
 
 std::vector<Text> CupsPrinters::Names() const {
+  left_ = kLimitOfCommand;
   std::vector<std::string> found;
   try {
-    found = WithinLimit(kLimitOfNames,
-                        [](Deadline deadline) { return CupsConnection(deadline).PrinterNames(); });
+    found = Ask(kLimitOfNames,
+                [](Deadline deadline) { return CupsConnection(deadline).PrinterNames(); });
   } catch (const NoPrintingSystem&) {  // nor are there printers
   }
   devices_.clear();
@@ -40,15 +47,16 @@ std::string CupsPrinters::DeviceOf(const Text& printer) const {
 }
 
 Sheet CupsPrinters::SheetOf(const Text& printer) {
-  return WithinLimit(kLimitOfSheet, [device = DeviceOf(printer)](Deadline deadline) {
+  return Ask(kLimitOfSheet, [device = DeviceOf(printer)](Deadline deadline) {
     return CupsConnection(deadline).SheetOf(device);
   });
 }
 
 void CupsPrinters::Print(const PrintJob& job) {
   const QByteArray pdf = PdfOf(job.page, job.sheet, ToQt(job.title));
-  WithinLimit(kLimitOfJob, [device = DeviceOf(job.printer), title = Utf8FromText(job.title),
-                            medium = job.sheet.medium, pdf](Deadline deadline) {
+  const auto limit = std::max(std::exchange(left_, kLimitOfCommand), kLeastOfJob);
+  WithinLimit(limit, [device = DeviceOf(job.printer), title = Utf8FromText(job.title),
+                      medium = job.sheet.medium, pdf](Deadline deadline) {
     CupsConnection(deadline).Print(device, title, medium,
                                    {pdf.constData(), static_cast<std::size_t>(pdf.size())});
   });

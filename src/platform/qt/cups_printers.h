@@ -3,6 +3,7 @@
 // needs take five seconds at the most.
 #pragma once
 
+#include <chrono>
 #include <map>
 #include <string>
 
@@ -18,8 +19,19 @@ class CupsPrinters : public Printers, public Printing {
   void Print(const PrintJob& job) override;
 
  private:
-  [[nodiscard]] std::string DeviceOf(const Text& printer) const;
+  // One command of the user's asks for the names, the sheet and the job, in this order. What the
+  // first ones leave of their time is the job's.
+  static constexpr std::chrono::milliseconds kLimitOfCommand{4300};
+  static constexpr std::chrono::milliseconds kLimitOfNames{1000};
+  // A printer that was just found in a network may take a while to tell its sheet.
+  static constexpr std::chrono::milliseconds kLimitOfSheet{2400};
+  static constexpr std::chrono::milliseconds kLeastOfJob{500};
 
+  [[nodiscard]] std::string DeviceOf(const Text& printer) const;
+  template <class Work>
+  auto Ask(std::chrono::milliseconds limit, Work work) const;
+
+  mutable std::chrono::milliseconds left_ = kLimitOfCommand;
   // What CUPS calls the printers that were listed last, by the names that text can hold.
   mutable std::map<Text, std::string> devices_;
 };
