@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""What an independent reader says of the reports that the program is held to.
+"""What independent readers say of the reports that the program is held to.
 
-xmllint reads the XML files and the pages of tests/oracles/reports. What is laid down to be malformed
+xmllint reads the XML files and the pages of tests/oracles/reports, tidy the pages. What is laid down to be malformed
 must be, and for no other reason: names and dates of the head go into the file as they are, and the
 file names no encoding, so that a letter beyond ASCII is one too many for a strict reader. The
 argument is the folder of the reports.
@@ -23,6 +23,13 @@ def judged(data, *arguments):
     told = subprocess.run(["xmllint", "--noout", *arguments, "-"], input=data, check=False,
                           stderr=subprocess.PIPE, stdout=subprocess.DEVNULL)
     return told.returncode, told.stderr.decode("latin-1")
+
+
+def tidied(name):
+    """What tidy has to say of a page, a line each."""
+    told = subprocess.run(["tidy", "-quiet", "-errors", "-latin1", REPORTS / name], check=False,
+                          stderr=subprocess.PIPE, stdout=subprocess.DEVNULL)
+    return [line for line in told.stderr.decode("latin-1").splitlines() if line.startswith("line ")]
 
 
 def read(name):
@@ -67,6 +74,23 @@ class Pages(unittest.TestCase):
             _, words = judged(read(user + ".html"), "--html")
             for error in re.findall(r"error : (.*)", words):
                 self.assertRegex(error, r"^ID #\S* already defined$", user)
+
+    def test_tidy_finds_an_older_manner_of_writing_and_no_error(self):
+        older = [r"missing <!DOCTYPE> declaration",
+                 r"<(p|tr|body)> attribute \"\w+\" not allowed for HTML5",
+                 r"<center> element removed from HTML5",
+                 r"missing <td>",  # a graph without bars
+                 r"trimming empty <b>",  # a weight that is empty
+                 r"<a> anchor \"#[^\"]*\" already defined"]  # two days of one date and weight
+        for user in PLAIN + ACCENTED:
+            for line in tidied(user + ".html"):
+                self.assertRegex(line, f"^line \\d+ column \\d+ - Warning: ({'|'.join(older)})$", user)
+
+    def test_tidy_takes_what_a_user_wrote_for_tags(self):
+        errors = [line.partition(" - ")[2] for line in tidied("bram.html") if "Error" in line]
+        self.assertEqual(errors, ["Error: <x> is not recognized!",
+                                  "Error: <spek> is not recognized!",
+                                  "Error: <spek> is not recognized!"])
 
     def test_what_a_user_wrote_is_not_escaped(self):
         _, words = judged(read("bram.html"), "--html")
