@@ -37,8 +37,8 @@ ABOUT = "^(About Kelvora FOOD|Over Kelvora FOOD)$"
 
 
 # The button of the internet list, the box of its term, and the button that looks for an update.
-INTERNET = {"english": [(320, 150), (140, 226), (797, 65)],
-            "nederlands": [(320, 150), (140, 226), (870, 65)]}
+INTERNET = {"english": [(320, 150), (140, 212), (797, 65)],
+            "nederlands": [(320, 150), (140, 212), (870, 65)]}
 TREND_BUTTON = {"english": (510, 60), "nederlands": (583, 65)}
 REPORT_BUTTON = {"english": (560, 60), "nederlands": (636, 65)}
 EXPORT = "^(Export days to|Dagen exporteren naar) HTML, XML "
