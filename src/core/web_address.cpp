@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/text.h"
+
 namespace kelvora {
 namespace {
 
@@ -14,14 +16,6 @@ std::size_t EndOfHost(std::string_view address) {
   return std::min(address.find_first_of("/?#", host), address.size());
 }
 
-std::string LowerCase(std::string_view text) {
-  std::string lower(text);
-  std::ranges::transform(lower, lower.begin(), [](char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-  });
-  return lower;
-}
-
 // The host of an origin alone, in lower case: without the scheme, the brackets and the port.
 std::string HostOf(std::string_view origin) {
   const std::size_t scheme = origin.find(kAfterScheme);
@@ -32,11 +26,6 @@ std::string HostOf(std::string_view origin) {
     origin = origin.substr(0, origin.find(':'));
   }
   return LowerCase(origin);
-}
-
-bool BeginsWithoutCase(std::string_view text, std::string_view lower_case) {
-  return text.size() >= lower_case.size() &&
-         LowerCase(text.substr(0, lower_case.size())) == lower_case;
 }
 
 // True if a text begins with the name of a scheme, and so is a whole address.
@@ -102,6 +91,17 @@ bool IsLoopback(std::string_view address) {
   const std::string host = HostOf(address.substr(0, EndOfHost(address)));
   if (host == "localhost" || host.ends_with(".localhost") || host == "::1") return true;
   return host.starts_with("127.") && IsNumber(host);
+}
+
+bool BeginsWithoutCase(std::string_view text, std::string_view lower_case) {
+  return text.size() >= lower_case.size() &&
+         LowerCase(text.substr(0, lower_case.size())) == lower_case;
+}
+
+std::string_view TrimmedLine(std::string_view line) {
+  constexpr std::string_view kBlanks = " \t\r\n";
+  line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
+  return line.substr(0, line.find_last_not_of(kBlanks) + 1);
 }
 
 std::string_view SendablePart(std::string_view text) {

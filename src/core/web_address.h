@@ -25,6 +25,12 @@ struct WebAddress {
 // True if the host of the address is this machine by its own name or number.
 [[nodiscard]] bool IsLoopback(std::string_view address);
 
+// True if a text begins with another one, which is in lower case, capitals in the first or not.
+[[nodiscard]] bool BeginsWithoutCase(std::string_view text, std::string_view lower_case);
+
+// `line` without the blanks, tabs and line ends around it.
+[[nodiscard]] std::string_view TrimmedLine(std::string_view line);
+
 // `text` up to the first character that can't stand in a request: a line break or a NUL.
 [[nodiscard]] std::string_view SendablePart(std::string_view text);
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/web_address.h"
 #include "storage/record_file.h"
 
 namespace kelvora {
@@ -21,24 +22,14 @@ constexpr std::array kHostKeys = {
     HostKey{"website", &ServerHosts::website},
 };
 
-std::string_view Trim(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r";
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
-bool IsWebAddress(std::string_view value) {
-  return value.starts_with("http://") || value.starts_with("https://");
-}
-
 void TakeLine(std::string_view line, ServerHosts& hosts) {
   line = line.substr(0, line.find('#'));
   const std::size_t equals = line.find('=');
   if (equals == line.npos) return;
-  const std::string_view value = Trim(line.substr(equals + 1));
-  if (!IsWebAddress(value)) return;
+  const std::string_view value = TrimmedLine(line.substr(equals + 1));
+  if (!IsHttp(value)) return;
   for (const auto& [key, host] : kHostKeys) {
-    if (Trim(line.substr(0, equals)) == key) hosts.*host = value;
+    if (TrimmedLine(line.substr(0, equals)) == key) hosts.*host = value;
   }
 }
 

@@ -38,6 +38,10 @@ TEST_F(Servers, HostsComeFromTheFileBesideTheProgram) {
   EXPECT_EQ(hosts.website, "http://www.example.org");
 }
 
+TEST_F(Servers, TheSchemeOfAnAddressMayStandInCapitals) {
+  EXPECT_EQ(ParseServerHosts("dutch = HTTPS://nl.example").dutch, "HTTPS://nl.example");
+}
+
 TEST_F(Servers, AValueThatIsNoWebAddressLeavesItsServiceUnset) {
   const ServerHosts hosts = ParseServerHosts(
       "dutch = ftp://nl.example\nenglish = www.example.org\nupdate = -h\nwebsite = "

@@ -15,19 +15,6 @@ constexpr std::string_view kLocation = "location:";
 // A chunk grows to about this size before the next one is begun.
 constexpr std::size_t kChunkSize = 1 << 20;
 
-bool BeginsWithoutCase(std::string_view line, std::string_view name) {
-  return line.size() >= name.size() &&
-         std::equal(name.begin(), name.end(), line.begin(), [](char wanted, char is) {
-           return wanted == (is >= 'A' && is <= 'Z' ? is - 'A' + 'a' : is);
-         });
-}
-
-std::string_view Trim(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
 bool IsRedirect(std::string_view status_line) {
   const std::string_view code =
       status_line.substr(std::min(status_line.find(' ') + 1, status_line.size())).substr(0, 3);
@@ -178,8 +165,8 @@ void CurlTransfer::TakeHeaderLine(std::string_view line) {
     redirect_status_ = IsRedirect(line);
     location_.clear();
   } else if (location_.empty() && BeginsWithoutCase(line, kLocation)) {
-    location_ = Trim(line.substr(kLocation.size()));
-  } else if (Trim(line).empty()) {
+    location_ = TrimmedLine(line.substr(kLocation.size()));
+  } else if (TrimmedLine(line).empty()) {
     received_ = 0;  // the reply itself begins behind the headers
   }
 }
