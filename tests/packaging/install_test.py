@@ -3,25 +3,32 @@
 Arguments: the build folder and the folder of the starter foods' tables. The list of files stands
 here by hand; only the databases follow the tables, one file for each.
 """
+import gzip
 import os
+import re
 import subprocess
 import sys
 import tempfile
 import time
 import unittest
 from pathlib import Path
+from xml.etree import ElementTree
 
 PROGRAM = "usr/lib/kelvora-food/kelvora-food"
 LINK = "usr/bin/kelvora-food"
 DESKTOP = "usr/share/applications/kelvora-food.desktop"
 METAINFO = "usr/share/metainfo/io.brelux.kelvorafood.metainfo.xml"
 ICONS = "usr/share/icons/hicolor"
-FILES = {PROGRAM, LINK, DESKTOP, METAINFO, f"{ICONS}/scalable/apps/kelvora-food.svg",
+DOC = "usr/share/doc/kelvora-food"
+MANUAL = "usr/share/man/man1/kelvora-food.1.gz"
+FILES = {PROGRAM, LINK, DESKTOP, METAINFO, f"{DOC}/copyright", f"{DOC}/changelog.gz", MANUAL,
+         f"{ICONS}/scalable/apps/kelvora-food.svg",
          f"{ICONS}/48x48/apps/kelvora-food.png", f"{ICONS}/64x64/apps/kelvora-food.png",
          f"{ICONS}/128x128/apps/kelvora-food.png"}
 HOME_FOLDERS = [".config/Brelux", "Documents/Kelvora FOOD/My Users",
                 "Documents/Kelvora FOOD/My Reports", "Documents/Kelvora FOOD/My Language"]
 BUILD, TABLES = map(Path, sys.argv[1:3])
+SOURCE = Path(__file__).resolve().parents[2]
 
 
 class Installation(unittest.TestCase):
@@ -72,6 +79,23 @@ class Installation(unittest.TestCase):
 
     def test_the_software_centre_entry_is_valid(self):
         self.accepts("appstreamcli", "validate", "--no-net", Path(self.root, METAINFO))
+
+    def test_the_manual_page_is_read_without_a_warning(self):
+        page = Path(self.root, MANUAL)
+        answer = subprocess.run(["man", "--warnings", "-E", "UTF-8", "-l", page], text=True, check=True,
+                                capture_output=True, env=os.environ | {"MANWIDTH": "80"})
+        self.assertEqual(answer.stderr, "")
+        self.assertIn("kelvora-food - diary of food and nutrition", answer.stdout)
+
+    def test_all_that_names_a_version_names_the_same(self):
+        version = re.search(r"project\(kelvora-food VERSION ([\d.]+)",
+                            Path(SOURCE, "CMakeLists.txt").read_text()).group(1)
+        changes = gzip.decompress(Path(self.root, DOC, "changelog.gz").read_bytes()).decode()
+        self.assertTrue(changes.startswith(f"kelvora-food ({version}) "), changes)
+        self.assertIn(f"Kelvora FOOD {version}",
+                      gzip.decompress(Path(self.root, MANUAL).read_bytes()).decode())
+        releases = ElementTree.parse(Path(self.root, METAINFO)).findall("releases/release")
+        self.assertEqual(releases[0].get("version"), version)
 
     def test_starts_through_the_link_and_makes_its_folders_in_an_empty_home(self):
         with tempfile.TemporaryDirectory(prefix="kelvora-home-") as home:
