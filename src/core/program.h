@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/common.h"
+#include "core/day_undo.h"
 #include "core/failure.h"
 #include "core/kept_file.h"
 #include "core/records.h"
@@ -51,6 +52,7 @@ struct DayState {
   Text last_clicked_food;
   // Routing code of the consumption window in which the running drag began.
   Text drag_source;
+  DayUndo undo;
 };
 
 // The bytes of the day file that was opened last, and the folder that it lay in.

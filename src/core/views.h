@@ -169,6 +169,9 @@ struct CoreView {
   virtual void OpenNewFood() = 0;
   // Shows the export dialog modally; returns when it is gone.
   virtual void OpenExport() = 0;
+  // Shows the dialog modally that takes over what was eaten on another day, with the foods of one
+  // part ticked or all of them; it begins with the day of that path, or the day before.
+  virtual void OpenTakeOver(std::optional<DayPart> part, const std::string& path) = 0;
   // Opens the food menu beside a row of a food list, with these entries enabled; returns at once.
   virtual void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) = 0;
   // Shows the splash, which ends by itself; returns at once.
@@ -194,6 +197,7 @@ struct OpenWindows {
   WizardView* wizard = nullptr;
   WindowView* properties = nullptr;  // the settings dialog
   WindowView* export_html = nullptr;
+  WindowView* take_over = nullptr;
   WindowView* new_food = nullptr;  // the dialog for a new food
   UpdateView* update = nullptr;    // hidden while its check runs in the background
   GeometryRecords geometry;

@@ -7,6 +7,7 @@
 
 #include "days/day_dialogs.h"
 #include "language/browse_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -39,6 +40,10 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
 
   chk_profiel_ = new QCheckBox(this);
   NameWidget(chk_profiel_, "chk_profiel");
+  cmd_take_over_ = new QPushButton(this);
+  NameWidget(cmd_take_over_, "cmd_take_over");
+  cmd_take_over_->setAutoDefault(false);
+  cmd_take_over_->setEnabled(false);
   cmd_openen_ = new QPushButton(this);
   NameWidget(cmd_openen_, "cmd_openen");
   cmd_openen_->setDefault(true);
@@ -49,6 +54,7 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(chk_profiel_);
   buttons->addStretch();
+  buttons->addWidget(cmd_take_over_);
   buttons->addWidget(cmd_openen_);
   buttons->addWidget(cmd_annuleer_);
 
@@ -63,6 +69,7 @@ BrowserDialog::BrowserDialog(Program& program, QWidget* parent)
   });
   // Enter in the list presses this button too: it is the default one.
   connect(cmd_openen_, &QPushButton::clicked, this, &BrowserDialog::OpenSelectedDay);
+  connect(cmd_take_over_, &QPushButton::clicked, this, &BrowserDialog::TakeOverFromSelectedDay);
   connect(cmd_annuleer_, &QPushButton::clicked, this, &BrowserDialog::CloseWindow);
   SetCaptions();
   FollowSettings();
@@ -89,6 +96,8 @@ QWidget* BrowserDialog::BuildDays() {
   lbl_days_->setBuddy(LV_browse_files_);
   connect(LV_browse_files_, &DayTable::OpenAsked, this, &BrowserDialog::OpenSelectedDay);
   connect(LV_browse_files_, &DayTable::DeleteAsked, this, &BrowserDialog::DeleteSelectedDay);
+  connect(LV_browse_files_, &DayTable::TakeOverAsked, this,
+          &BrowserDialog::TakeOverFromSelectedDay);
   auto* const layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(lbl_days_);
@@ -164,6 +173,7 @@ void BrowserDialog::SetCaptions() {
   lbl_days_->setText(ToQt(texts[kDays]));
   LV_browse_files_->Set_Taal();
   chk_profiel_->setText(ToQt(texts[kShowProfile]));
+  cmd_take_over_->setText(ToQt(OwnTextOf(texts, OwnText::take_over_from)));
   cmd_openen_->setText(ToQt(texts[kOpen]));
   cmd_annuleer_->setText(ToQt(texts[kCancel]));
   for (std::size_t i = 0; i < captions_.size(); ++i) {
@@ -193,6 +203,7 @@ void BrowserDialog::Refresh_Files() {
 
 void BrowserDialog::ShowDays(std::vector<DayRow> rows) {
   cmd_openen_->setEnabled(!rows.empty());
+  cmd_take_over_->setEnabled(!rows.empty() && program_.store.DayIsOpen());
   LV_browse_files_->ShowDays(std::move(rows));
 }
 
@@ -222,6 +233,16 @@ void BrowserDialog::DeleteSelectedDay() {
   if (selected.empty()) return;
   // What comes next is in its place now.
   if (DeleteDayOf(program_, list.Rows()[selected.front()])) list.FocusRow(selected.front());
+}
+
+void BrowserDialog::TakeOverFromSelectedDay() {
+  lst_users_->TellNow();
+  const DayTable& list = *LV_browse_files_;
+  const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow());
+  if (!row || program_.windows.core == nullptr) return;
+  // The list may change while the other dialog stands over it.
+  const std::string path = list.Rows()[*row].path;
+  program_.windows.core->OpenTakeOver(std::nullopt, path);
 }
 
 void ShowBrowserDialog(Program& program, QWidget* parent) {

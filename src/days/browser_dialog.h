@@ -43,6 +43,7 @@ class BrowserDialog : public QDialog, public BrowserView {
   void ChooseSelectedUser();
   void OpenSelectedDay();
   void DeleteSelectedDay();
+  void TakeOverFromSelectedDay();
 
   Program& program_;
   OpenFlag<BrowserView> open_flag_;
@@ -66,6 +67,7 @@ class BrowserDialog : public QDialog, public BrowserView {
   std::array<QLabel*, 6> captions_;
   std::array<QLabel*, 6> lbl_pr_;
   QCheckBox* chk_profiel_;
+  QPushButton* cmd_take_over_;
   QPushButton* cmd_openen_;
   QPushButton* cmd_annuleer_;
 };

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 
 #include "language/browse_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -50,6 +51,10 @@ void DayTable::BuildMenu() {
   mnu_del_dag_->setShortcut(QKeySequence(Qt::Key_Delete));
   mnu_del_dag_->setShortcutContext(Qt::WidgetShortcut);
   addAction(mnu_del_dag_);
+  mnu_opties_->addSeparator();
+  mnu_take_over_ = mnu_opties_->addAction(QString());
+  mnu_take_over_->setObjectName(QStringLiteral("mnu_take_over"));
+  connect(mnu_take_over_, &QAction::triggered, this, &DayTable::TakeOverAsked);
   connect(mnu_open_, &QAction::triggered, this, &DayTable::OpenAsked);
   connect(mnu_del_dag_, &QAction::triggered, this, &DayTable::DeleteAsked);
 }
@@ -61,6 +66,7 @@ void DayTable::Set_Taal() {
   mnu_opties_->setTitle(ToQt(texts[kMenuOptions]));
   SetActionTexts(mnu_open_, texts[kMenuOpenDay], {});
   SetActionTexts(mnu_del_dag_, texts[kMenuDeleteDay], {});
+  SetActionTexts(mnu_take_over_, OwnTextOf(texts, OwnText::take_over_from), {});
   ShowModel();
 }
 
@@ -131,6 +137,7 @@ void DayTable::ShowModel() {
   model_.Show(std::move(columns), rows_.size(),
               [this](std::size_t row, std::size_t column) { return rows_[row].cells[column]; });
   for (QAction* const action : {mnu_open_, mnu_del_dag_}) action->setEnabled(!rows_.empty());
+  mnu_take_over_->setEnabled(!rows_.empty() && program_.store.DayIsOpen());
   ShowSortMark();
   SetColumnWidths();
 }

@@ -36,6 +36,7 @@ class DayTable : public QTableView {
  signals:
   void OpenAsked();
   void DeleteAsked();
+  void TakeOverAsked();
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -57,6 +58,7 @@ class DayTable : public QTableView {
   QMenu* mnu_opties_;
   QAction* mnu_open_;
   QAction* mnu_del_dag_;
+  QAction* mnu_take_over_;
 };
 
 }  // namespace kelvora

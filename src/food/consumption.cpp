@@ -39,14 +39,18 @@ Text WeightOfPortion(Program& program, std::string_view gram) {
   return Gram_To_Oz(weight, UnitsOf(program));
 }
 
-// A list of exactly the limit still takes one addition, as is meant.
-bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line) {
-  if (program.store.ListOf(part).Count() <= MaxDayPartLines) return false;
+void TellOfLimit(Program& program, DayPart part, std::size_t first_line) {
   const auto text = [&](std::size_t index) { return TextOf(program, part, index); };
   program.platform.boxes.Show(
       {.title = {},
        .text = text(first_line) + "\n" + text(ct::kLimitReached) + "\n\n" + text(ct::kLimitRemove),
        .icon = BoxIcon::error});
+}
+
+// A list of exactly the limit still takes one addition, as is meant.
+bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line) {
+  if (program.store.ListOf(part).Count() <= MaxDayPartLines) return false;
+  TellOfLimit(program, part, first_line);
   return true;
 }
 
@@ -73,6 +77,18 @@ void RefreshAfterChange(Program& program, DayPart part) {
   Refresh_Totalen(program);
 }
 
+bool HasRoomFor(Program& program, DayPart part, std::size_t lines) {
+  if (program.store.ListOf(part).Count() + lines <= MaxDayPartLines) return true;
+  TellOfLimit(program, part, ct::kLimitDrop);
+  return false;
+}
+
+void RefreshAllParts(Program& program) {
+  SetFileChanged(program, true);
+  for (const DayPart part : kDayParts) RefreshWindow(program, part);
+  Refresh_Totalen(program);
+}
+
 const DayPartRow& RowOf(DayPart part) {
   return kRows[static_cast<std::size_t>(part)];
 }
@@ -82,6 +98,17 @@ const Text& CellOf(const ConsumptionRow& row, std::size_t column) {
                                  &ConsumptionRow::product, &ConsumptionRow::unit,
                                  &ConsumptionRow::weight,  &ConsumptionRow::nutrient};
   return row.*kCells[column];
+}
+
+Text NutrientCell(Program& program, std::string_view line, double portions, Priority nutrient) {
+  return PrintedOrNothing([&] {
+    return FormatNumber(ReadStoredNumber(FieldOf(line, FoodFieldOf(nutrient))) * portions,
+                        PatternOf(nutrient), program.platform.locale.DecimalSeparator());
+  });
+}
+
+const Text& NutrientHeading(const Program& program, DayPart part, Priority nutrient) {
+  return TextOf(program, part, kNutrientHeadings[static_cast<std::size_t>(nutrient)]);
 }
 
 std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
@@ -96,14 +123,11 @@ std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
       const Text count(store.Dupe_list_teller[i]);
       const double times = Val(count);
       const Text portion = WeightOfPortion(program, FieldOf(line, FoodField::kGram));
-      const double nutrient = ReadStoredNumber(FieldOf(line, FoodFieldOf(priority)));
       rows.push_back({std::to_string(i + 1), count, Text(FieldOf(line, FoodField::kProduct)),
                       Text(FieldOf(line, FoodField::kUnit)), PrintedOrNothing([&] {
                         return Str(ReadStoredNumber(portion) * times, separator);
                       }),
-                      PrintedOrNothing([&] {
-                        return FormatNumber(nutrient * times, PatternOf(priority), separator);
-                      })});
+                      NutrientCell(program, line, times, priority)});
     }
   });
   return rows;
@@ -112,13 +136,12 @@ std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
 std::array<Text, kConsumptionColumns> ConsumptionHeadings(const Program& program, DayPart part) {
   const auto text = [&](std::size_t index) { return TextOf(program, part, index); };
   const bool ounces = program.settings[Setting::opt_gramoz] == "1";
-  const auto priority = static_cast<std::size_t>(PriorityOfUser(program));
   return {text(ct::kColumnNumber),
           text(ct::kColumnCount),
           text(ct::kColumnFood),
           text(ct::kColumnUnit),
           text(ounces ? ct::kColumnOz : ct::kColumnGram),
-          text(kNutrientHeadings[priority])};
+          NutrientHeading(program, part, PriorityOfUser(program))};
 }
 
 Text ConsumptionTitle(Program& program, DayPart part) {

@@ -33,6 +33,12 @@ inline constexpr std::size_t kConsumptionColumns = 6;
 // that no number can hold has an empty cell.
 [[nodiscard]] std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part);
 
+// The amount of a nutrient in so many portions of a food, as its column shows it, and the heading
+// of that column.
+[[nodiscard]] Text NutrientCell(Program& program, std::string_view line, double portions,
+                                Priority nutrient);
+[[nodiscard]] const Text& NutrientHeading(const Program& program, DayPart part, Priority nutrient);
+
 // The headings of the six columns, and the shares of the list's width they take; 0 is hidden, and
 // the last column takes what is left over besides.
 [[nodiscard]] std::array<Text, kConsumptionColumns> ConsumptionHeadings(const Program& program,
@@ -89,7 +95,14 @@ void RefreshDragSource(Program& program);
 // no key adds and moves nothing.
 bool DropOnDayPart(Program& program, DayPart part, std::string_view payload);
 
+// True if a part takes so many more lines and then has no more than the limit; if not, the message
+// of a drop above it has been shown. For what is added as a whole or not at all.
+[[nodiscard]] bool HasRoomFor(Program& program, DayPart part, std::size_t lines);
+
 // Rebuilds the window of the part, if it is open, and re-totals the day: how every change ends.
 void RefreshAfterChange(Program& program, DayPart part);
+
+// The same after a change that may reach all parts; marks the day as changed.
+void RefreshAllParts(Program& program);
 
 }  // namespace kelvora

@@ -47,7 +47,8 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
   BuildToolbars();
   BuildList();
   row_menu_ = new RowMenu(
-      program_, part_, [this] { return SelectedNames(); }, LV_consumpties_);
+      program_, part_, [this] { return SelectedNames(); },
+      [this] { return LV_consumpties_->SelectedRows(); }, LV_consumpties_);
   row_menu_->AddButtons({plus_action_, minus_action_, remove_action_});
   Info_bar_ = new TotalsPanel(this);
   Pic_SP_ = new CombinePanel(EntryContextOf(program_), this);

@@ -7,6 +7,9 @@
 //   Delete, Shift+Delete      remove the rows entirely; take one portion of each out of the day
 //   Ctrl+1, Ctrl+2, Ctrl+3    move one portion of each row to morning, afternoon or evening
 //   Ctrl+X, Ctrl+V            the same by cutting here and pasting there
+//   Ctrl+C                    copy the rows; Ctrl+V adds them to whatever list has the focus
+//   Ctrl+T                    take over what was eaten on another day
+//   Ctrl+Z, Ctrl+Shift+Z      undo and redo, over all three lists of the day
 //   Ctrl+D                    add the rows to the favourites
 // In the panel to combine foods Enter saves and Escape closes it.
 #pragma once

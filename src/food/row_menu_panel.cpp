@@ -11,6 +11,9 @@
 namespace kelvora {
 namespace {
 
+// The foods of this program on the clipboard, and where cut ones come from. Other programs take the
+// plain text beside them.
+constexpr const char* kFoodsFormat = "application/x-kelvora-food";
 constexpr const char* kOriginFormat = "application/x-kelvora-food-origin";
 
 struct MoveRow {
@@ -26,16 +29,36 @@ constexpr std::array kMoves = {
     MoveRow{DayPart::evening, "mnu_move_3", OwnText::move_to_evening, "evening", Qt::Key_3},
 };
 
-CutFoods FoodsOnClipboard() {
+ClipboardFoods FoodsOnClipboard() {
   const QMimeData* const data = QApplication::clipboard()->mimeData();
-  if (data == nullptr || !TextHolds(data->text())) return {};
-  return {FromQt(data->text()), data->data(QLatin1String(kOriginFormat)).toStdString()};
+  if (data == nullptr) return {};
+  const auto bytes = [data](const char* format) {
+    return data->data(QLatin1String(format)).toStdString();
+  };
+  if (data->hasFormat(QLatin1String(kFoodsFormat))) {
+    return {bytes(kFoodsFormat), bytes(kOriginFormat)};
+  }
+  return TextHolds(data->text()) ? FoodsInPlainText(FromQt(data->text())) : ClipboardFoods();
+}
+
+void PutOnClipboard(const FoodsToClipboard& what) {
+  auto* const data = new QMimeData;  // the clipboard owns it
+  data->setText(ToQtWhole(what.table));
+  data->setData(QLatin1String(kFoodsFormat), QByteArray::fromStdString(what.foods.payload));
+  data->setData(QLatin1String(kOriginFormat), QByteArray::fromStdString(what.foods.origin));
+  QApplication::clipboard()->setMimeData(data);
 }
 
 }  // namespace
 
-RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selected, QWidget* list)
-    : QMenu(list), program_(program), part_(part), selected_(std::move(selected)), list_(list) {
+RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selected,
+                 std::function<std::vector<std::size_t>()> rows, QWidget* list)
+    : QMenu(list),
+      program_(program),
+      part_(part),
+      selected_(std::move(selected)),
+      rows_(std::move(rows)),
+      list_(list) {
   NameWidget(this, "row_menu");
   take_out_ = AddEntry("mnu_take_out", "item-delete", Qt::SHIFT | Qt::Key_Delete,
                        [this] { TakeOutOfDay(program_, part_, selected_()); });
@@ -47,14 +70,23 @@ RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selec
         [this, target = row.target] { MoveToDayPart(program_, part_, target, selected_()); });
   }
   cut_ = AddEntry("mnu_cut", {}, Qt::CTRL | Qt::Key_X, [this] { Cut(); });
+  copy_ = AddEntry("mnu_copy", {}, Qt::CTRL | Qt::Key_C, [this] { Copy(); });
   paste_ = AddEntry("mnu_paste", {}, Qt::CTRL | Qt::Key_V, [this] { Paste(); });
   addSeparator();
   favourite_ = AddEntry("mnu_favourite", "item-favourite", Qt::CTRL | Qt::Key_D,
                         [this] { AddToFavourites(program_, selected_()); });
+  addSeparator();
+  take_over_ = AddEntry("mnu_take_over", {}, Qt::CTRL | Qt::Key_T, [this] {
+    if (program_.windows.core != nullptr) program_.windows.core->OpenTakeOver(part_, {});
+  });
+  addSeparator();
+  undo_ = AddEntry("mnu_undo", {}, Qt::CTRL | Qt::Key_Z, [this] { UndoFoods(program_); });
+  redo_ =
+      AddEntry("mnu_redo", {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z, [this] { RedoFoods(program_); });
   // The shortcuts ask nobody whether something is selected; without a row they do nothing.
   connect(this, &QMenu::aboutToHide, this, [this] {
     EnableForRows(true);
-    paste_->setEnabled(true);
+    for (QAction* const action : {paste_, undo_, redo_}) action->setEnabled(true);
   });
 }
 
@@ -83,35 +115,41 @@ void RowMenu::SetTexts(std::string_view title) {
   }
   set(take_out_, OwnText::take_portion_out);
   set(cut_, OwnText::cut_foods);
+  set(copy_, OwnText::copy_foods);
   set(paste_, OwnText::paste_foods);
   set(favourite_, OwnText::add_to_favourites);
+  set(take_over_, OwnText::take_over_from);
+  set(undo_, OwnText::undo_foods);
+  set(redo_, OwnText::redo_foods);
   setAccessibleName(ToQt(title));
 }
 
 void RowMenu::ShowAt(const QPoint& place) {
   EnableForRows(!selected_().Empty());
   paste_->setEnabled(CanPaste(program_, FoodsOnClipboard()));
+  undo_->setEnabled(program_.day.undo.CanUndo());
+  redo_->setEnabled(program_.day.undo.CanRedo());
   popup(place);
 }
 
 void RowMenu::EnableForRows(bool any) {
-  for (QAction* action : {take_out_, cut_, favourite_, moves_[0], moves_[1], moves_[2]}) {
+  for (QAction* action : {take_out_, cut_, copy_, favourite_, moves_[0], moves_[1], moves_[2]}) {
     if (action != nullptr) action->setEnabled(any);
   }
 }
 
 void RowMenu::Cut() {
-  const TextList names = selected_();
-  if (names.Empty()) return;
-  const CutFoods cut = CutFromDayPart(program_, part_, names);
-  auto* const data = new QMimeData;  // the clipboard owns it
-  data->setText(ToQtWhole(cut.payload));
-  data->setData(QLatin1String(kOriginFormat), QByteArray::fromStdString(cut.origin));
-  QApplication::clipboard()->setMimeData(data);
+  const auto rows = rows_();
+  if (!rows.empty()) PutOnClipboard(CutFromDayPart(program_, part_, rows));
+}
+
+void RowMenu::Copy() {
+  const auto rows = rows_();
+  if (!rows.empty()) PutOnClipboard(CopyFromDayPart(program_, part_, rows));
 }
 
 void RowMenu::Paste() {
-  const CutFoods foods = FoodsOnClipboard();
+  const ClipboardFoods foods = FoodsOnClipboard();
   const bool pasted = PasteOnDayPart(program_, part_, foods);
   // What was cut is pasted once.
   if (pasted && !foods.origin.empty()) QApplication::clipboard()->clear();

@@ -1,5 +1,6 @@
 // The menu of a row in a consumption window, and the shortcuts of its entries while the list has
-// the focus: what the mouse does by dragging, and the buttons of the window.
+// the focus: what the mouse does by dragging, the buttons of the window, the clipboard, taking over
+// from another day and undoing.
 #pragma once
 
 #include <array>
@@ -16,8 +17,10 @@ class RowMenu : public QMenu {
   Q_OBJECT
 
  public:
-  // `selected` gives the names of the selected rows; `list` is the widget whose keys count.
-  RowMenu(Program& program, DayPart part, std::function<TextList()> selected, QWidget* list);
+  // `selected` gives the names of the selected rows and `rows` their places; `list` is the widget
+  // whose keys count.
+  RowMenu(Program& program, DayPart part, std::function<TextList()> selected,
+          std::function<std::vector<std::size_t>()> rows, QWidget* list);
 
   // The actions of the window's buttons, at the top.
   void AddButtons(const QList<QAction*>& buttons);
@@ -28,18 +31,24 @@ class RowMenu : public QMenu {
   template <class Run>
   QAction* AddEntry(const char* name, std::string_view icon, QKeyCombination keys, Run run);
   void Cut();
+  void Copy();
   void Paste();
   void EnableForRows(bool any);
 
   Program& program_;
   const DayPart part_;
   const std::function<TextList()> selected_;
+  const std::function<std::vector<std::size_t>()> rows_;
   QWidget* list_;
   std::array<QAction*, 3> moves_{};  // none to this window's own part
   QAction* take_out_;
   QAction* cut_;
+  QAction* copy_;
   QAction* paste_;
   QAction* favourite_;
+  QAction* take_over_;
+  QAction* undo_;
+  QAction* redo_;
 };
 
 }  // namespace kelvora

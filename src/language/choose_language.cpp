@@ -37,7 +37,8 @@ void TakeCaptionsInOrder(Program& program) {
 void TakeCaptionsEverywhere(Program& program) {
   OpenWindows& windows = program.windows;
   TakeCaptionsInOrder(program);
-  for (WindowView* const window : {windows.day_settings, windows.new_food, windows.export_html}) {
+  for (WindowView* const window :
+       {windows.day_settings, windows.new_food, windows.export_html, windows.take_over}) {
     TakeCaptions(window);
   }
 }

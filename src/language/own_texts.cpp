@@ -128,6 +128,21 @@ constexpr std::array kRows = {
                "Het voedingsmiddel wordt verzonden onder de naam \"%1\"."_w},
     OwnTextRow{OwnText::no_update_server, "No server for updates is known to this program."_w,
                "Dit programma kent geen server voor updates."_w},
+    OwnTextRow{OwnText::copy_foods, "Copy"_w, "Kopiëren"_w},
+    OwnTextRow{OwnText::undo_foods, "Undo"_w, "Ongedaan maken"_w},
+    OwnTextRow{OwnText::redo_foods, "Redo"_w, "Opnieuw"_w},
+    OwnTextRow{OwnText::take_over_from, "Take over from ..."_w, "Overnemen van ..."_w},
+    OwnTextRow{OwnText::take_over_title, "Take over from another day"_w,
+               "Overnemen van een andere dag"_w},
+    OwnTextRow{OwnText::take_over_day, "Day"_w, "Dag"_w},
+    OwnTextRow{OwnText::take_over_foods, "Eaten on that day"_w, "Gegeten op die dag"_w},
+    OwnTextRow{OwnText::take_over, "Take over"_w, "Overnemen"_w},
+    OwnTextRow{OwnText::take_over_whole_day, "Whole day"_w, "Hele dag"_w},
+    OwnTextRow{OwnText::often, "Often"_w, "Vaak"_w},
+    OwnTextRow{OwnText::often_tip, "Show what you ate most in the last 60 days"_w,
+               "Toon wat je de laatste 60 dagen het meest hebt gegeten"_w},
+    OwnTextRow{OwnText::empty_often, "There is no food yet in the days of the last two months."_w,
+               "In de dagen van de laatste twee maanden staat nog geen voedsel."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

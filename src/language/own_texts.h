@@ -84,6 +84,18 @@ enum class OwnText {
   search_runs,
   sent_under_name,   // who a food is sent to the server by; "%1" is the name
   no_update_server,  // why no newer version can be looked for
+  copy_foods,
+  undo_foods,
+  redo_foods,
+  take_over_from,  // the entry that opens the dialog; then its title, captions and buttons
+  take_over_title,
+  take_over_day,
+  take_over_foods,
+  take_over,
+  take_over_whole_day,
+  often,  // the button of what was eaten often, its tip, and what the list says without a food
+  often_tip,
+  empty_often,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -97,6 +109,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 54;
+inline constexpr int kOwnTextCount = 66;
 
 }  // namespace kelvora

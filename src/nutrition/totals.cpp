@@ -139,6 +139,7 @@ void Refresh_Totalen(Program& program) {
     store.txt_trenddata = TrendText(day, store.L_gegevens[HeaderRow::kWeight], separator);
     program.platform.pointer.Restore();
   });
+  if (program.store.DayIsOpen()) program.day.undo.Note(program.store);
 }
 
 void FollowSettings(Program& program) {

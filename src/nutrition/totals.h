@@ -43,7 +43,8 @@ struct Amounts {
 
 // Sums the day, shows each open consumption window its period's totals and the day summary the
 // day's, and rewrites `txt_trenddata`. `temp_filter` is left with the fields of the last line. A
-// failure shows "#FF11-0".
+// failure shows "#FF11-0". Every change of the day's foods ends here, so this is where undoing
+// hears of it.
 void Refresh_Totalen(Program& program);
 
 // Brings every open window and the totals of an open day in step with the settings and the profile.

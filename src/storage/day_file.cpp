@@ -131,6 +131,7 @@ void CloseDay(Program& program) {
   program.day.DayDialogMode = DayDialogMode::new_day;
   program.day.selected_names = {};
   program.day.opened_name = {};
+  program.day.undo.Clear();
   SetFileChanged(program, false);
 
   OpenWindows& windows = program.windows;

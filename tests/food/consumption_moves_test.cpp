@@ -102,7 +102,7 @@ TEST_F(Moves, FavouritesAreTheFoodsOfTheListsAndStayInTheDay) {
 }
 
 TEST_F(Moves, WhatIsCutStaysUntilItIsPasted) {
-  const CutFoods cut = CutFromDayPart(test.program, DayPart::morning, Names({"Tea", "Soup"}));
+  const ClipboardFoods cut = CutFromDayPart(test.program, DayPart::morning, {0, 1}).foods;
   EXPECT_EQ(cut.payload, "kill-" + Packed("Tea|~Soup|~"));
   EXPECT_EQ(store.L_ochtend.Count(), 4u);
   // A drag begins elsewhere in between.
@@ -114,11 +114,11 @@ TEST_F(Moves, WhatIsCutStaysUntilItIsPasted) {
 }
 
 TEST_F(Moves, WhatWasCutFromAnotherDayOrElsewhereIsNotPasted) {
-  const CutFoods cut = CutFromDayPart(test.program, DayPart::morning, Names({"Tea"}));
+  const ClipboardFoods cut = CutFromDayPart(test.program, DayPart::morning, {0}).foods;
   store.KV_bestand = "06032004140709.kvf";
-  for (const CutFoods& clipboard :
-       {cut, CutFoods{cut.payload, ""}, CutFoods{cut.payload, "4" + store.KV_bestand},
-        CutFoods{"some text", "1" + store.KV_bestand}, CutFoods{}}) {
+  for (const ClipboardFoods& clipboard :
+       {cut, ClipboardFoods{cut.payload, ""}, ClipboardFoods{cut.payload, "4" + store.KV_bestand},
+        ClipboardFoods{"some text", "1" + store.KV_bestand}, ClipboardFoods{}}) {
     EXPECT_FALSE(CanPaste(test.program, clipboard));
     EXPECT_FALSE(PasteOnDayPart(test.program, DayPart::evening, clipboard));
   }
@@ -134,7 +134,7 @@ TEST_F(Moves, AFoodLineOnTheClipboardIsPastedAsItIsDropped) {
 
 TEST_F(Moves, APasteAboveTheLimitShowsTheMessageAndChangesNothing) {
   for (int i = 0; i < 51; ++i) store.L_avond.Add(LineOf(kSoup));
-  const CutFoods cut = CutFromDayPart(test.program, DayPart::morning, Names({"Tea"}));
+  const ClipboardFoods cut = CutFromDayPart(test.program, DayPart::morning, {0}).foods;
   EXPECT_FALSE(PasteOnDayPart(test.program, DayPart::evening, cut));
   EXPECT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_EQ(store.L_ochtend.Count(), 4u);

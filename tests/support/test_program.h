@@ -152,6 +152,7 @@ struct RecordingCore : CoreView {
   int new_foods_opened = 0;
   int exports_opened = 0;
   std::vector<std::pair<Text, Text>> items_shown;  // tag and line
+  std::vector<std::pair<std::optional<DayPart>, std::string>> take_overs;
   std::vector<FoodMenu> food_menus;
   int toolbar_texts_set = 0;
   int splashes = 0;
@@ -174,6 +175,9 @@ struct RecordingCore : CoreView {
   }
   void OpenNewFood() override { ++new_foods_opened; }
   void OpenExport() override { ++exports_opened; }
+  void OpenTakeOver(std::optional<DayPart> part, const std::string& path) override {
+    take_overs.emplace_back(part, path);
+  }
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace) override {
     food_menus.push_back(enabled);
   }

@@ -315,7 +315,11 @@ TEST_F(ConsumptionWindows, ShortcutsMoveTakeOutAndMakeFavourites) {
   QTest::keyClick(list, Qt::Key_D, Qt::ControlModifier);
   EXPECT_EQ(test.program.store.Favorites_list.Count(), 1u);
   QTest::keyClick(list, Qt::Key_X, Qt::ControlModifier);
-  EXPECT_EQ(FromQt(QApplication::clipboard()->text()), "kill-" + Packed("Bread|~"));
+  const QMimeData* const cut = QApplication::clipboard()->mimeData();
+  EXPECT_EQ(cut->data(QStringLiteral("application/x-kelvora-food")).toStdString(),
+            "kill-" + Packed("Bread|~"));
+  EXPECT_EQ(cut->text(),
+            QStringLiteral("X\tFood item\tUnit\tGram\tKcal\n1\tBread\t1 slice\t35\t82\n"));
   FoodTable* const target = List(DayPart::afternoon);
   target->setFocus();
   QTest::keyClick(target, Qt::Key_V, Qt::ControlModifier);

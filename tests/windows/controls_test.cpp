@@ -17,6 +17,7 @@
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
 #include "days/popup_window.h"
+#include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
@@ -379,7 +380,20 @@ lst_users | Users: |
 LV_browse_files | Days: | Double-click a day to open it
 profile_pane |  |
 chk_profiel | Show the profile |
+cmd_take_over | Take over from ... |
 cmd_openen | Open |
+cmd_annuleer | Cancel |
+)");
+}
+
+TEST_F(Controls, OfTakingOver) {
+  const TakeOverDialog dialog(program, std::nullopt, {}, nullptr);
+  ExpectControls(dialog, R"(
+KV_take_over | Take over from another day |
+LV_other_days | Day |
+tree_foods | Eaten on that day |
+cmd_take_over | Take over |
+cmd_whole_day | Whole day |
 cmd_annuleer | Cancel |
 )");
 }

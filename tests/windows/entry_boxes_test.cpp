@@ -14,6 +14,7 @@
 #include "days/day_settings_dialog.h"
 #include "days/popup_window.h"
 #include "days/settings_dialog.h"
+#include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
@@ -84,6 +85,7 @@ TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
   }
   ExpectTextOnly(BrowserDialog(program, nullptr), 0);
   ExpectTextOnly(ExportDaysDialog(program, nullptr), 0);
+  ExpectTextOnly(TakeOverDialog(program, std::nullopt, {}, nullptr), 0);
   ExpectTextOnly(SettingsDialog(program, nullptr), 1);
   ExpectTextOnly(WizardDialog(program, nullptr), 0);
   ExpectTextOnly(PopupWindow(program, kAboutMode, nullptr), 0);

@@ -22,6 +22,7 @@
 #include "days/day_settings.h"
 #include "days/open_day.h"
 #include "days/settings.h"
+#include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
@@ -72,6 +73,8 @@ class Windows {
     new_food_ = std::make_unique<NewFoodDialog>(program, &main_);
     export_ = std::make_unique<ExportDaysDialog>(program, &main_);
     export_->Open();
+    take_over_ = std::make_unique<TakeOverDialog>(program, std::nullopt, std::string(), &main_);
+    take_over_->show();
     for (QWidget* const dialog :
          std::initializer_list<QWidget*>{wizard_.get(), details_.get(), new_food_.get()}) {
       dialog->show();
@@ -89,7 +92,8 @@ class Windows {
                                        {"wizard", wizard_.get()},
                                        {"details", details_.get()},
                                        {"new food", new_food_.get()},
-                                       {"export", export_.get()}}) {
+                                       {"export", export_.get()},
+                                       {"take over", take_over_.get()}}) {
       Describe(QLatin1String(name), *window, shown);
     }
     return shown;
@@ -163,6 +167,7 @@ class Windows {
   std::unique_ptr<FoodDetailsDialog> details_;
   std::unique_ptr<NewFoodDialog> new_food_;
   std::unique_ptr<ExportDaysDialog> export_;
+  std::unique_ptr<TakeOverDialog> take_over_;
 };
 
 class FollowingSettings : public testing::Test {

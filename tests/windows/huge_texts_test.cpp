@@ -14,6 +14,7 @@
 #include "core/frame/main_window.h"
 #include "days/browser_dialog.h"
 #include "days/day_settings_dialog.h"
+#include "days/take_over_dialog.h"
 #include "food/food_details_dialog.h"
 #include "internet/update_window.h"
 #include "output/export_dialog.h"
@@ -154,6 +155,10 @@ TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {
   days_to_export.Open();
   QApplication::processEvents();
   ExpectBounded(days_to_export, 6);
+  TakeOverDialog other_days(test.program, std::nullopt, {}, nullptr);
+  other_days.show();
+  QApplication::processEvents();
+  ExpectBounded(other_days, 2);
   for (const auto mode : {DayDialogMode::new_day, DayDialogMode::day_settings}) {
     test.program.day.DayDialogMode = mode;
     DaySettingsDialog settings(test.program, nullptr);

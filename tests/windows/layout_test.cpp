@@ -28,6 +28,7 @@
 #include "days/day_settings_dialog.h"
 #include "days/popup_window.h"
 #include "days/settings_dialog.h"
+#include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
@@ -314,6 +315,14 @@ TEST_F(WindowLayout, OfTheDaysToExport) {
     ExportDaysDialog dialog(program, nullptr);
     dialog.Open();
     Look(dialog, 20);
+  });
+}
+
+TEST_F(WindowLayout, OfTakingOver) {
+  MakeUserFolders(program.paths, "Anna");
+  InBothLanguages([this] {
+    TakeOverDialog dialog(program, std::nullopt, {}, nullptr);
+    Look(dialog, 7);
   });
 }
 

@@ -13,6 +13,7 @@
 #include "days/day_settings_dialog.h"
 #include "days/popup_window.h"
 #include "days/settings_dialog.h"
+#include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
@@ -173,6 +174,8 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   ExportDaysDialog days_to_export(program, nullptr);
   days_to_export.Open();
   EXPECT_GT(ExpectFromTables(days_to_export, kSquare), 20u);
+  const TakeOverDialog other_days(program, std::nullopt, {}, nullptr);
+  EXPECT_GT(ExpectFromTables(other_days, kSquare), 10u);
   const SettingsDialog settings(program, nullptr);
   EXPECT_GT(ExpectFromTables(settings, kSquare), 60u);
   const WizardDialog wizard(program, nullptr);

@@ -64,6 +64,11 @@ void MainWindow::OpenExport() {
   if (program_.windows.export_html == nullptr) ShowExportDialog(program_, this);
 }
 
+void MainWindow::OpenTakeOver(std::optional<DayPart> part, const std::string& path) {
+  if (program_.ending || !program_.store.DayIsOpen()) return;
+  if (program_.windows.take_over == nullptr) ShowTakeOverDialog(program_, part, path, this);
+}
+
 void MainWindow::ShowSplash() {
   ShowPopup(program_, kSplashMode, this);
 }

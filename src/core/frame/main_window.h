@@ -41,6 +41,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void ShowItem(std::string_view tag, std::string_view line) override;
   void OpenNewFood() override;
   void OpenExport() override;
+  void OpenTakeOver(std::optional<DayPart> part, const std::string& path) override;
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) override;
   void ShowSplash() override;
   void ShowAbout() override;
