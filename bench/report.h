@@ -82,5 +82,6 @@ void AddPrintBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);
 // Of the windows.
 void AddInternetBenchmarks(Report& report);
+void AddChangeBenchmarks(Report& report);
 
 }  // namespace kelvora::bench

@@ -2,23 +2,15 @@
 // in the search box, a switch of views and a click on a heading. The limit is the same routine of
 // the lists alone, without a window; of the switch, which asks the lists for nothing, an empty
 // event. The window stands in no main window and is drawn on no screen.
-//
-// And a day of 150 foods with all its windows open, to which one is added: everything but painting,
-// against the re-totalling alone.
 #include <QApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolButton>
 
-#include "analysis/requirements.h"
-#include "core/frame/arrangement.h"
-#include "core/frame/main_window.h"
-#include "food/consumption.h"
 #include "food/food_lists.h"
 #include "food/food_lists_window.h"
 #include "food_data.h"
-#include "nutrition/totals.h"
 #include "report.h"
 
 namespace kelvora::bench {
@@ -27,7 +19,6 @@ namespace {
 constexpr std::size_t kMillion = 1'000'000;
 constexpr double kAtOnce = 16'000;           // microseconds: one picture of the screen
 constexpr double kWithoutWaiting = 150'000;  // what still feels like an answer
-constexpr double kMostOfAChange = 1'000;     // of a day, painting apart
 
 // The own list is as long as the standard list, so that two long views are switched between.
 Program& ProgramWithOwnList(std::size_t lines) {
@@ -111,52 +102,6 @@ void EmptyEvent(benchmark::State& state) {
   for (auto _ : state) QTest::keyClick(&box, Qt::Key_Shift);
 }
 
-// Fifty foods in each part of the day. The targets are such that every bar can be drawn.
-struct FullDay {
-  TestProgram test;
-
-  FullDay() {
-    constexpr std::size_t kLinesPerPart = 50;
-    test.OpenDay("Anna");
-    const std::vector<Text> lines = SomeFoodLines(kDayParts.size() * kLinesPerPart);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-      test.program.store.ListOf(kDayParts[i / kLinesPerPart]).Add(lines[i]);
-    }
-    for (std::size_t i = 0; i < kRequirementRows; ++i) {
-      test.program.profile.strings[static_cast<std::size_t>(ProfileField::txt_kj) + i] = "1000";
-    }
-  }
-};
-
-void ChangeOfTheDay(benchmark::State& state) {
-  FullDay day;
-  Program& program = day.test.program;
-  MainWindow window(program);
-  window.resize(1024, 748);
-  window.Set_Taal();
-  window.show();
-  ShowScreensWithSummary(program);
-  QApplication::processEvents();
-  const Text line(program.store.L_ochtend[0]);
-  bool more = true;
-  for (auto _ : state) {
-    TextList& morning = program.store.L_ochtend;
-    if (more) {
-      morning.Add(line);
-    } else {
-      morning.Remove(morning.Count() - 1);
-    }
-    more = !more;
-    RefreshAfterChange(program, DayPart::morning);
-  }
-  if (!day.test.boxes.shown.empty()) state.SkipWithError("the day was not added up");
-}
-
-void RetotalAlone(benchmark::State& state) {
-  FullDay day;
-  for (auto _ : state) Refresh_Totalen(day.test.program);
-}
-
 void AddBenchmarks(Report& report, std::size_t lines, double bound) {
   const std::string size = "/" + std::to_string(lines);
   using benchmark::State;
@@ -199,8 +144,7 @@ int main(int argc, char** argv) {
   Report report;
   AddBenchmarks(report, Foods().size(), kAtOnce);
   AddBenchmarks(report, kMillion, kWithoutWaiting);
-  report.AddPair("change/150", UnderMicroseconds(kMostOfAChange), Plan::many, ChangeOfTheDay,
-                 RetotalAlone);
+  AddChangeBenchmarks(report);
   AddInternetBenchmarks(report);
   return report.Run(argc, argv);
 }

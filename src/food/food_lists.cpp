@@ -103,10 +103,16 @@ TextList FoodLists::Categories() const {
 TextList FoodLists::Found(const Search& search) const {
   const CaselessFinder finder(search.text);
   TextList found;
-  for (const TextList* list : {&program_.store.Default_list, &program_.store.Custom_list}) {
-    found.AddSharedLines(*list, [&](std::string_view line) {
+  const auto add_from = [&](const TextList& list) {
+    found.AddSharedLines(list, [&](std::string_view line) {
       return search.kind == SearchKind::at_front ? finder.IsAtFrontOf(line) : finder.IsIn(line);
     });
+  };
+  if (often_) {
+    add_from(*often_);
+  } else {
+    add_from(program_.store.Default_list);
+    add_from(program_.store.Custom_list);
   }
   return found;
 }
@@ -133,6 +139,7 @@ bool FoodLists::SearchAgain() {
 std::optional<Text> FoodLists::Toon_Standaardlijst() {
   temp_zoeken_.Clear();
   last_search_.reset();
+  often_.reset();
   OrderOf(FoodView::standard).numbers.clear();
   if (program_.store.Default_list.Empty()) return std::nullopt;
   return ChooseCategory(Categories()[0]);
@@ -150,8 +157,18 @@ void FoodLists::SearchPrefix(std::string_view text) {
 
 bool FoodLists::Zoek_In_Lijsten(std::string_view text) {
   if (text.empty()) return false;
+  often_.reset();
   ShowFound("#F11-1", {SearchKind::anywhere, Text(text)});
   return true;
+}
+
+void FoodLists::ShowOften(const TextList& foods) {
+  often_ = foods;
+  SearchPrefix({});
+}
+
+bool FoodLists::NothingOften() const {
+  return often_ && often_->Empty();
 }
 
 Text FoodLists::AvailableText(FoodView view) const {

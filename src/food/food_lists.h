@@ -82,6 +82,12 @@ class FoodLists {
   // gives false.
   bool Zoek_In_Lijsten(std::string_view text);
 
+  // Lists these foods in the place of a search. What is searched by its beginning from then on is
+  // searched among them, until the standard list is shown or a search goes through everything.
+  void ShowOften(const TextList& foods);
+  // True while that list shows no food at all.
+  [[nodiscard]] bool NothingOften() const;
+
   // Searches as the last time, after the own list has changed. True if what is found has changed.
   bool SearchAgain();
 
@@ -126,6 +132,7 @@ class FoodLists {
   Program& program_;
   TextList temp_zoeken_, temp_internet_;
   std::optional<Search> last_search_;  // what `temp_zoeken` holds the answer to
+  std::optional<TextList> often_;      // what it is searched among, if not everything
   std::array<Order, kFoodViews.size()> orders_;
 };
 

@@ -1,4 +1,7 @@
-// What the food lists window does with the rows that are chosen: it passes them on.
+// What the food lists window does with the rows that are chosen: it passes them on. And what was
+// eaten often.
+#include <QElapsedTimer>
+
 #include "food/food_list_commands.h"
 #include "food/food_lists_window.h"
 
@@ -61,6 +64,29 @@ void FoodListsWindow::AddSelectedToDay(DayPart part) {
 void FoodListsWindow::CompareSelected(CompareBox box) {
   const auto row = TableOf(View()).RowInFocus();
   if (row) CompareRow(program_, lists_, View(), *row, box);
+}
+
+void FoodListsWindow::ReadOften() {
+  constexpr qint64 kMilliseconds = 4;
+  if (!program_.store.DayIsOpen()) return reading_often_.stop();
+  if (!often_) often_.emplace(program_);
+  QElapsedTimer time;
+  time.start();
+  while (often_->Read()) {
+    if (time.elapsed() >= kMilliseconds) return;
+  }
+  reading_often_.stop();
+}
+
+void FoodListsWindow::ShowOften() {
+  // Asked for before there was time to read all days.
+  while (reading_often_.isActive()) ReadOften();
+  TextBox& search = Pic_zoek_->Search();
+  search.ShowText({});
+  lists_.ShowOften(often_ ? often_->Foods(PartOfTime(program_.platform.clock.Now())) : TextList());
+  SetEmptyTexts();
+  ShowResults();
+  search.setFocus();
 }
 
 }  // namespace kelvora

@@ -86,6 +86,8 @@ void FoodListsWindow::BuildSearch() {
             search->ShowText(lists_.ChooseCategory(FromQt(category)));
             ShowResults();
           });
+  connect(&Pic_zoek_->Often(), &QPushButton::clicked, this, &FoodListsWindow::ShowOften);
+  connect(&reading_often_, &QTimer::timeout, this, &FoodListsWindow::ReadOften);
   connect(search, &QLineEdit::textEdited, this, [this, search] {
     const Text text = search->Entered();
     if (text.empty()) return Toon_Standaardlijst();
@@ -255,7 +257,7 @@ void FoodListsWindow::SetEmptyTexts() {
   const auto set = [this](FoodView view, OwnText text) {
     TableOf(view).SetEmptyText(ToQt(OwnTextOf(program_.texts, text)));
   };
-  set(FoodView::standard, OwnText::empty_results);
+  set(FoodView::standard, lists_.NothingOften() ? OwnText::empty_often : OwnText::empty_results);
   set(FoodView::own, OwnText::empty_own_list);
   set(FoodView::favourites, OwnText::empty_favourites);
   set(FoodView::internet,
@@ -361,6 +363,7 @@ void FoodListsWindow::ShowResults() {
 // it has rows.
 void FoodListsWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  reading_often_.start(0);
   for (FoodTable* const table : tables_) LayFoodColumns(*table, stack_->width());
 }
 

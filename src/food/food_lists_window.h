@@ -7,6 +7,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include <QLabel>
 #include <QMenu>
@@ -15,6 +16,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QWidget>
 
 #include "core/program.h"
@@ -23,6 +25,7 @@
 #include "food/food_lists_toolbar_panel.h"
 #include "food/food_search_panel.h"
 #include "food/food_table_panel.h"
+#include "food/often.h"
 #include "internet/search.h"
 
 namespace kelvora {
@@ -59,6 +62,9 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   void BuildToolbar();
   void BuildSearch();
   void BuildInternetSearch();
+  // Reads what was eaten often while nothing else is to do.
+  void ReadOften();
+  void ShowOften();
   void ShowSearching() override;
   void AllowSearching() override;
   void ShowFound() override;
@@ -93,6 +99,8 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   Program& program_;
   OpenFlag<FoodListsView> open_flag_;
   FoodLists lists_;
+  std::optional<OftenEaten> often_;  // once there is a day
+  QTimer reading_often_;
   InternetSearch search_;
   bool results_shown_ = false;  // the status tells how many were found, not how many there are
   bool nothing_found_ = false;  // the status tells so of the internet view

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "language/lists_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -65,7 +66,15 @@ FoodSearchPanel::FoodSearchPanel(const EntryContext& entry, QWidget* parent) : Q
   layout->addWidget(combo_cat_);
   layout->addSpacing(3);
   layout->addWidget(txt_zoekuitleg_);
-  layout->addWidget(txt_zoeken_);
+  cmd_often_ = new QPushButton(this);
+  NameWidget(cmd_often_, "cmd_often");
+  cmd_often_->setAutoDefault(false);
+  cmd_often_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_5));
+  auto* const line = new QHBoxLayout;
+  line->setSpacing(6);
+  line->addWidget(txt_zoeken_, 1);
+  line->addWidget(cmd_often_);
+  layout->addLayout(line);
 }
 
 void FoodSearchPanel::Set_Taal(const TextTables& texts) {
@@ -73,6 +82,11 @@ void FoodSearchPanel::Set_Taal(const TextTables& texts) {
   SetCaption(txt_zoekuitleg_, txt_zoeken_, texts[kSearchHint]);
   combo_cat_->setToolTip(ToQt(texts[kTipCategory]));
   txt_zoeken_->setToolTip(ToQt(texts[kTipSearch]));
+  // A text takes the shortcut of a button with it.
+  const QKeySequence keys = cmd_often_->shortcut();
+  cmd_often_->setText(ToQt(OwnTextOf(texts, OwnText::often)));
+  cmd_often_->setShortcut(keys);
+  cmd_often_->setToolTip(ToQt(OwnTextOf(texts, OwnText::often_tip)));
 }
 
 InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* parent)

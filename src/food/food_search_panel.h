@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 
 #include "platform/qt/text_box.h"
@@ -19,12 +20,14 @@ class FoodSearchPanel : public QWidget {
   void Set_Taal(const TextTables& texts);
 
   [[nodiscard]] QComboBox& Categories() { return *combo_cat_; }
+  [[nodiscard]] QPushButton& Often() { return *cmd_often_; }
   [[nodiscard]] TextBox& Search() { return *txt_zoeken_; }
 
  private:
   QLabel* txt_catuitleg_;
   QComboBox* combo_cat_;
   QLabel* txt_zoekuitleg_;
+  QPushButton* cmd_often_;
   TextBox* txt_zoeken_;
 };
 

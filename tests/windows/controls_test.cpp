@@ -103,6 +103,7 @@ Toolbar_4 | Internet list | Search for food items on the food server
 Pic_zoek |  |
 combo_cat | Select a food item category: | Show the food items of one category
 txt_zoeken | Search food item (enter a food item and press ENTER): | Press ENTER to search in the remarks as well
+cmd_often | Often | Show what you ate most in the last 60 days
 Pic_internet |  |
 txt_internet | Search food item on internet (enter a food item and press ENTER): | No food server is known to this program.
 LV_browse_zoeken | Standard list | Drop a consumption here to remove it from the day

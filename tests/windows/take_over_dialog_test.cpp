@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -202,6 +204,29 @@ TEST_F(TakeOverWindow, WithoutADayTheListOfDaysOffersNothingToTakeOver) {
   browser.Open();
   EXPECT_FALSE(FindIn<QPushButton>(browser, "cmd_take_over")->isEnabled());
   EXPECT_FALSE(FindIn<QAction>(browser, "mnu_take_over")->isEnabled());
+}
+
+// What was eaten often.
+
+TEST_F(TakeOverWindow, AButtonListsWhatWasEatenOftenAndTypingGoesOnAmongIt) {
+  auto* const lists = FindIn<QWidget>(window, "KV_tb_lijsten");
+  auto* const table = FindIn<FoodTable>(*lists, "LV_browse_zoeken");
+  auto* const search = FindIn<QLineEdit>(*lists, "txt_zoeken");
+  const auto shown = [&] {
+    QStringList names;
+    for (int row = 0; row < table->Model().rowCount(); ++row) {
+      names << table->Model().index(row, 1).data().toString();
+    }
+    return names;
+  };
+  // It is 14:07; of the days before the open one bread was eaten twice and soup twice, all else
+  // once, and nothing in an afternoon.
+  QTest::mouseClick(FindIn<QPushButton>(*lists, "cmd_often"), Qt::LeftButton);
+  EXPECT_EQ(shown(), QStringList({"Bread", "Soup", "Tea"}));
+  EXPECT_EQ(search->text(), QString());
+  EXPECT_EQ(lists->focusWidget(), search);
+  QTest::keyClicks(search, "so");
+  EXPECT_EQ(shown(), QStringList{"Soup"});
 }
 
 // The keys of a consumption window.
