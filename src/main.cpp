@@ -1,7 +1,9 @@
 // The entry of the program: makes the platform, the program and the main window, and starts.
+#include "core/frame/ending.h"
 #include "core/frame/main_window.h"
 #include "core/frame/net.h"
 #include "core/frame/startup.h"
+#include "platform/qt/ending_requests.h"
 #include "platform/qt/guarded_application.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qt_platform.h"
@@ -21,11 +23,17 @@ int main(int argc, char** argv) {
   kelvora::QtPlatform platform;
   kelvora::Program program(platform.Get());
   program.actions.Begin();
-  application.on_action = [&program] { program.actions.Begin(); };
+  application.on_action = [&program] {
+    program.actions.Begin();
+    kelvora::TakeSessionAsGoingOn(program);
+  };
   application.on_escape = [&program](const std::exception_ptr& failure) {
     kelvora::TellEscaped(program, failure);
   };
   kelvora::MainWindow window(program);
+  kelvora::EndingRequests requests;
+  requests.on_signal = [&program] { kelvora::EndBySignal(program); };
+  requests.on_session_end = [&program] { kelvora::PrepareForSessionEnd(program); };
   kelvora::StartUp(program);
   return program.ending ? 0 : QApplication::exec();
 }

@@ -22,6 +22,7 @@ DATA_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometr
 RANK_OF_FOLDER = {
     "platform": 1, "core": 2, "nutrition": 3, "storage": 3,
     "food": 4, "days": 4, "analysis": 4, "output": 4, "language": 4, "internet": 4,
+    "keeping": 4,
 }
 FRAME = "core/frame/"
 TOP = 5

@@ -126,6 +126,15 @@ bool DiaryWindow::HoldsUntakenText() const {
          txt_notities_->Entered() != DiaryInBox(program_.store.txt_notities);
 }
 
+Text DiaryWindow::TextInBox() const {
+  return txt_notities_->Entered();
+}
+
+void DiaryWindow::TypeText(std::string_view text) {
+  txt_notities_->ShowText(text);
+  NoteChange();
+}
+
 bool DiaryWindow::TakeOver() {
   const bool taken = Bewaar_Notities(program_, txt_notities_->Entered());
   if (taken) save_action_->setEnabled(false);

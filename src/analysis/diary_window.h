@@ -25,6 +25,8 @@ class DiaryWindow : public QWidget, public DiaryView {
   void Set_Taal() override;
   void Refresh_Tekst() override;
   [[nodiscard]] bool HoldsUntakenText() const override;
+  [[nodiscard]] Text TextInBox() const override;
+  void TypeText(std::string_view text) override;
   bool TakeOver() override;
 
  protected:

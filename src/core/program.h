@@ -12,6 +12,7 @@
 #include "core/failure.h"
 #include "core/kept_file.h"
 #include "core/records.h"
+#include "core/recovery.h"
 #include "core/store.h"
 #include "core/views.h"
 #include "language/tables.h"
@@ -31,6 +32,7 @@ struct Paths {
   std::string ReportsPath;
   std::string ProgramPath;
   std::string SettingsFile;
+  std::string StatePath;  // what the program keeps for its next start; empty: nowhere
 };
 
 enum class DayDialogMode { new_day, day_settings };
@@ -89,6 +91,8 @@ struct Program {
   OpenWindows windows;
   std::optional<OpenedDay> opened_day;  // what a day file with no record falls back on
   KeptFiles kept;
+  DayOnDisk day_on_disk;
+  RecoveryState recovery;
   ServerAddresses servers;
   bool update_checked = false;  // a check for a newer version has begun since the start
   Text StartSeparator;          // the decimal separator that the locale had at start

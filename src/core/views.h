@@ -116,6 +116,9 @@ struct DiaryView : WindowView {
   virtual void Refresh_Tekst() = 0;
   // Whether there is such text, and taking it over into the store: false if that was refused.
   [[nodiscard]] virtual bool HoldsUntakenText() const = 0;
+  // What the box shows now, and showing a text there as if it had been typed.
+  [[nodiscard]] virtual Text TextInBox() const { return {}; }
+  virtual void TypeText(std::string_view) {}
   virtual bool TakeOver() = 0;
 };
 

@@ -16,6 +16,7 @@
 #include "storage/food_files.h"
 #include "storage/kept_files.h"
 #include "storage/profile_file.h"
+#include "storage/recovery_copy.h"
 #include "storage/settings_file.h"
 
 namespace kelvora {
@@ -330,6 +331,7 @@ UserRemoval RemoveUser(Program& program, DayEditing& editing, const User& chosen
         store.DayIsOpen() &&
         UserFolder(program.paths, store.L_gegevens[HeaderRow::kName]) == folder + "/";
     DeleteUserFolder(program.paths, folder);
+    RemoveRecoveryCopiesBelow(program.paths, folder + "/");
     if (IsCurrent(program, user)) ForgetCurrentUser(program);
     if (day_is_theirs) SetFileChanged(program, true);
     KeepWorkingCopy(program, editing);

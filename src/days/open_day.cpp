@@ -63,6 +63,7 @@ void AfterOpenDay(Program& program) {
     core->ArrangeWindows();
   }
   Refresh_Totalen(program);
+  NoteDayAsOpened(program);
   SetFileChanged(program, false);
 }
 

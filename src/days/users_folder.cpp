@@ -122,6 +122,7 @@ bool ChangeUsersFolder(Program& program, const std::string& users_path) {
   program.paths = there;
   ReadUserFiles(program, there);
   TakeDayAlong(program, other_day && !replace);
+  if (replace) AcceptDayFileThere(program);
   if (BrowserView* const browser = program.windows.browser) {
     browser->Refresh_GebruikersLijst();
     browser->Refresh_Files();

@@ -96,6 +96,30 @@ enum class OwnText {
   often,  // the button of what was eaten often, its tip, and what the list says without a food
   often_tip,
   empty_often,
+  // Before a day is saved over a file that something else has written to.
+  day_differs,
+  // What a start offers of a day that was not saved when the program ended.
+  recovery_found,
+  recovery_user,
+  recovery_day,
+  recovery_made,
+  recovery_differs,
+  recovery_no_file,
+  recovery_saved_since,
+  recovery_no_user,
+  recovery_open,
+  recovery_drop,
+  recovery_keep,
+  // What a copy has beyond a saved day, or lacks of it; "%1" is a count.
+  food_more,
+  foods_more,
+  food_less,
+  foods_less,
+  foods_moved,
+  diary_longer,
+  diary_shorter,
+  diary_changed,
+  day_settings_changed,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -109,6 +133,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 66;
+inline constexpr int kOwnTextCount = 87;
 
 }  // namespace kelvora

@@ -1,6 +1,8 @@
 // Message boxes. The logic decides when one appears, what it says and what an answer means.
 #pragma once
 
+#include <vector>
+
 #include "core/text.h"
 
 namespace kelvora {
@@ -15,6 +17,8 @@ struct Box {
   Text text;
   BoxIcon icon = BoxIcon::none;
   BoxButtons buttons = BoxButtons::ok;
+  // What the buttons say instead of their usual words: yes, no and cancel, as far as there are any.
+  std::vector<Text> captions{};
 };
 
 class Boxes {

@@ -12,6 +12,9 @@ class Folders {
   [[nodiscard]] virtual std::string ApplicationData() const = 0;
   // The user's documents; empty when the platform can't tell.
   [[nodiscard]] virtual std::string Documents() const = 0;
+  // What programs keep of their own state from one start to the next; empty when the platform can't
+  // tell.
+  [[nodiscard]] virtual std::string State() const = 0;
   // The folder of the real executable, links resolved.
   [[nodiscard]] virtual std::string ProgramFolder() const = 0;
 };

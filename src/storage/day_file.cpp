@@ -7,9 +7,11 @@
 #include "core/common.h"
 #include "language/common_texts.h"
 #include "language/main_texts.h"
+#include "language/own_texts.h"
 #include "storage/folders.h"
 #include "storage/kept_files.h"
 #include "storage/record_file.h"
+#include "storage/recovery_copy.h"
 #include "storage/untaken_diary.h"
 
 namespace kelvora {
@@ -64,6 +66,79 @@ DayStrings StringsOf(Program& program, const std::string& folder, std::string by
   return strings;
 }
 
+// The state of what lies there; nothing if there is nothing, or nothing that tells.
+std::optional<FileStamp> StampIfKnown(const std::string& path) {
+  try {
+    return StampOf(path);
+  } catch (const std::system_error&) {
+    return std::nullopt;
+  }
+}
+
+// A day file as the store would hold it; nothing for what is no file with a record.
+DayOnDisk DayFileAt(const std::string& path) {
+  DayOnDisk found{.path = path};
+  try {
+    const InputFile file(path);
+    found.stamp = file.Stamp();
+    if (const auto record = DecodeRecord<Rec_DayFile>(file.ReadAll())) {
+      KV_data store;
+      TakeDay(store, *record);
+      found.strings = PackDay(store);
+    }
+  } catch (const std::system_error&) {
+    found.strings.reset();
+  }
+  return found;
+}
+
+// True if somebody has only put back the file that was read, or has saved the same day.
+bool HoldsWhatIsKnown(const Program& program, const DayOnDisk& there) {
+  const auto& known = program.day_on_disk.strings;
+  const auto holds = [&there](const Rec_DayFile& day) {
+    return there.strings && TraceOf(*there.strings) == TraceOf(day);
+  };
+  return holds(PackDay(program.store)) || (known && holds(*known));
+}
+
+// True if a save replaces nothing that the user has not seen, or the user says so. What is no day
+// file at all is left to the save, which fails there.
+bool MayReplaceDayFile(Program& program) {
+  if (!program.store.DayIsOpen()) return true;
+  const std::string path = PathOfDay(program);
+  const auto stamp = StampIfKnown(path);
+  if (!stamp || (program.day_on_disk.path == path && program.day_on_disk.stamp == stamp) ||
+      !FileExists(path) || HoldsWhatIsKnown(program, DayFileAt(path))) {
+    return true;
+  }
+  const TextTables& texts = program.texts;
+  const Box box{.title = Text(AppTitle),
+                .text = OwnTextOf(texts, OwnText::day_differs) + "\n" +
+                        OwnTextOf(texts, OwnText::replaces_file) + "\n\n" +
+                        OwnTextOf(texts, OwnText::replace_file_sure),
+                .icon = BoxIcon::question,
+                .buttons = BoxButtons::yes_no};
+  return program.platform.boxes.Show(box) == BoxAnswer::yes;
+}
+
+// Whatever happens, the day lies in its file, in its recovery copy or in both.
+void WriteDay(Program& program) {
+  WriteRecoveryCopy(program);
+  const Rec_DayFile day = PackDay(program.store);
+  DayOnDisk& known = program.day_on_disk;
+  known.path = PathOfDay(program);
+  known.strings.reset();
+  try {
+    WriteRecord(known.path, day, NewFileMode::owner_only);
+  } catch (...) {
+    // What a failed write leaves is this day's.
+    known.stamp = StampIfKnown(known.path);
+    throw;
+  }
+  known.stamp = StampIfKnown(known.path);
+  known.strings = day;
+}
+
 }  // namespace
 
 void TakeDay(KV_data& store, const Rec_DayFile& record) {
@@ -75,6 +150,20 @@ void TakeDay(KV_data& store, const Rec_DayFile& record) {
 Rec_DayFile PackDay(const KV_data& store) {
   return {{store.txt_trenddata, store.txt_notities, PackBlock(store.L_gegevens),
            PackBlock(store.L_ochtend), PackBlock(store.L_middag), PackBlock(store.L_avond)}};
+}
+
+std::string PathOfDay(const Program& program) {
+  return FolderOfDay(program) + "Files/" + NameOfDayFile(program);
+}
+
+void NoteDayAsOpened(Program& program) {
+  if (program.day_on_disk.strings) program.day_on_disk.strings = PackDay(program.store);
+}
+
+void AcceptDayFileThere(Program& program) {
+  if (!program.store.DayIsOpen()) return;
+  program.day_on_disk.path = PathOfDay(program);
+  program.day_on_disk.stamp = StampIfKnown(program.day_on_disk.path);
 }
 
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name) {
@@ -90,11 +179,31 @@ void LoadDay(Program& program, const std::string& folder, std::string_view file_
     // The name may belong to the row of a window that closes with the day.
     const std::string name(file_name);
     CloseDay(program);
+    const FileStamp stamp = file->Stamp();
     TakeDay(program.store, StringsOf(program, folder, file->ReadAll()));
     program.store.KV_bestand = TextFromUtf8(name);
     program.day.opened_name = {program.store.KV_bestand, name};
+    program.day_on_disk = {
+        .path = folder + name, .stamp = stamp, .strings = PackDay(program.store)};
     pointer.Restore();
   });
+}
+
+bool LoadDayFromCopy(Program& program, const std::string& folder, std::string_view file_name,
+                     const Rec_DayFile& day) {
+  bool loaded = false;
+  program.Guard("#FF1-8", [&] {
+    if (!MayDropDayForAnother(program)) return;
+    const std::string name(file_name);
+    CloseDay(program);
+    TakeDay(program.store, day);
+    program.store.KV_bestand = TextFromUtf8(name);
+    program.day.opened_name = {program.store.KV_bestand, name};
+    program.day_on_disk = DayFileAt(folder + name);
+    SetFileChanged(program, true);
+    loaded = true;
+  });
+  return loaded;
 }
 
 std::string NameOfDayFile(const Program& program) {
@@ -104,13 +213,13 @@ std::string NameOfDayFile(const Program& program) {
 }
 
 bool SaveDay(Program& program) {
-  if (!MayLeaveDiary(program)) return false;
+  if (!MayLeaveDiary(program) || !MayReplaceDayFile(program)) return false;
   const bool saved = program.Guard("#FF1-9", [&] {
     const KV_data& store = program.store;
     program.platform.pointer.ShowWait();
     if (!store.DayIsOpen()) return;  // meant: the next routine restores the pointer
-    WriteRecord(FolderOfDay(program) + "Files/" + NameOfDayFile(program), PackDay(store),
-                NewFileMode::owner_only);
+    WriteDay(program);
+    RemoveRecoveryCopy(program);
     program.platform.pointer.Restore();
     SetFileChanged(program, false);
   });
@@ -132,6 +241,8 @@ void CloseDay(Program& program) {
   program.day.selected_names = {};
   program.day.opened_name = {};
   program.day.undo.Clear();
+  RemoveRecoveryCopy(program);
+  program.day_on_disk = {};
   SetFileChanged(program, false);
 
   OpenWindows& windows = program.windows;

@@ -18,6 +18,22 @@ namespace kelvora {
 // opened last from the same folder, and fails without one.
 void LoadDay(Program& program, const std::string& folder, std::string_view file_name);
 
+// Opens a day with the strings of its recovery copy, behind the same question about unsaved
+// changes; false after a No. The file itself need not be there; its state is what the day is
+// compared with. The day is marked as changed.
+bool LoadDayFromCopy(Program& program, const std::string& folder, std::string_view file_name,
+                     const Rec_DayFile& day);
+
+// What the open day holds now is what its file holds, as far as it was read: to be called behind
+// the re-totalling that belongs to opening a day.
+void NoteDayAsOpened(Program& program);
+
+// What lies at the path of the open day's file may be written over; no question comes before it.
+void AcceptDayFileThere(Program& program);
+
+// The path of the open day's file.
+[[nodiscard]] std::string PathOfDay(const Program& program);
+
 // The bare name of the open day's file on the disk, in UTF-8; KV_bestand has "?" in it for what
 // text can't hold.
 [[nodiscard]] std::string NameOfDayFile(const Program& program);
@@ -28,8 +44,10 @@ void TakeDay(KV_data& store, const Rec_DayFile& record);
 [[nodiscard]] Rec_DayFile PackDay(const KV_data& store);
 
 // Writes the open day, if there is one, to its user's folder, and then what lists and profile could
-// not be written before. Asks first where the diary has text that was not taken over. False after a
-// failure; that of the day shows "#FF1-9" and leaves it changed.
+// not be written before. Asks first where the diary has text that was not taken over, and, No as
+// default, where the file has come to hold something else since it was read or written. False after
+// a failure; that of the day shows "#FF1-9" and leaves it changed. The recovery copy lies on the
+// disk as long as the file doesn't.
 bool SaveDay(Program& program);
 
 // Empties the day and closes the windows that show it. Asks nothing and saves nothing.

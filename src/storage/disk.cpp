@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
+#include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -83,37 +84,30 @@ void Remove(const std::string& path) {
   if (unlink(path.c_str()) != 0) ThrowLastError();
 }
 
-void WriteBytes(const FileHandle& file, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = write(file.Descriptor(), bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) ThrowLastError();
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-}
-
-// Not every file system knows how to.
-void Sync(const FileHandle& file) {
-  if (fsync(file.Descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP) ThrowLastError();
-}
-
 void SyncFolder(const std::string& path) {
   const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   // One may write into a folder without being allowed to list it.
   if (descriptor < 0 && errno == EACCES) return;
   if (descriptor < 0) ThrowLastError();
   const FileHandle folder(descriptor);
-  Sync(folder);
+  SyncFile(folder);
 }
 
-void WriteNewFile(const std::string& path, FilePieces pieces, std::optional<mode_t> mode) {
+void WriteNewFile(const std::string& path, FilePieces pieces, std::optional<mode_t> mode,
+                  Durable durable) {
   constexpr mode_t kByMask = 0666;
   FileHandle file = Open(path, O_WRONLY | O_CREAT | O_TRUNC, mode ? S_IRUSR | S_IWUSR : kByMask);
   // Some file systems have no modes.
   if (mode && fchmod(file.Descriptor(), *mode) != 0) errno = 0;
   for (const std::string_view piece : pieces) WriteBytes(file, piece);
-  Sync(file);
+  if (durable == Durable::at_once) SyncFile(file);
   file.Close();
+}
+
+std::uint64_t SizeOf(FilePieces pieces) {
+  std::uint64_t size = 0;
+  for (const std::string_view piece : pieces) size += piece.size();
+  return size;
 }
 
 }  // namespace
@@ -154,6 +148,29 @@ std::string ReadBytes(const FileHandle& file) {
   return bytes;
 }
 
+FileHandle MakeFile(const std::string& path) {
+  return Open(path, O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
+}
+
+void WriteBytes(const FileHandle& file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = write(file.Descriptor(), bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) ThrowLastError();
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+}
+
+// Not every file system knows how to.
+void SyncFile(const FileHandle& file) {
+  if (fsync(file.Descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP) ThrowLastError();
+}
+
+void RenameFile(const std::string& from, const std::string& to) {
+  if (rename(from.c_str(), to.c_str()) != 0) ThrowLastError();
+  SyncFolder(FolderOf(to));
+}
+
 FileStamp StampOf(const FileHandle& file) {
   return StampOf(InfoOf(file));
 }
@@ -180,19 +197,43 @@ void ReplaceFile(const std::string& path, FilePieces pieces, NewFileMode new_mod
     ThrowIfWriteProtected(path, *old);
     mode = old->st_mode & 07777u;
   }
-  std::uint64_t size = 0;
-  for (const std::string_view piece : pieces) size += piece.size();
-  ThrowIfNoRoom(path, size, old ? &*old : nullptr);
+  ThrowIfNoRoom(path, SizeOf(pieces), old ? &*old : nullptr);
   // Another program may make it anew meanwhile.
   while (InfoOf(path)) Remove(path);
   try {
-    WriteNewFile(path, pieces, mode);
+    WriteNewFile(path, pieces, mode, Durable::at_once);
   } catch (...) {
     // A part of a file would be taken for the whole.
     unlink(path.c_str());
     throw;
   }
   SyncFolder(FolderOf(path));
+}
+
+void PutInPlace(const std::string& path, const std::string& beside, FilePieces pieces,
+                Durable durable) {
+  const auto old = InfoOf(path);
+  if (old) {
+    ThrowIfNoRegularFile(*old);
+    ThrowIfWriteProtected(path, *old);
+  }
+  ThrowIfNoRoom(path, SizeOf(pieces), nullptr);
+  const mode_t mode = old ? old->st_mode & 07777u : S_IRUSR | S_IWUSR;
+  try {
+    WriteNewFile(beside, pieces, mode, durable);
+    if (rename(beside.c_str(), path.c_str()) != 0) ThrowLastError();
+  } catch (...) {
+    unlink(beside.c_str());
+    throw;
+  }
+  if (durable == Durable::at_once) SyncFolder(FolderOf(path));
+}
+
+void SyncDisk(const std::string& folder) {
+  const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) ThrowLastError();
+  const FileHandle handle(descriptor);
+  if (syncfs(handle.Descriptor()) != 0) ThrowLastError();
 }
 
 void DeleteFileIfThere(const std::string& path) {

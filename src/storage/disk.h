@@ -43,6 +43,17 @@ class FileHandle {
 // The bytes of the file, as many as it has at the call.
 [[nodiscard]] std::string ReadBytes(const FileHandle& file);
 
+// Makes a new file of its owner only, or empties the one that is there, and opens it for writing.
+[[nodiscard]] FileHandle MakeFile(const std::string& path);
+
+void WriteBytes(const FileHandle& file, std::string_view bytes);
+
+// Waits until all that was written to the file lies on the disk, where the file system can tell.
+void SyncFile(const FileHandle& file);
+
+// Gives the file another name, in the place of whatever file had it, and syncs the folder.
+void RenameFile(const std::string& from, const std::string& to);
+
 // The state of an open file, and of the one at a path: nothing if there is none.
 [[nodiscard]] FileStamp StampOf(const FileHandle& file);
 [[nodiscard]] std::optional<FileStamp> StampOf(const std::string& path);
@@ -58,6 +69,19 @@ using FilePieces = std::span<const std::string_view>;
 // later failure no file is left, neither the old one nor a part of the new one, but for the last:
 // when only the folder can't be synced.
 void ReplaceFile(const std::string& path, FilePieces pieces, NewFileMode mode);
+
+// When a new file is safe from a loss of power: as soon as it is there, or after SyncDisk only.
+enum class Durable { at_once, after_sync };
+
+// Writes all bytes to `beside`, a new file of its owner only, and gives it the name `path`, in the
+// place of whatever file had it, whose mode it takes. At a failure nothing has changed; when only
+// the folder can't be synced, the new file has the name. `path` is never half a file. Both lie in
+// one folder.
+void PutInPlace(const std::string& path, const std::string& beside, FilePieces pieces,
+                Durable durable);
+
+// Waits until all that was written to the disk of that folder lies on it.
+void SyncDisk(const std::string& folder);
 
 // Deletes the file if there is one, or the link if it leads nowhere.
 void DeleteFileIfThere(const std::string& path);

@@ -92,6 +92,8 @@ void DetermineFolders(Program& program) {
   paths.ReportsPath = documents + "/Kelvora FOOD/My Reports/";
   paths.LanguagePath = documents + "/Kelvora FOOD/My Language/";
   paths.SettingsFile = application_data + "/Brelux/kvfset.dat";
+  const std::string state = folders.State();
+  if (!state.empty()) paths.StatePath = state + "/kelvora-food/";
 }
 
 void ApplyAlternativeUsersFolder(Program& program) {
@@ -106,12 +108,23 @@ bool MakeFolder(const std::string& path) {
   return !failure;
 }
 
+bool MakeStateFolder(const Paths& paths) {
+  if (paths.StatePath.empty()) return false;
+  const std::string folder = paths.StatePath.substr(0, paths.StatePath.size() - 1);
+  std::error_code ignored;
+  fs::create_directories(fs::path(folder).parent_path(), ignored);
+  MakePrivateFolder(folder);
+  return fs::is_directory(folder, ignored);
+}
+
 void MakeUserFolders(const Paths& paths, std::string_view name) {
   if (!CanNameAFolder(name)) return;
   MakeFolder(paths.UsersPath);
-  for (const char* folder : {"", "Profile", "Files", "Databases"}) {
-    MakePrivateFolder(UserFolder(paths, name) + folder);
-  }
+  MakeUserFoldersAt(UserFolder(paths, name));
+}
+
+void MakeUserFoldersAt(const std::string& folder) {
+  for (const char* part : {"", "Profile", "Files", "Databases"}) MakePrivateFolder(folder + part);
 }
 
 std::string FolderOfDay(const Program& program) {

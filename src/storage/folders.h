@@ -27,10 +27,17 @@ void ApplyAlternativeUsersFolder(Program& program);
 // Creates a folder with all its parents; false if that fails.
 bool MakeFolder(const std::string& path);
 
+// Creates the folder for what the program keeps for its next start, its user's alone; false if
+// there is none.
+bool MakeStateFolder(const Paths& paths);
+
 // Creates the three folders of a user, whose name is used exactly as it was typed; what is new is
 // the user's alone. A name that no folder can have gets none, which shows at the first write of the
 // profile.
 void MakeUserFolders(const Paths& paths, std::string_view name);
+
+// The same in that folder of the users folder, which is there; the path ends in "/".
+void MakeUserFoldersAt(const std::string& folder);
 
 // The folder of the user of the open day: the one that its header names. A day without a name, or
 // with one that no folder has, is the current user's; so it can be saved where it was opened.

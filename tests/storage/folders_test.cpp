@@ -48,6 +48,7 @@ TEST(Folders, TheTwoSpecialFoldersHaveTheirNumbers) {
 struct NoFolders : Folders {
   std::string ApplicationData() const override { return {}; }
   std::string Documents() const override { return std::string("/docs\0rest", 10); }
+  std::string State() const override { return {}; }
   std::string ProgramFolder() const override { return {}; }
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <dirent.h>
 #include <fcntl.h>
@@ -19,6 +20,9 @@ bool noting = false;
 std::vector<std::string> changes;
 
 void Note(std::string change) {
+  if (current_fault.killed_before_change && changes.size() == *current_fault.killed_before_change) {
+    raise(SIGKILL);
+  }
   if (noting) changes.push_back(std::move(change));
 }
 
@@ -44,6 +48,7 @@ int __real_lstat(const char* path, struct stat* info);
 int __real_fstat(int descriptor, struct stat* info);
 int __real_statvfs(const char* path, struct statvfs* disk);
 int __real_unlink(const char* path);
+int __real_rename(const char* from, const char* to);
 ssize_t __real_read(int descriptor, void* bytes, std::size_t size);
 ssize_t __real_write(int descriptor, const void* bytes, std::size_t size);
 DIR* __real_opendir(const char* path);
@@ -94,6 +99,20 @@ int __wrap_unlink(const char* path) {
   Note("delete");
   if (!current_fault.delete_fails) return __real_unlink(path);
   errno = EROFS;
+  return -1;
+}
+
+int __wrap_rename(const char* from, const char* to) {
+  Note("rename");
+  if (!current_fault.rename_fails) return __real_rename(from, to);
+  errno = EROFS;
+  return -1;
+}
+
+int __wrap_syncfs(int) {
+  Note("sync disk");
+  if (!current_fault.sync_fails) return 0;
+  errno = EIO;
   return -1;
 }
 

@@ -23,9 +23,12 @@ struct FileFault {
   bool delete_fails = false;
   bool sync_fails = false;
   bool folder_sync_fails = false;
+  bool rename_fails = false;
   // The call that meets an input error, counted from 0: opening a file or a folder, asking for its
   // state, reading from it.
   std::optional<std::size_t> reading_call_fails{};
+  // The process is killed before the call that changes the disk, counted from 0.
+  std::optional<std::size_t> killed_before_change{};
 };
 
 // The fault is there as long as this object; it notes the calls that it sees.
@@ -39,7 +42,7 @@ class InjectedFault {
   // True if there were as many reading calls as it takes.
   [[nodiscard]] static bool ReadingCallFailed();
   // What was done to change the disk, in order: "room", "delete", "write 10", "sync", "close",
-  // "sync folder".
+  // "rename", "sync folder", "sync disk".
   [[nodiscard]] static const std::vector<std::string>& Changes();
 };
 

@@ -138,6 +138,7 @@ struct TemporaryFolders : Folders {
   TemporaryFolder home;
   std::string ApplicationData() const override { return home.Path(".config"); }
   std::string Documents() const override { return home.Path("Documents"); }
+  std::string State() const override { return home.Path("state"); }
   std::string ProgramFolder() const override { return home.Path("program"); }
 };
 

@@ -259,6 +259,7 @@ void RunCommand(Program& program, Command command) {
 }
 
 bool MayEndProgram(Program& program) {
+  if (program.recovery.session_ends) return true;
   if (!MayCloseDiaryWithDay(program)) return false;
   const bool day_changed = program.day.FileChanged;
   if (!day_changed && !HoldsUnwrittenWork(program)) return true;

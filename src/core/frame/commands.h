@@ -63,7 +63,8 @@ struct DropDownRow {
 // Gives the command, if it is enabled as an item. mnu_bestand_sluiten is the main window's own.
 void RunCommand(Program& program, Command command);
 
-// True if the program may end now: nothing is unsaved, or the user says so.
+// True if the program may end now: nothing is unsaved, or the user says so. Nobody is asked while
+// the desktop's session ends.
 [[nodiscard]] bool MayEndProgram(Program& program);
 
 // The texts of the first two panels of the main status bar.

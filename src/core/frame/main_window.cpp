@@ -6,12 +6,14 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
 
 #include "core/common.h"
 #include "core/frame/arrangement.h"
 #include "core/frame/child_area_panel.h"
 #include "core/frame/data_window.h"
+#include "core/frame/ending.h"
 #include "food/day_part_menu_panel.h"
 #include "language/main_texts.h"
 #include "language/own_texts.h"
@@ -19,6 +21,7 @@
 #include "platform/qt/menu_letter.h"
 #include "platform/qt/text.h"
 #include "platform/qt/toolkit_words.h"
+#include "storage/recovery_copy.h"
 
 namespace kelvora {
 namespace {
@@ -58,6 +61,9 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   connect(menu_key, &QShortcut::activated, this, &MainWindow::OpenFirstMenu);
   BuildStatusBar();
   BuildDataButton();
+  recovery_timer_ = new QTimer(this);
+  recovery_timer_->setInterval(kRecoveryLookMilliseconds);
+  connect(recovery_timer_, &QTimer::timeout, this, [this] { LookAfterRecoveryCopy(program_); });
   UpdateCommands();  // nothing looks usable while the start is still under way
   program_.windows.core = this;
 }
@@ -321,6 +327,8 @@ void MainWindow::UpdateCommands() {
     bring_in_step(action, row->command, ButtonEnabled(program_, row->command));
   }
   UpdateStatusBar();
+  if (recovery_timer_->isActive() == program_.store.DayIsOpen()) return;
+  program_.store.DayIsOpen() ? recovery_timer_->start() : recovery_timer_->stop();
 }
 
 MainWindowSize MainWindow::Size() const {
@@ -338,7 +346,7 @@ bool MainWindow::CommandEnabled(Command command) const {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(program_.ending || MayEndProgram(program_));
-  if (event->isAccepted()) EndProgram(program_);
+  if (event->isAccepted()) EndAsAsked(program_);
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

@@ -15,6 +15,7 @@
 #include "core/views.h"
 
 class QMdiSubWindow;
+class QTimer;
 class QToolButton;
 
 namespace kelvora {
@@ -97,6 +98,7 @@ class MainWindow : public QMainWindow, public CoreView {
   std::vector<ItemAction> item_actions_;
   std::vector<ButtonAction> button_actions_;
   std::vector<DropDownAction> drop_down_actions_;
+  QTimer* recovery_timer_ = nullptr;  // runs while a day is open
   QToolBar* menu_toolbar_;
   QToolBar* Toolbar_quickscreens_;
   std::array<QLabel*, 4> panels_;

@@ -8,6 +8,7 @@
 #include "core/frame/net.h"
 #include "days/wizard.h"
 #include "internet/servers.h"
+#include "keeping/recovery_offer.h"
 #include "language/language_file.h"
 #include "nutrition/decimal_check.h"
 #include "nutrition/numbers.h"
@@ -96,6 +97,7 @@ constexpr std::array kSteps = {
     &BringMainWindowForward,
     &ShowWizard,
     &CountStart,
+    &OfferRecoveryCopies,
 };
 
 }  // namespace

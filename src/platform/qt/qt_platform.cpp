@@ -1,8 +1,10 @@
 #include "platform/qt/qt_platform.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
@@ -14,6 +16,7 @@
 #include <QUrl>
 
 #include "platform/qt/guarded_application.h"
+#include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
 namespace kelvora {
@@ -73,6 +76,14 @@ BoxAnswer SafeAnswerOf(BoxButtons buttons) {
   return BoxAnswer::ok;
 }
 
+void SetCaptions(const QMessageBox& window, const std::vector<Text>& captions) {
+  constexpr std::array kOrder = {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+  for (std::size_t i = 0; i < std::min(captions.size(), kOrder.size()); ++i) {
+    QAbstractButton* const button = window.button(kOrder[i]);
+    if (button != nullptr) button->setText(CaptionFrom(captions[i]));
+  }
+}
+
 QDateTime DateTimeOf(const LocalTime& time) {
   return {QDate(time.year, time.month, time.day), QTime(time.hour, time.minute, time.second)};
 }
@@ -105,6 +116,7 @@ BoxAnswer QtBoxes::Show(const Box& box) {
   window.setText(ToQtMessage(box.text));
   window.setIcon(IconOf(box.icon));
   window.setStandardButtons(ButtonsOf(box.buttons));
+  SetCaptions(window, box.captions);
   window.setDefaultButton(SafeButtonOf(box.buttons));
   window.setEscapeButton(SafeButtonOf(box.buttons));
   const int answer = window.exec();
@@ -169,6 +181,14 @@ std::string QtFolders::ApplicationData() const {
 
 std::string QtFolders::Documents() const {
   return Standard(QStandardPaths::DocumentsLocation);
+}
+
+// The toolkit does not know this folder yet. A path that is not absolute counts as none.
+std::string QtFolders::State() const {
+  const QString named = qEnvironmentVariable("XDG_STATE_HOME");
+  if (QDir::isAbsolutePath(named)) return named.toStdString();
+  const QString home = QDir::homePath();
+  return home.isEmpty() ? std::string() : (home + QStringLiteral("/.local/state")).toStdString();
 }
 
 std::string QtFolders::ProgramFolder() const {

@@ -38,6 +38,7 @@ class QtFolders : public Folders {
  public:
   std::string ApplicationData() const override;
   std::string Documents() const override;
+  std::string State() const override;
   std::string ProgramFolder() const override;
 };
 
