@@ -33,6 +33,8 @@ struct Paths {
   std::string ProgramPath;
   std::string SettingsFile;
   std::string StatePath;  // what the program keeps for its next start; empty: nowhere
+  // The user's own category databases, beside those of the program; empty: there is no place.
+  std::string UserDatabases;
 };
 
 enum class DayDialogMode { new_day, day_settings };

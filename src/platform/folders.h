@@ -15,6 +15,8 @@ class Folders {
   // What programs keep of their own state from one start to the next; empty when the platform can't
   // tell.
   [[nodiscard]] virtual std::string State() const = 0;
+  // Data of the user that programs bring in for themselves; empty when the platform can't tell.
+  [[nodiscard]] virtual std::string UserData() const = 0;
   // The folder of the real executable, links resolved.
   [[nodiscard]] virtual std::string ProgramFolder() const = 0;
 };

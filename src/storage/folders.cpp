@@ -77,6 +77,14 @@ std::string DefaultUsersPath(const Folders& folders) {
   return GetSpecialFolder(folders, kDocuments) + "/Kelvora FOOD/My Users/";
 }
 
+std::string ProgramDatabases(const Paths& paths) {
+  return paths.ProgramPath + "Databases/";
+}
+
+std::string UserDatabasesIn(const std::string& user_data) {
+  return user_data.empty() ? std::string() : user_data + "/kelvora-food/Databases/";
+}
+
 void DetermineFolders(Program& program) {
   const Folders& folders = program.platform.folders;
   const std::string application_data = GetSpecialFolder(folders, kApplicationData);
@@ -84,6 +92,7 @@ void DetermineFolders(Program& program) {
   Paths& paths = program.paths;
 
   paths.ProgramPath = folders.ProgramFolder() + "/";
+  paths.UserDatabases = UserDatabasesIn(folders.UserData());
   MakeFolder(application_data + "/Brelux/");
   for (const char* folder : {"", "/My Users", "/My Reports", "/My Language"}) {
     MakeFolder(documents + "/Kelvora FOOD" + folder);

@@ -21,6 +21,13 @@ void DetermineFolders(Program& program);
 // The users folder below the documents folder.
 [[nodiscard]] std::string DefaultUsersPath(const Folders& folders);
 
+// The folder of the category databases that come with the program.
+[[nodiscard]] std::string ProgramDatabases(const Paths& paths);
+
+// The folder of the user's own category databases, below the folder for the data of the user's
+// programs; empty if that is. It is made when something is first written there.
+[[nodiscard]] std::string UserDatabasesIn(const std::string& user_data);
+
 // Takes the users folder of the settings, if `chk_map` asks for it.
 void ApplyAlternativeUsersFolder(Program& program);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 #include <span>
 #include <system_error>
@@ -47,6 +48,28 @@ Text CategoryOf(const FolderFile& file) {
   return file.name.substr(0, file.name.size() - kEnding.size()).append(kEnding);
 }
 
+// The category files of one folder.
+std::vector<FolderFile> CategoryFilesIn(const std::string& folder, Unread& unread) {
+  std::error_code failure;
+  auto files = FilesWithPathsIn(folder, kEnding, failure);
+  if (failure && failure != std::errc::no_such_file_or_directory) {
+    unread.Add("Databases", std::system_error(failure));
+  }
+  return files;
+}
+
+// Those of the program, then those of the user; of two of one name the user's alone.
+std::vector<FolderFile> CategoryFiles(const Paths& paths, Unread& unread) {
+  auto files = CategoryFilesIn(ProgramDatabases(paths), unread);
+  if (paths.UserDatabases.empty()) return files;
+  auto of_user = CategoryFilesIn(paths.UserDatabases, unread);
+  std::unordered_set<Text> names;
+  for (const FolderFile& file : of_user) names.insert(CategoryOf(file));
+  std::erase_if(files, [&](const FolderFile& file) { return names.contains(CategoryOf(file)); });
+  std::ranges::move(of_user, std::back_inserter(files));
+  return files;
+}
+
 // The line of that key that becomes a favourite; nothing if there is none.
 std::optional<Text> CandidateOf(const KV_data& store, std::string_view key) {
   if (const auto own = store.Custom_list.FindFirst(key)) return Text(store.Custom_list[*own]);
@@ -77,6 +100,36 @@ bool HoldsOtherFoods(const KV_data& store, const std::string& category) {
                              [&](std::string_view line) { return !own.contains(name_of(line)); });
 }
 
+// What says that this user may not write there, and not that the writing went wrong.
+bool IsClosedToTheUser(const std::error_code& failure) {
+  return failure == std::errc::permission_denied || failure == std::errc::operation_not_permitted ||
+         failure == std::errc::read_only_file_system ||
+         failure == std::errc::no_such_file_or_directory;
+}
+
+// Writes a category where it is found again: over the user's own one of that name, else beside the
+// program, or, where that can't be written, into the user's folder.
+void WriteCategory(const Paths& paths, const std::string& name, std::string_view bytes) {
+  const bool has_place = !paths.UserDatabases.empty();
+  const std::string of_user = paths.UserDatabases + name;
+  if (!has_place || !FileExists(of_user)) {
+    try {
+      return WriteFileAnew(ProgramDatabases(paths) + name, bytes);
+    } catch (const std::system_error& failure) {
+      if (!has_place || !IsClosedToTheUser(failure.code())) throw;
+    }
+  }
+  MakeFolder(paths.UserDatabases);
+  WriteFileAnew(of_user, bytes);
+}
+
+// The file of that name that counts.
+std::string CategoryFileNamed(const Paths& paths, const std::string& name) {
+  const std::string of_user = paths.UserDatabases + name;
+  return !paths.UserDatabases.empty() && FileExists(of_user) ? of_user
+                                                             : ProgramDatabases(paths) + name;
+}
+
 bool UserGivesUpTheCategory(Program& program) {
   const Box box{
       .title = Text(AppTitle),
@@ -101,13 +154,8 @@ void Load_Databases(Program& program) {
   program.Guard("#FF1-1", [&] {
     KV_data& store = program.store;
     program.platform.pointer.ShowWait();
-    const std::string folder = program.paths.ProgramPath + "Databases/";
-    std::error_code failure;
-    const auto files = FilesWithPathsIn(folder, kEnding, failure);
     Unread unread;
-    if (failure && failure != std::errc::no_such_file_or_directory) {
-      unread.Add("Databases", std::system_error(failure));
-    }
+    const auto files = CategoryFiles(program.paths, unread);
     store.database_lst.Clear();
     for (const FolderFile& file : files) store.database_lst.Add(file.name);
     store.Default_list.Clear();
@@ -158,10 +206,12 @@ void CopyOwnListToDatabases(Program& program) {
     if (!UserWantsTheCopy(program)) return;
     const Paths& paths = program.paths;
     const std::string bytes = ReadFile(CustomFile(paths, paths.UserName));
-    const std::string category =
-        paths.ProgramPath + "Databases/" + Utf8FromText(paths.UserName) + ".dat";
-    if (HoldsOtherFoods(program.store, category) && !UserGivesUpTheCategory(program)) return;
-    WriteFileAnew(category, bytes);
+    const std::string category = Utf8FromText(paths.UserName) + ".dat";
+    if (HoldsOtherFoods(program.store, CategoryFileNamed(paths, category)) &&
+        !UserGivesUpTheCategory(program)) {
+      return;
+    }
+    WriteCategory(paths, category, bytes);
     Load_Databases(program);
     FoodListsView* const lists = program.windows.lists;
     if (lists == nullptr) return;

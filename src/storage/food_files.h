@@ -9,8 +9,9 @@
 
 namespace kelvora {
 
-// Fills `Default_list` from every category file, in order of name; each line gets the file's name
-// as its last field. `lst_categorien` grows by the names it lacks. Files that can't be read are
+// Fills `Default_list` from every category file, those of the program and then those of the user,
+// each in order of name; of two of one name the user's counts. Each line gets the file's name as
+// its last field. `lst_categorien` grows by the names it lacks. Files that can't be read are
 // passed over; one box with "#FF1-1" names them at the end.
 void Load_Databases(Program& program);
 
@@ -37,6 +38,7 @@ void Add_To_Favorites(Program& program, std::string_view key);
 
 // Asks, once more if a category of that name has foods that the own list lacks, and on a Yes copies
 // the own list of the current user, byte for byte, to a category database named after the user,
+// beside the program or, where that can't be written, in the user's own folder,
 // then loads all databases again and lets an open food lists window rebuild its views. A failure
 // shows "#F11-2".
 void CopyOwnListToDatabases(Program& program);

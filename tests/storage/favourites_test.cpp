@@ -145,6 +145,37 @@ TEST_F(OwnLists, ACopyTakesThePlaceOfTheOneBefore) {
   EXPECT_EQ(ReadFile(Databases() + "Anna.dat"), ReadFile(CustomFile(test.program.paths, "Anna")));
 }
 
+// What the program's folder can't take goes into the user's, and counts there.
+TEST_F(OwnLists, ACopyGoesToTheFolderOfTheUserWhereThatOfTheProgramIsClosed) {
+  std::filesystem::remove_all(Databases());
+  const std::string of_user = test.program.paths.UserDatabases + "Anna.dat";
+  for (const char* soup : {"Own soup|1 plate|", "Own soup|2 plates|"}) {
+    store.Custom_list.Clear();
+    store.Custom_list.Add(Packed(soup));
+    Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+    test.boxes.answers = {BoxAnswer::yes};
+    CopyOwnListToDatabases(test.program);
+    EXPECT_EQ(ReadFile(of_user), ReadFile(CustomFile(test.program.paths, "Anna")));
+    EXPECT_EQ(Lines(store.Default_list), std::vector<Text>{Packed(soup) + Packed("Anna.dat|")});
+    EXPECT_FALSE(FileExists(Databases() + "Anna.dat"));
+    // What lies in the user's folder is what counts, so the next copy goes there as well.
+    std::filesystem::create_directories(Databases());
+  }
+  EXPECT_EQ(test.boxes.shown.size(), 2u);
+}
+
+TEST_F(OwnLists, ACategoryOfTheUserWithOtherFoodsIsAskedAboutToo) {
+  std::filesystem::create_directories(test.program.paths.UserDatabases);
+  const std::string of_user = test.program.paths.UserDatabases + "Anna.dat";
+  WriteRecord(of_user, Rec_ListLine{{Packed("Rye|~")}});
+  store.Custom_list.Add(Packed("Own soup|1 plate|"));
+  Save_Custom(test.program, CustomFile(test.program.paths, "Anna"));
+  test.boxes.answers = {BoxAnswer::yes, BoxAnswer::no};
+  CopyOwnListToDatabases(test.program);
+  EXPECT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(ReadFile(of_user), EncodeRecord(Rec_ListLine{{Packed("Rye|~")}}.strings));
+}
+
 // A user may bear the name of a category; its foods would be gone for everybody.
 TEST_F(OwnLists, ACategoryWithOtherFoodsIsAskedAboutBeforeItIsReplaced) {
   const Rec_ListLine other{{Packed("Own soup|2 plates|~Rye|~")}};

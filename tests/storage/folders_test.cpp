@@ -49,6 +49,7 @@ struct NoFolders : Folders {
   std::string ApplicationData() const override { return {}; }
   std::string Documents() const override { return std::string("/docs\0rest", 10); }
   std::string State() const override { return {}; }
+  std::string UserData() const override { return {}; }
   std::string ProgramFolder() const override { return {}; }
 };
 

@@ -72,6 +72,48 @@ TEST_F(CategoryFiles, AListLongerThanAPlainLengthHoldsIsReadWhole) {
   EXPECT_EQ(test.program.store.Default_list[9999], Packed("Apple 9999|1 piece|Fruit.dat|"));
 }
 
+class CategoryFilesOfTheUser : public CategoryFiles {
+ protected:
+  CategoryFilesOfTheUser() { std::filesystem::create_directories(of_user); }
+  void WriteOfUser(const std::string& name, std::string_view block) {
+    WriteRecord(of_user + name, Rec_ListLine{{Packed(block)}});
+  }
+  const std::string of_user = test.program.paths.UserDatabases;
+};
+
+TEST_F(CategoryFilesOfTheUser, LieInTheDataFolderOfTheUser) {
+  EXPECT_EQ(of_user, test.folders.home.Path(".local/share/kelvora-food/Databases/"));
+}
+
+TEST_F(CategoryFilesOfTheUser, AreReadBehindThoseOfTheProgram) {
+  Write("Fruit.dat", "Apple|~");
+  WriteOfUser("Bread.dat", "Rye|~");
+  Load_Databases(test.program);
+  EXPECT_EQ(Lines(test.program.store.Default_list),
+            (std::vector<Text>{Packed("Apple|Fruit.dat|"), Packed("Rye|Bread.dat|")}));
+  EXPECT_EQ(Lines(test.program.store.lst_categorien),
+            (std::vector<Text>{"Fruit.dat", "Bread.dat"}));
+  EXPECT_EQ(Lines(test.program.store.database_lst), (std::vector<Text>{"Fruit.dat", "Bread.dat"}));
+}
+
+TEST_F(CategoryFilesOfTheUser, CountAloneOverOnesOfTheProgramOfTheSameName) {
+  Write("Fruit.DAT", "Apple|~");
+  Write("fruit.dat", "Plum|~");
+  WriteOfUser("Fruit.dat", "Pear|~");
+  Load_Databases(test.program);
+  EXPECT_EQ(Lines(test.program.store.Default_list),
+            (std::vector<Text>{Packed("Plum|fruit.dat|"), Packed("Pear|Fruit.dat|")}));
+}
+
+TEST_F(CategoryFilesOfTheUser, ThatCannotBeReadAreNamedAndHideNoOthers) {
+  Write("Fruit.dat", "Apple|~");
+  std::filesystem::create_symlink("/nowhere/at/all", of_user + "Bread.dat");
+  Load_Databases(test.program);
+  EXPECT_EQ(Lines(test.program.store.Default_list), std::vector<Text>{Packed("Apple|Fruit.dat|")});
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_NE(test.boxes.shown[0].text.find("Bread.dat"), Text::npos);
+}
+
 TEST_F(CategoryFiles, AMissingFolderYieldsNoFoodsAndNoMessage) {
   std::filesystem::remove_all(folder);
   Load_Databases(test.program);

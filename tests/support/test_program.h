@@ -139,6 +139,7 @@ struct TemporaryFolders : Folders {
   std::string ApplicationData() const override { return home.Path(".config"); }
   std::string Documents() const override { return home.Path("Documents"); }
   std::string State() const override { return home.Path("state"); }
+  std::string UserData() const override { return home.Path(".local/share"); }
   std::string ProgramFolder() const override { return home.Path("program"); }
 };
 

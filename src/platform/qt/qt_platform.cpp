@@ -191,6 +191,10 @@ std::string QtFolders::State() const {
   return home.isEmpty() ? std::string() : (home + QStringLiteral("/.local/state")).toStdString();
 }
 
+std::string QtFolders::UserData() const {
+  return Standard(QStandardPaths::GenericDataLocation);
+}
+
 std::string QtFolders::ProgramFolder() const {
   return QFileInfo(QCoreApplication::applicationFilePath()).canonicalPath().toStdString();
 }

@@ -39,6 +39,7 @@ class QtFolders : public Folders {
   std::string ApplicationData() const override;
   std::string Documents() const override;
   std::string State() const override;
+  std::string UserData() const override;
   std::string ProgramFolder() const override;
 };
 
