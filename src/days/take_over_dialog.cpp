@@ -197,6 +197,7 @@ void TakeOverDialog::ShowFoods() {
   for (const DayPart part : kDayParts) {
     const auto& foods = foods_[static_cast<std::size_t>(part)];
     auto* const group = new QTreeWidgetItem(tree_foods_);
+    group->setSizeHint(kFood, {0, RowHeight(*tree_foods_)});
     group->setText(kFood, ToQt(program_.texts[{RowOf(part).texts, consumption_text::kStatus}]));
     if (foods.empty()) {
       group->setDisabled(true);
@@ -206,6 +207,7 @@ void TakeOverDialog::ShowFoods() {
     const Qt::CheckState ticked = !part_ || *part_ == part ? Qt::Checked : Qt::Unchecked;
     for (const DayFood& food : foods) {
       auto* const item = new QTreeWidgetItem(group);
+      item->setSizeHint(kFood, {0, RowHeight(*tree_foods_)});
       const Text count = food.count > 1 ? std::to_string(food.count) + " x " : Text();
       item->setText(kFood, ToQtCell(count + food.product));
       item->setText(kUnit, ToQtCell(food.unit));
