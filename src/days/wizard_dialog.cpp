@@ -2,6 +2,9 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -27,6 +30,36 @@ QLabel* NewPicture(QWidget* parent, const QString& name, std::string_view icon, 
   return picture;
 }
 
+// Enter is for the button OK, on desktops too where it presses what has the focus.
+class OptionButton : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return event->ignore();
+    QRadioButton::keyPressEvent(event);
+  }
+};
+
+// The picture, the caption and the line of one option, all of which choose it.
+class OptionRow : public QWidget {
+ public:
+  OptionRow(QWidget* parent, QRadioButton* option) : QWidget(parent), option_(option) {
+    option->setParent(this);
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton) return QWidget::mousePressEvent(event);
+    option_->setChecked(true);
+    option_->setFocus(Qt::MouseFocusReason);
+  }
+
+ private:
+  QRadioButton* option_;
+};
+
 }  // namespace
 
 WizardDialog::WizardDialog(Program& program, QWidget* parent)
@@ -48,6 +81,7 @@ WizardDialog::WizardDialog(Program& program, QWidget* parent)
   });
   SetShowAtStart(WizardShownAtStart(program_));
   Set_Taal();
+  ChooseFirstOption();
 }
 
 QHBoxLayout* WizardDialog::BuildHeading() {
@@ -66,33 +100,47 @@ QGroupBox* WizardDialog::BuildChoice() {
   choice_ = new QGroupBox(this);
   NameWidget(choice_, "frame_choice");
   options_ = new QButtonGroup(this);
-  auto* const grid = new QGridLayout(choice_);
-  grid->setContentsMargins(14, 12, 14, 12);
+  auto* const rows = new QVBoxLayout(choice_);
+  rows->setContentsMargins(8, 8, 8, 8);
+  rows->setSpacing(2);
+  for (const WizardRow& row : WizardRows()) rows->addWidget(BuildOption(row));
+  return choice_;
+}
+
+QWidget* WizardDialog::BuildOption(const WizardRow& row) {
+  const int i = static_cast<int>(row.option);
+  const bool enabled = OptionEnabled(program_, row.option);
+  auto* const option = new OptionButton(choice_);
+  option->setObjectName(QStringLiteral("Option%1").arg(i + 1));
+  QFont bold = option->font();
+  bold.setBold(true);
+  option->setFont(bold);
+  options_->addButton(option, i);
+  auto* const place = new OptionRow(choice_, option);
+  QLabel* const picture =
+      NewPicture(place, QStringLiteral("Pic_%1").arg(i + 1), row.icon, kOptionIconSize, enabled);
+  QLabel* const line = NewLabel(place, QStringLiteral("lbl_%1").arg(i + 1));
+  lines_[static_cast<std::size_t>(i)] = line;
+  auto* const grid = new QGridLayout(place);
+  grid->setContentsMargins(6, 4, 6, 4);
   grid->setHorizontalSpacing(14);
   grid->setVerticalSpacing(2);
   grid->setColumnStretch(1, 1);
-  for (const WizardRow& row : WizardRows()) {
-    const int i = static_cast<int>(row.option);
-    const bool enabled = OptionEnabled(program_, row.option);
-    // A free row between two options keeps them apart.
-    if (i > 0) grid->setRowMinimumHeight(3 * i - 1, 10);
-    auto* const picture = NewPicture(choice_, QStringLiteral("Pic_%1").arg(i + 1), row.icon,
-                                     kOptionIconSize, enabled);
-    auto* const option = new QRadioButton(choice_);
-    option->setObjectName(QStringLiteral("Option%1").arg(i + 1));
-    QFont bold = option->font();
-    bold.setBold(true);
-    option->setFont(bold);
-    QLabel* const line = NewLabel(choice_, QStringLiteral("lbl_%1").arg(i + 1));
-    option->setEnabled(enabled);
-    line->setEnabled(enabled);
-    grid->addWidget(picture, 3 * i, 0, 2, 1);
-    grid->addWidget(option, 3 * i, 1);
-    grid->addWidget(line, 3 * i + 1, 1);
-    options_->addButton(option, i);
-    lines_[static_cast<std::size_t>(i)] = line;
+  grid->addWidget(picture, 0, 0, 2, 1);
+  grid->addWidget(option, 0, 1);
+  grid->addWidget(line, 1, 1);
+  place->setEnabled(enabled);
+  return place;
+}
+
+// Enter alone then begins where most people want to.
+void WizardDialog::ChooseFirstOption() {
+  for (QAbstractButton* const option : options_->buttons()) {
+    if (!option->isEnabled()) continue;
+    option->setChecked(true);
+    option->setFocus();
+    return;
   }
-  return choice_;
 }
 
 QHBoxLayout* WizardDialog::BuildButtons() {
@@ -151,6 +199,17 @@ void WizardDialog::ConfirmChoice() {
 
 void WizardDialog::CloseWindow() {
   done(QDialog::Rejected);
+}
+
+// At the start the main window may not have its size yet; it is going to fill the screen.
+void WizardDialog::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) {
+    const QWidget* const main = parentWidget();
+    const bool fills = main == nullptr || main->isMaximized();
+    const QRect around = fills ? screen()->availableGeometry() : main->frameGeometry();
+    move(around.center() - rect().center());
+  }
+  QDialog::showEvent(event);
 }
 
 void WizardDialog::done(int result) {

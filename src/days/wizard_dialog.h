@@ -13,6 +13,7 @@
 #include "core/views.h"
 #include "days/wizard.h"
 
+class QGridLayout;
 class QHBoxLayout;
 
 namespace kelvora {
@@ -29,9 +30,14 @@ class WizardDialog : public QDialog, public WizardView {
   void SetShowAtStart(bool shown) override;
   void done(int result) override;
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   QHBoxLayout* BuildHeading();
   QGroupBox* BuildChoice();
+  QWidget* BuildOption(const WizardRow& row);
+  void ChooseFirstOption();
   QHBoxLayout* BuildButtons();
   void ConfirmChoice();
 

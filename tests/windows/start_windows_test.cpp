@@ -113,15 +113,64 @@ TEST_F(WizardWindow, EveryControlHasANameForAssistiveTools) {
             "Open an existing day to edit or view.");
 }
 
-TEST_F(WizardWindow, NoOptionIsChosenAndTheTickIsThatOfTheSettings) {
+TEST_F(WizardWindow, TheFirstOptionIsChosenAndTheTickIsThatOfTheSettings) {
   for (const char* setting : {"1", "0"}) {
     test.program.settings[Setting::chk_wiz] = setting;
     Open();
     EXPECT_EQ(Find<QCheckBox>("chk_wiz")->isChecked(), Text(setting) == "1");
-    for (const char* option : {"Option1", "Option2", "Option3", "Option4"}) {
+    EXPECT_TRUE(Find<QAbstractButton>("Option1")->isChecked());
+    EXPECT_TRUE(Find<QAbstractButton>("Option1")->hasFocus());
+    for (const char* option : {"Option2", "Option3", "Option4"}) {
       EXPECT_FALSE(Find<QAbstractButton>(option)->isChecked()) << option;
     }
   }
+}
+
+TEST_F(WizardWindow, EnterAloneStartsANewDay) {
+  Open();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(test.core.opened, std::vector<WindowId>{WindowId::day_settings});
+}
+
+// The picture, the caption, the line and what is empty behind them.
+TEST_F(WizardWindow, TheWholeRowOfAnOptionChoosesIt) {
+  Open();
+  for (const int option : {3, 2, 4, 1}) {
+    const QString number = QString::number(option);
+    const auto* const button = FindIn<QAbstractButton>(*dialog, QStringLiteral("Option") + number);
+    const QWidget* const row = button->parentWidget();
+    auto* const other = Find<QAbstractButton>(option == 1 ? "Option2" : "Option1");
+    const auto place_of = [&](const QString& name, QPoint inside) {
+      return FindIn<QWidget>(*dialog, name + number)->mapTo(dialog.get(), inside);
+    };
+    for (const QPoint place :
+         {row->mapTo(dialog.get(), QPoint(row->width() - 3, 3)),
+          row->mapTo(dialog.get(), QPoint(2, row->height() - 3)),
+          place_of(QStringLiteral("Pic_"), {5, 5}), place_of(QStringLiteral("lbl_"), {5, 5}),
+          place_of(QStringLiteral("Option"), {button->width() - 2, 5})}) {
+      other->setChecked(true);
+      QWidget* const hit = dialog->childAt(place);
+      ASSERT_NE(hit, nullptr);
+      QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(dialog.get(), place));
+      EXPECT_TRUE(button->isChecked()) << option << ": " << place.x() << ", " << place.y();
+      EXPECT_FALSE(other->isChecked());
+    }
+  }
+}
+
+TEST_F(WizardWindow, OpensInTheMiddleOfTheScreen) {
+  Open();
+  const QPoint apart =
+      dialog->frameGeometry().center() - dialog->screen()->availableGeometry().center();
+  EXPECT_LE(apart.manhattanLength(), 4);
+  // Over a main window that does not fill the screen: in the middle of that.
+  QWidget main;
+  main.setGeometry(200, 150, 700, 500);
+  main.show();
+  WizardDialog over(test.program, &main);
+  over.show();
+  QApplication::processEvents();
+  EXPECT_LE((over.frameGeometry().center() - main.frameGeometry().center()).manhattanLength(), 4);
 }
 
 TEST_F(WizardWindow, AnOptionThatCannotBeGivenIsDisabledWithItsLine) {
@@ -143,7 +192,9 @@ TEST_F(WizardWindow, TheKeyThatEndsTheProgramReachesTheMainWindow) {
   EXPECT_EQ(choosy.given, std::vector<Command>{Command::mnu_bestand_sluiten});
 }
 
+// None can be chosen while none can be given.
 TEST_F(WizardWindow, OkWithoutAnOptionSavesTheTickAndCloses) {
+  test.program.windows.core = nullptr;
   Open();
   Click("chk_wiz");
   Click("cmd_opslaan");

@@ -1,5 +1,7 @@
 #include "platform/qt/qt_platform.h"
 
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDateTime>
@@ -93,6 +95,15 @@ Text TextOrNone(const QString& words) {
   return TextHolds(words) ? FromQt(words) : Text();
 }
 
+// A splash stands on top of everything; a box that comes up meanwhile goes on top as well, and the
+// later one is the upper one.
+bool SplashIsUp() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::ranges::any_of(windows, [](const QWidget* window) {
+    return window->windowType() == Qt::SplashScreen && window->isVisible();
+  });
+}
+
 std::string Standard(QStandardPaths::StandardLocation location) {
   return QStandardPaths::writableLocation(location).toStdString();
 }
@@ -111,6 +122,7 @@ BoxAnswer QtBoxes::Show(const Box& box) {
   if (waiting) QApplication::setOverrideCursor(Qt::ArrowCursor);
   QMessageBox window(QApplication::activeWindow());
   window.setObjectName(QStringLiteral("message_box"));
+  if (SplashIsUp()) window.setWindowFlag(Qt::WindowStaysOnTopHint);
   window.setWindowTitle(ToQt(box.title));
   window.setTextFormat(Qt::PlainText);
   window.setText(ToQtMessage(box.text));
