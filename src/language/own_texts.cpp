@@ -175,6 +175,7 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::diary_changed, "diary changed"_w, "dagboek gewijzigd"_w},
     OwnTextRow{OwnText::day_settings_changed, "profile of the day changed"_w,
                "profiel van de dag gewijzigd"_w},
+    OwnTextRow{OwnText::language_code, "en"_w, "nl"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {
@@ -193,6 +194,12 @@ Text OwnTextOf(const TextTables& texts, OwnText id) {
   const auto place = static_cast<std::size_t>(id);
   const bool translated = place < texts.own.size() && !texts.own[place].empty();
   return translated ? texts.own[place] : OwnTextIn(Language::english, id);
+}
+
+Text LanguageCodeOf(const TextTables& texts) {
+  const auto place = static_cast<std::size_t>(OwnText::language_code);
+  if (place < texts.own.size() && !texts.own[place].empty()) return texts.own[place];
+  return OwnTextIn(LanguageOf(texts), OwnText::language_code);
 }
 
 std::vector<Text> OwnTextsIn(Language language) {

@@ -120,9 +120,15 @@ enum class OwnText {
   diary_shorter,
   diary_changed,
   day_settings_changed,
+  // The code of the language, "en", by which the toolkit's own translations are found.
+  language_code,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
+
+// The code of the loaded language, as its own texts give it; one that has none is English or Dutch
+// like its texts.
+[[nodiscard]] Text LanguageCodeOf(const TextTables& texts);
 
 // All of them in one language, as they are part of the program.
 [[nodiscard]] std::vector<Text> OwnTextsIn(Language language);
@@ -133,6 +139,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 87;
+inline constexpr int kOwnTextCount = 88;
 
 }  // namespace kelvora

@@ -26,6 +26,20 @@ TEST(OwnTexts, ATranslationOfAUsersOwnCountsAsEnglish) {
   EXPECT_EQ(LanguageOf(texts), Language::english);
 }
 
+TEST(OwnTexts, NameTheCodeOfTheirLanguage) {
+  TextTables texts;
+  EXPECT_EQ(LanguageCodeOf(texts), "en");
+  Make_Taal_Dutch(texts);
+  EXPECT_EQ(LanguageCodeOf(texts), "nl");
+  // Dutch texts of a user's own without a companion, or with one from before there was a code.
+  texts.own.clear();
+  EXPECT_EQ(LanguageCodeOf(texts), "nl");
+  texts.own.resize(kOwnTextCount);
+  EXPECT_EQ(LanguageCodeOf(texts), "nl");
+  texts.own[static_cast<std::size_t>(OwnText::language_code)] = "de";
+  EXPECT_EQ(LanguageCodeOf(texts), "de");
+}
+
 TEST(OwnTexts, AreThereInBothLanguages) {
   for (int id = 0; id < kOwnTextCount; ++id) {
     const auto text = static_cast<OwnText>(id);

@@ -1,6 +1,11 @@
 #include "core/frame/child_area_panel.h"
 
+#include <array>
+
+#include <QAction>
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMenu>
 #include <QPainter>
 
 #include "platform/qt/look.h"
@@ -60,6 +65,19 @@ void ChildFrame::closeEvent(QCloseEvent* event) {
     TakePixels(place.y(), record_.top);
   }
   QMdiSubWindow::closeEvent(event);
+}
+
+void WordFrameMenu(QMdiSubWindow& frame) {
+  // The toolkit's entries in their order, as its translations know them.
+  constexpr std::array kEntries = {"&Restore",  "&Move",        "&Size", "Mi&nimize",
+                                   "Ma&ximize", "Stay on &Top", "&Close"};
+  QList<QAction*> actions = frame.systemMenu()->actions();
+  actions.removeIf([](const QAction* action) { return action->isSeparator(); });
+  if (actions.size() != static_cast<qsizetype>(kEntries.size())) return;
+  for (std::size_t i = 0; i < kEntries.size(); ++i) {
+    actions[static_cast<qsizetype>(i)]->setText(
+        QCoreApplication::translate("QMdiSubWindow", kEntries[i]));
+  }
 }
 
 }  // namespace kelvora

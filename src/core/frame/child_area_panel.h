@@ -39,4 +39,7 @@ class ChildFrame : public QMdiSubWindow {
   WindowRecord& record_;
 };
 
+// Words the menu of a frame anew, which the toolkit does only when it makes one.
+void WordFrameMenu(QMdiSubWindow& frame);
+
 }  // namespace kelvora

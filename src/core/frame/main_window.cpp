@@ -243,7 +243,8 @@ void MainWindow::GiveCommand(Command command) {
 
 void MainWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
-  UseToolkitWords(LanguageOf(texts));
+  UseToolkitWords(LanguageCodeOf(texts));
+  for (QMdiSubWindow* const frame : area_->subWindowList()) WordFrameMenu(*frame);
   SetMenuTitles();
   for (const ItemAction& entry : item_actions_) SetItemTexts(entry);
   for (const DropDownAction& entry : drop_down_actions_) {

@@ -2,11 +2,12 @@
 // language of the program and not in that of the system.
 #pragma once
 
-#include "language/own_texts.h"
+#include "core/text.h"
 
 namespace kelvora {
 
-// Lets them take effect at once. English is what the toolkit speaks by itself.
-void UseToolkitWords(Language language);
+// Lets them take effect at once, for a language by its code ("nl"). English is what the toolkit
+// speaks by itself, and where it has no words of that language.
+void UseToolkitWords(const Text& code);
 
 }  // namespace kelvora
