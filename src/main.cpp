@@ -6,13 +6,16 @@
 #include "platform/qt/ending_requests.h"
 #include "platform/qt/guarded_application.h"
 #include "platform/qt/look.h"
+#include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/qt/readable_palette.h"
 #include "storage/disk.h"
 
 int main(int argc, char** argv) {
   kelvora::IgnoreFileSignals();
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setStyle(new kelvora::ProgramStyle);
   kelvora::GuardedApplication application(argc, argv);
+  kelvora::KeepTextsReadable(application);
   QApplication::setApplicationName(QStringLiteral("kelvora-food"));
   QApplication::setDesktopFileName(QStringLiteral("kelvora-food"));
   QApplication::setWindowIcon(kelvora::IconNamed("kelvora-food"));

@@ -7,6 +7,7 @@
 
 #include "analysis/chart_look_panel.h"
 #include "language/day_summary_texts.h"
+#include "platform/qt/contrast.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"

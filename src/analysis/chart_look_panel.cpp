@@ -8,8 +8,6 @@
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
-#include "platform/qt/hint_label.h"
-
 namespace kelvora {
 
 int NearestPixel(double twips) {
@@ -21,11 +19,6 @@ void PaintFocus(const QWidget& widget, QPainter& painter) {
   QStyleOptionFocusRect frame;
   frame.initFrom(&widget);
   widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, &widget);
-}
-
-QColor LettersOn(const QColor& ground) {
-  const QColor white(Qt::white), black(Qt::black);
-  return ContrastOf(white, ground) >= ContrastOf(black, ground) ? white : black;
 }
 
 QFont FontForLines(const QFont& font, int lines, int height) {

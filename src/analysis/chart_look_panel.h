@@ -25,9 +25,6 @@ namespace kelvora {
 // The frame around what has the focus; nothing around anything else.
 void PaintFocus(const QWidget& widget, QPainter& painter);
 
-// Black or white, whichever reads better on the ground.
-[[nodiscard]] QColor LettersOn(const QColor& ground);
-
 // The font, made smaller as far as so many lines need it in that height, but not unreadable.
 [[nodiscard]] QFont FontForLines(const QFont& font, int lines, int height);
 

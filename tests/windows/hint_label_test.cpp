@@ -41,13 +41,42 @@ TEST(HintLabel, FollowsThePaletteOfWhatItStandsOn) {
   const HintLabel hint(&page, QStringLiteral("hint"));
   const auto grey = [&] { return hint.palette().color(QPalette::WindowText); };
   for (const auto& [letters, ground] : {std::pair{Qt::white, Qt::black}, {Qt::black, Qt::white}}) {
-    QPalette palette;
+    QPalette palette(ground);
     palette.setColor(QPalette::WindowText, letters);
     palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::Base, ground);
     page.setPalette(palette);
-    EXPECT_EQ(grey(), HintColour(letters, ground));
     EXPECT_GE(ContrastOf(grey(), ground), 4.5);
+    EXPECT_LT(ContrastOf(grey(), ground), 9);  // a grey, far from the 21 of the letters
   }
+}
+
+// A page whose grounds no grey can be read on together: that of the hint counts.
+TEST(HintLabel, CanBeReadWhereGroundsDiffer) {
+  QWidget page;
+  QPalette palette(Qt::white);
+  palette.setColor(QPalette::WindowText, Qt::white);
+  palette.setColor(QPalette::Window, Qt::black);
+  palette.setColor(QPalette::Base, Qt::white);
+  page.setPalette(palette);
+  const HintLabel hint(&page, QStringLiteral("hint"));
+  EXPECT_GE(ContrastOf(hint.palette().color(QPalette::WindowText), Qt::black), 4.5);
+}
+
+// What has no room for all its lines has a mark at the end of those that fit, and says so.
+TEST(HintLabel, IsCutWhereItsLinesHaveNoRoom) {
+  QWidget page;
+  HintLabel hint(&page, QStringLiteral("hint"));
+  hint.setText(QStringLiteral("Drag food items from the lists and drop them here."));
+  hint.resize(400, 60);
+  EXPECT_FALSE(hint.IsCut());
+  hint.resize(90, 16);
+  EXPECT_TRUE(hint.IsCut());
+  // Drawn to the end of its only line, and not below it.
+  const QImage drawn = hint.grab().toImage();
+  hint.setText({});
+  const QImage empty = hint.grab().toImage();
+  EXPECT_NE(drawn, empty);
 }
 
 }  // namespace

@@ -1,26 +1,23 @@
 // A label of quiet words: why a list is empty, what a box expects. Its grey lies between the
 // letters and the ground of the widget that it stands on, as far from the ground as reading needs
-// (a contrast of 4.5 to 1), whatever the palette; it follows a change of the palette.
+// (a contrast of 4.5 to 1), whatever the palette; it follows a change of the palette. Where there
+// is no room for all of its lines it is cut to those that fit, with a mark.
 #pragma once
 
-#include <QColor>
 #include <QLabel>
 
+#include "platform/qt/contrast.h"
+
 namespace kelvora {
-
-// The contrast of two colours, 1 to 21, by their relative luminance.
-[[nodiscard]] double ContrastOf(const QColor& one, const QColor& other);
-
-// The grey nearest to `ground` on the way from `letters` to it that can be read on it; `letters`
-// themselves where they can't be read well either.
-[[nodiscard]] QColor HintColour(const QColor& letters, const QColor& ground);
 
 class HintLabel : public QLabel {
  public:
   HintLabel(QWidget* parent, const QString& object_name);
+  [[nodiscard]] bool IsCut() const;
 
  protected:
   void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void TakeColour();
