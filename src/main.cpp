@@ -4,6 +4,7 @@
 #include "core/frame/net.h"
 #include "core/frame/startup.h"
 #include "platform/qt/ending_requests.h"
+#include "platform/qt/enter_key.h"
 #include "platform/qt/guarded_application.h"
 #include "platform/qt/look.h"
 #include "platform/qt/program_style.h"
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
   QApplication::setStyle(new kelvora::ProgramStyle);
   kelvora::GuardedApplication application(argc, argv);
   kelvora::KeepTextsReadable(application);
+  kelvora::LetEnterThroughGroups(application);
   QApplication::setApplicationName(QStringLiteral("kelvora-food"));
   QApplication::setDesktopFileName(QStringLiteral("kelvora-food"));
   QApplication::setWindowIcon(kelvora::IconNamed("kelvora-food"));
