@@ -7,6 +7,7 @@
 #include "core/text_search.h"
 #include "food/drag_text.h"
 #include "language/lists_texts.h"
+#include "language/own_texts.h"
 #include "nutrition/numbers.h"
 #include "nutrition/totals.h"
 
@@ -62,6 +63,15 @@ Text FoodLists::Cell(FoodView view, std::size_t row, std::size_t column) const {
     default:
       return NutrientCell(line);
   }
+}
+
+bool FoodLists::HasSecondLines() const {
+  return LanguageOf(program_.texts) == Language::dutch;
+}
+
+Text FoodLists::SecondLine(FoodView view, std::size_t row) const {
+  const std::string_view remark = FieldOf(LineAt(view, row), FoodField::kRemark);
+  return Text(remark.substr(0, remark.find_first_of("\r\n")));
 }
 
 Text FoodLists::WeightCell(std::string_view line) const {

@@ -42,6 +42,11 @@ class FoodLists {
   // The text of one cell; column 0 holds the line's number. Made anew at each call.
   [[nodiscard]] Text Cell(FoodView view, std::size_t row, std::size_t column) const;
 
+  // What stands below a food's name: in Dutch the first line of the remark, which holds the Dutch
+  // names of the foods that come with the program.
+  [[nodiscard]] bool HasSecondLines() const;
+  [[nodiscard]] Text SecondLine(FoodView view, std::size_t row) const;
+
   [[nodiscard]] std::array<Text, kFoodColumns> Headings() const;
   // The tool tip of the last heading, the only one that has one.
   [[nodiscard]] const Text& NutrientTip() const;

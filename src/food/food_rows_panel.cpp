@@ -3,10 +3,12 @@
 #include <QHeaderView>
 
 #include "core/geometry.h"
+#include "platform/qt/look.h"
 
 namespace kelvora {
 namespace {
 
+constexpr int kNameColumn = 1;
 constexpr std::size_t kFirstNumberColumn = 3;
 constexpr std::size_t kNutrientColumn = 4;
 constexpr int kUnitWidth = PixelsOfTwips(1500);
@@ -26,6 +28,13 @@ void ShowFoodRows(FoodTable& table, const FoodLists& lists, FoodView view) {
                      [&lists, view](std::size_t row, std::size_t column) {
                        return lists.Cell(view, row, column);
                      });
+  const bool two_lines = lists.HasSecondLines();
+  if (two_lines) {
+    table.Model().ShowSecondLine(
+        kNameColumn, [&lists, view](std::size_t row) { return lists.SecondLine(view, row); });
+  }
+  table.verticalHeader()->setDefaultSectionSize(RowHeight(table) +
+                                                (two_lines ? table.fontMetrics().height() : 0));
   table.doItemsLayout();
   const auto shown = lists.ShownOrder(view);
   const bool down = shown && shown->order == SortOrder::descending;

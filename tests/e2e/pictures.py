@@ -19,7 +19,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
 from day_file_writer import food, write_days
 from desktop import SPLASH, WIZARD, Desktop
 from food_server import Server, refusing
-from one_day import DAYS_FIRST, EVENING, MORNING, make_user_and_day, row
+from one_day import DAYS_FIRST, EVENING, FIRST_ROW, MORNING, ROW_HEIGHT, make_user_and_day
 from with_servers import ProgramWithServers
 
 AFTERNOON = (800, 420)
@@ -52,6 +52,17 @@ DecorationFocus=61,174,233
 DecorationHover=61,174,233
 """
 DARK_DESKTOP = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5"}
+
+
+# In Dutch a food has a second line, and fewer of them can be seen.
+DUTCH_ROW_HEIGHT, DUTCH_ROWS = 34, 10
+
+
+def row(number, stem):
+    """The place of one of the foods that can be seen."""
+    if stem == "nederlands":
+        return FIRST_ROW[0], FIRST_ROW[1] + number % DUTCH_ROWS * DUTCH_ROW_HEIGHT
+    return FIRST_ROW[0], FIRST_ROW[1] + number * ROW_HEIGHT
 
 
 class PictureDesktop(Desktop):
@@ -135,7 +146,7 @@ def take_foods(desktop, folder, stem):
     take_window(desktop, NEW_FOOD, folder / f"new_food_{stem}.png")
     desktop.keys("Escape")
     desktop.no_window(NEW_FOOD)
-    desktop.click(row(2))
+    desktop.click(row(2, stem))
     desktop.output("xdotool", "click", "--repeat", "2", "--delay", "60", "1")
     for page in (1, 2):
         take_window(desktop, DETAILS, folder / f"details_{page}_{stem}.png")
@@ -149,8 +160,8 @@ def take_comparison(desktop, folder, stem):
     command = ["F10", *["Right"] * 5, "Return"]
     desktop.keys(*command)
     for number, field in [(0, FIELD_1), (3, FIELD_2)]:
-        desktop.click(row(number))
-        desktop.drag(row(number), field)
+        desktop.click(row(number, stem))
+        desktop.drag(row(number, stem), field)
     desktop.click(FIELD_1)
     desktop.keys("shift+Tab")  # to the tabs
     for tab in (1, 2, 3):
@@ -164,8 +175,8 @@ def take_summary(desktop, folder, stem):
     enough foods for a pie."""
     screens, summary, diary = SUMMARY_BUTTONS[stem]
     for number in (1, 5, 6):
-        desktop.click(row(number))
-        desktop.drag(row(number), EVENING)
+        desktop.click(row(number, stem))
+        desktop.drag(row(number, stem), EVENING)
     desktop.click(screens)
     take(desktop, folder / f"summary_small_{stem}.png")
     desktop.click(summary)
@@ -267,8 +278,8 @@ def main():
         make_user_and_day(desktop, **WORDS.get(stem, {}))
         for number, place in [(2, MORNING), (7, MORNING), (11, AFTERNOON), (14, AFTERNOON),
                               (4, EVENING)]:
-            desktop.click(row(number))
-            desktop.drag(row(number), place)
+            desktop.click(row(number, stem))
+            desktop.drag(row(number, stem), place)
         desktop.click(AFTERNOON_PLUS)
         desktop.click(MORNING_TOTALS)
         take(desktop, folder / f"main_window_{stem}.png")

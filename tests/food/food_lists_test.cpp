@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "language/built_in_texts.h"
 #include "support/test_program.h"
 
 namespace kelvora {
@@ -208,6 +209,25 @@ TEST_F(FoodListsTest, TenRowsCanBeDraggedAndElevenCannot) {
   EXPECT_EQ(test.boxes.shown[0].text,
             "You can not drag more then 10 food items at the same time.\n"
             "Please select the food item(s) again.");
+}
+
+// The Dutch names of the foods are in their remarks.
+TEST_F(FoodListsTest, InDutchTheFirstLineOfTheRemarkStandsBelowTheName) {
+  Add({.product = "Coffee", .remark = "koffie\r\nzwart", .db = "Fruit.dat"});
+  lists.Zoek_In_Lijsten("koffie");
+  EXPECT_FALSE(lists.HasSecondLines());
+  Make_Taal_Dutch(test.program.texts);
+  EXPECT_TRUE(lists.HasSecondLines());
+  EXPECT_EQ(lists.SecondLine(FoodView::standard, 0), "koffie");
+  EXPECT_EQ(lists.SecondLine(FoodView::own, 0), "");
+  // In the order of the rows, and nothing beyond the last.
+  lists.Zoek_In_Lijsten("Bread.dat");
+  lists.SortByColumn(FoodView::standard, 1);
+  lists.SortByColumn(FoodView::standard, 1);
+  EXPECT_EQ(Names(), (std::vector<Text>{"White bread", "Rye bread"}));
+  EXPECT_EQ(lists.SecondLine(FoodView::standard, 0), "witbrood");
+  EXPECT_EQ(lists.SecondLine(FoodView::standard, 1), "roggebrood");
+  EXPECT_EQ(lists.SecondLine(FoodView::standard, 2), "");
 }
 
 }  // namespace

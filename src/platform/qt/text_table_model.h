@@ -20,7 +20,7 @@ class TextTableModel : public QAbstractTableModel {
   struct Column {
     Text heading;
     Qt::Alignment alignment = Qt::AlignLeft;
-    Text tip{};  // of the heading
+    Text tip{};  // of the heading; its own words without one
   };
   using CellText = std::function<Text(std::size_t row, std::size_t column)>;
 
@@ -29,6 +29,10 @@ class TextTableModel : public QAbstractTableModel {
   // Takes the place of everything shown so far. `cell` is called for rows below `row_count` only,
   // and must stay valid until the next call.
   void Show(std::vector<Column> columns, std::size_t row_count, CellText cell);
+
+  // The second line of the cells of one column, until the next Show; rows as for `cell`.
+  using SecondLine = std::function<Text(std::size_t row)>;
+  void ShowSecondLine(int column, SecondLine line);
 
   // An icon at the start of every cell of one column.
   void SetRowIcon(int column, const QIcon& icon);
@@ -44,6 +48,8 @@ class TextTableModel : public QAbstractTableModel {
   std::vector<Column> columns_;
   std::size_t row_count_ = 0;
   CellText cell_;
+  int second_line_column_ = -1;
+  SecondLine second_line_;
   int icon_column_ = -1;
   QIcon icon_;
 };
