@@ -17,12 +17,14 @@ namespace {
 constexpr int kIconSize = 16;
 constexpr int kBarHeight = 26;
 
+constexpr auto kWithCaptions = Qt::ToolButtonTextBesideIcon;
+
 }  // namespace
 
 AnalysisToolbar::AnalysisToolbar(std::span<const AnalysisButton> rows, QWidget* parent)
     : QToolBar(parent) {
   NameWidget(this, "Toolbar");
-  setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  setToolButtonStyle(kWithCaptions);
   setIconSize({kIconSize, kIconSize});
   setFixedHeight(kBarHeight);
   layout()->setContentsMargins(4, 0, 4, 0);
@@ -77,6 +79,12 @@ void AnalysisToolbar::Set_Taal(const TextTables& texts) {
       if (text) SetActionTexts(entries[static_cast<qsizetype>(i)], texts[*text], {});
     }
   }
+  if (isVisible()) FitCaptions(*this, kWithCaptions);
+}
+
+void AnalysisToolbar::resizeEvent(QResizeEvent* event) {
+  QToolBar::resizeEvent(event);
+  FitCaptions(*this, kWithCaptions);
 }
 
 void AnalysisToolbar::Press(AnalysisView view) {

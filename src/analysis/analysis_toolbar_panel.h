@@ -35,6 +35,7 @@ class AnalysisToolbar : public QToolBar {
   void EntryChosen(int position);
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   // The arrow down opens the menu of the button that has the focus.
   bool eventFilter(QObject* object, QEvent* event) override;
 

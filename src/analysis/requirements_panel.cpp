@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include "analysis/chart_look_panel.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -68,7 +69,7 @@ RequirementsPanel::RequirementsPanel(QWidget* parent) : QWidget(parent) {
     const auto line = [&](AmountBar::Look look, const char* bar, const char* text) {
       const QString index = QStringLiteral("_%1").arg(row);
       return Line{new AmountBar(look, QLatin1String(bar) + index, this),
-                  NewLabel(this, QLatin1String(text) + index)};
+                  new LongLabel(this, QLatin1String(text) + index)};
     };
     LineOf(row, false) = line(AmountBar::Look::requirement, "pic_n", "Pic_nt");
     LineOf(row, true) = line(AmountBar::Look::use, "pic_g", "Pic_gt");

@@ -108,6 +108,7 @@ void SummaryTable::Zet_Kolombreedtes() {
   }
   const int given = PixelsOfTwips(widths[static_cast<std::size_t>(kFirstShown)]);
   setColumnWidth(kFirstShown, std::max(std::min(given, left), kLeastFoodWidth));
+  WidenToHeadings(*this, kFirstShown);
 }
 
 }  // namespace kelvora

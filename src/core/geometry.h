@@ -53,6 +53,9 @@ struct MainWindowSize {
   int width = kMainMinimumWidth;
   int height = kMainMinimumHeight;
   int quick_toolbar_height = 0;
+  // Of the area of the child windows; 0 while nothing is known of it.
+  int area_width = 0;
+  int area_height = 0;
 };
 
 // The records of arrangement A, which are also the defaults. Real values round half to even.

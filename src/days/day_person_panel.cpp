@@ -156,7 +156,7 @@ void DayPersonPanel::AddDateRow(QGroupBox* group, int row) {
     label->setBuddy(box);
     captions_.push_back({label, FieldOfId(id).caption});
     boxes->addWidget(label, 0, column);
-    boxes->addWidget(box, 1, column++);
+    boxes->addWidget(box, 1, column++, Qt::AlignLeft);  // its word may be wider
   }
   GridOf(group)->addLayout(boxes, row, kFieldColumn, Qt::AlignLeft);
   lbl_datuminfo_ = AddHint(GridOf(group), row, "lbl_datuminfo");

@@ -186,6 +186,8 @@ void DayTable::SetColumnWidths() {
     setColumnHidden(static_cast<int>(i), kShares[i] == 0);
     setColumnWidth(static_cast<int>(i), static_cast<int>(kShares[i] * width));
   }
+  WidenToHeadings(*this, static_cast<int>(BrowseColumn::kDay));
+  setMinimumWidth(WidthOfHeadings(*this) + this->width() - width);
 }
 
 }  // namespace kelvora

@@ -22,7 +22,7 @@ namespace {
 
 using namespace day_settings_text;
 
-constexpr int kSliderWidth = 160;
+constexpr int kSliderWidth = 130;  // the dialog fits a screen of 800 pixels in both languages
 constexpr int kBoxDigits = 7;
 
 }  // namespace

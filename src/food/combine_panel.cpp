@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "language/consumption_texts.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -21,13 +22,16 @@ CombinePanel::CombinePanel(const EntryContext& entry, QWidget* parent) : QWidget
   NameWidget(this, "Pic_SP");
   UseSmallLetters(this);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  txt_8_ = NewLabel(this, QStringLiteral("txt_8"));
+  txt_8_ = new LongLabel(this, QStringLiteral("txt_8"));
   txt_nfo_8_ = new TextBox(this, QStringLiteral("txt_nfo_8"), entry);
-  txt_7_ = NewLabel(this, QStringLiteral("txt_7"));
+  txt_7_ = new LongLabel(this, QStringLiteral("txt_7"));
   txt_nfo_7_ = new TextBox(this, QStringLiteral("txt_nfo_7"), entry);
   txt_nfo_7_->setFixedWidth(kUnitWidth);
   cmd_opslaan_ = new QPushButton(this);
   NameWidget(cmd_opslaan_, "cmd_opslaan");
+  for (QLabel* const caption : {txt_8_, txt_7_}) {
+    caption->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+  }
   txt_8_->setBuddy(txt_nfo_8_);
   txt_7_->setBuddy(txt_nfo_7_);
 

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -12,6 +13,7 @@
 #include "food/combining.h"
 #include "language/consumption_texts.h"
 #include "nutrition/totals.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -21,6 +23,7 @@ namespace {
 namespace ct = consumption_text;
 
 constexpr int kShownColumn = 1;  // the first one that is not hidden
+constexpr int kNameColumn = 2;
 constexpr int kToolIconSize = 16;
 constexpr int kBarHeight = 24;
 constexpr int kLowRowMargin = 2;      // of a row's letters, while both panels take their room
@@ -110,7 +113,7 @@ void ConsumptionWindow::BuildStatusBar() {
   NameWidget(StatusBar_, "StatusBar");
   StatusBar_->setSizeGripEnabled(false);
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    panels_[i] = NewLabel(StatusBar_, QStringLiteral("StatusBar_%1").arg(i + 1));
+    panels_[i] = new LongLabel(StatusBar_, QStringLiteral("StatusBar_%1").arg(i + 1));
     panels_[i]->setIndent(5);
   }
   StatusBar_->setFixedHeight(StatusBar_->fontMetrics().height() + 2 * kPanelMargin);
@@ -288,14 +291,23 @@ void ConsumptionWindow::LayStatusBar() {
   int left = 0;
   for (std::size_t i = 0; i < panels_.size(); ++i) {
     const int needed = panels_[i]->sizeHint().width();
-    const int panel_width = std::max(PixelsOfTwips(widths[i]), i == 1 ? needed : 0);
+    const int panel_width =
+        std::min(std::max(PixelsOfTwips(widths[i]), i == 1 ? needed : 0), width() - left);
     panels_[i]->setGeometry(left, 0, panel_width, StatusBar_->height());
     left += panel_width;
   }
 }
 
 void ConsumptionWindow::FollowListWidth() {
-  if (LV_consumpties_->Model().rowCount() > 0) SetColumnWidths();
+  if (LV_consumpties_->Model().rowCount() > 0) return SetColumnWidths();
+  FitHeadings();
+}
+
+// With the room of a vertical scroll bar, whether there is one now or not.
+void ConsumptionWindow::FitHeadings() {
+  const int beside =
+      2 * LV_consumpties_->frameWidth() + LV_consumpties_->verticalScrollBar()->sizeHint().width();
+  WidenToHeadings(*LV_consumpties_, kNameColumn, LV_consumpties_->width() - beside);
 }
 
 void ConsumptionWindow::SetColumnWidths() {
@@ -306,6 +318,7 @@ void ConsumptionWindow::SetColumnWidths() {
     LV_consumpties_->setColumnHidden(static_cast<int>(i), share == 0);
     LV_consumpties_->setColumnWidth(static_cast<int>(i), share);
   }
+  FitHeadings();
 }
 
 TextList ConsumptionWindow::SelectedNames() const {

@@ -60,6 +60,7 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   // Widths follow the list only while it has rows.
   void FollowListWidth();
   void SetColumnWidths();
+  void FitHeadings();
   void LayStatusBar();
   void ShowPanels(ShownPanels panels);
   void SelectRows(const std::vector<std::size_t>& rows);

@@ -27,11 +27,13 @@ constexpr std::array kButtons = {
     ButtonTexts{"list-internet", kButtonInternet, kTipInternet},
 };
 
+constexpr auto kWithCaptions = Qt::ToolButtonTextUnderIcon;
+
 }  // namespace
 
 FoodListsToolbar::FoodListsToolbar(QWidget* parent) : QToolBar(parent) {
   NameWidget(this, "Toolbar");
-  setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  setToolButtonStyle(kWithCaptions);
   setIconSize({kIconSize, kIconSize});
   UseSmallLetters(this);  // all buttons fit the window's default width in both languages
   setContextMenuPolicy(Qt::PreventContextMenu);
@@ -95,6 +97,12 @@ void FoodListsToolbar::Set_Taal(const TextTables& texts) {
   SetActionTexts(dutch_, texts[kMenuUseDutch], {});
   SetActionTexts(english_, texts[kMenuUseEnglish], {});
   setAccessibleName(ToQt(texts[kTitle]));
+  if (isVisible()) FitCaptions(*this, kWithCaptions);
+}
+
+void FoodListsToolbar::resizeEvent(QResizeEvent* event) {
+  QToolBar::resizeEvent(event);
+  FitCaptions(*this, kWithCaptions);
 }
 
 void FoodListsToolbar::Press(FoodView view) {
@@ -104,6 +112,7 @@ void FoodListsToolbar::Press(FoodView view) {
 
 void FoodListsToolbar::ShowInternet(bool shown) {
   buttons_.back()->setVisible(shown);
+  if (isVisible()) FitCaptions(*this, kWithCaptions);
 }
 
 void FoodListsToolbar::ShowServer(bool english) {

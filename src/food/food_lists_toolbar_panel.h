@@ -33,6 +33,9 @@ class FoodListsToolbar : public QToolBar {
   void CopyChosen();
   void ServerChosen(bool english);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QAction* AddEntry(QMenu* menu, const char* key, const char* icon);
   QMenu* AddMenu(FoodView view);

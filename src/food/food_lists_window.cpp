@@ -9,6 +9,7 @@
 #include "food/food_rows_panel.h"
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 #include "storage/food_files.h"
@@ -19,6 +20,7 @@ namespace {
 using namespace lists_text;
 
 constexpr int kProgressWidth = 90;
+constexpr int kLeastListHeight = 38;  // the headings and one row
 
 // The four views, in the order of their buttons.
 struct ViewRow {
@@ -105,6 +107,7 @@ void FoodListsWindow::BuildViews() {
     auto* const table = new FoodTable(RowOf(view).table_name, stack_);
     table->horizontalHeader()->setSortIndicatorShown(true);
     table->setContextMenuPolicy(Qt::CustomContextMenu);
+    table->setMinimumHeight(kLeastListHeight);
     stack_->addWidget(table);
     tables_[static_cast<std::size_t>(view)] = table;
     ConnectView(view, table);
@@ -159,7 +162,10 @@ void FoodListsWindow::BuildStatusBar() {
   StatusBar_ = new QStatusBar(this);
   NameWidget(StatusBar_, "StatusBar");
   StatusBar_->setSizeGripEnabled(false);
-  panels_ = {NewLabel(StatusBar_, "StatusBar_1"), NewLabel(StatusBar_, "StatusBar_2")};
+  panels_ = {new LongLabel(StatusBar_, "StatusBar_1"), new LongLabel(StatusBar_, "StatusBar_2")};
+  for (QLabel* const panel : panels_) {
+    panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  }
   panels_[0]->setMinimumWidth(PixelsOfTwips(1800));
   StatusBar_->addWidget(panels_[0]);
   StatusBar_->addWidget(panels_[1], 1);
@@ -374,7 +380,8 @@ void FoodListsWindow::resizeEvent(QResizeEvent* event) {
 
 void FoodListsWindow::SetColumnWidths(FoodView view) {
   FoodTable& table = TableOf(view);
-  if (table.Model().rowCount() > 0) LayFoodColumns(table, stack_->width());
+  if (table.Model().rowCount() > 0) return LayFoodColumns(table, stack_->width());
+  FitHeadings(table, stack_->width());
 }
 
 }  // namespace kelvora

@@ -13,6 +13,7 @@ constexpr std::size_t kFirstNumberColumn = 3;
 constexpr std::size_t kNutrientColumn = 4;
 constexpr int kUnitWidth = PixelsOfTwips(1500);
 constexpr int kAmountWidth = PixelsOfTwips(1000);
+constexpr int kScrollBarWidth = PixelsOfTwips(360);
 constexpr int kRestWidth = PixelsOfTwips(1500 + 1000 + 1000 + 360);
 
 }  // namespace
@@ -48,6 +49,12 @@ void LayFoodColumns(FoodTable& table, int width) {
   table.setColumnWidth(2, kUnitWidth);
   table.setColumnWidth(3, kAmountWidth);
   table.setColumnWidth(4, kAmountWidth);
+  FitHeadings(table, width);
+}
+
+void FitHeadings(FoodTable& table, int width) {
+  WidenToHeadings(table, kNameColumn, width - kScrollBarWidth);
+  table.setMinimumWidth(WidthOfHeadings(table) + kScrollBarWidth);
 }
 
 }  // namespace kelvora

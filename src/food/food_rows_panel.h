@@ -12,4 +12,7 @@ void ShowFoodRows(FoodTable& table, const FoodLists& lists, FoodView view);
 // Gives the columns their widths in a list of that width; the number's column is hidden.
 void LayFoodColumns(FoodTable& table, int width);
 
+// Keeps the columns as they are, as far as the words of their headings have room in that width.
+void FitHeadings(FoodTable& table, int width);
+
 }  // namespace kelvora

@@ -7,6 +7,7 @@
 
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -55,8 +56,7 @@ FoodSearchPanel::FoodSearchPanel(const EntryContext& entry, QWidget* parent) : Q
   txt_catuitleg_ = NewLabel(this, "txt_catuitleg");
   combo_cat_ = new QComboBox(this);
   NameWidget(combo_cat_, "combo_cat");
-  txt_zoekuitleg_ = NewLabel(this, "txt_zoekuitleg");
-  txt_zoekuitleg_->setWordWrap(true);
+  txt_zoekuitleg_ = new LongLabel(this, "txt_zoekuitleg");
   txt_zoeken_ = new SearchBox(this, QStringLiteral("txt_zoeken"), entry);
   txt_zoeken_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_catuitleg_->setBuddy(combo_cat_);
@@ -92,8 +92,7 @@ void FoodSearchPanel::Set_Taal(const TextTables& texts) {
 InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* parent)
     : QWidget(parent) {
   NameWidget(this, "Pic_internet");
-  txt_internetzoektext_ = NewLabel(this, "txt_internetzoektext");
-  txt_internetzoektext_->setWordWrap(true);
+  txt_internetzoektext_ = new LongLabel(this, "txt_internetzoektext");
   txt_internet_ = new TextBox(this, QStringLiteral("txt_internet"), entry);
   txt_internet_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_internetzoektext_->setBuddy(txt_internet_);

@@ -5,12 +5,15 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "food/drag_text.h"
+#include "platform/qt/cell_tips.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -67,11 +70,11 @@ void FoodTable::SelectRows(const std::vector<std::size_t>& rows, std::size_t foc
 }
 
 void FoodTable::BuildEmptyHint() {
-  constexpr int kSide = 12, kTop = 6;
+  constexpr int kSide = 12, kTop = 3;
   empty_hint_ = new HintLabel(viewport(), QStringLiteral("empty_hint"));
   empty_hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
   auto* const layout = new QVBoxLayout(viewport());
-  layout->setContentsMargins(kSide, kTop, kSide, kTop);
+  layout->setContentsMargins(kSide, kTop, kSide, 0);
   layout->setSizeConstraint(QLayout::SetNoConstraint);
   layout->addWidget(empty_hint_);
   connect(&model_, &QAbstractItemModel::modelReset, this,
@@ -153,6 +156,16 @@ void FoodTable::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+}
+
+// What an empty list has no room to say is its tip.
+bool FoodTable::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || empty_hint_->isHidden() || !empty_hint_->IsCut()) {
+    return QTableView::viewportEvent(event);
+  }
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), PlainTip(empty_hint_->text()),
+                     viewport());
+  return true;
 }
 
 void FoodTable::SetDropLight(bool on) {

@@ -55,6 +55,7 @@ class FoodTable : public QTableView {
   void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
 
  private:
   void BuildEmptyHint();

@@ -29,7 +29,7 @@ constexpr int kNoteRow = kValueRow + static_cast<int>(FoodValue::kCount);
 constexpr int kColumns = 5;
 constexpr int kColumnSpacing = 8;
 constexpr int kFrameSpacing = 12;
-constexpr int kBoxDigits = 10;
+constexpr int kBoxDigits = 7;  // the dialog fits a screen of 800 pixels in both languages
 // Room beside the words of a button, more than the style gives.
 constexpr int kButtonRoom = 16;
 
@@ -270,6 +270,12 @@ QLabel* NewFoodDialog::AddLabel(QWidget* frame, const QString& name, TextId text
 void NewFoodDialog::CloseWindow() {
   submission_.GiveUp();
   done(QDialog::Rejected);
+}
+
+// The words at the top take more lines in a narrow window.
+void NewFoodDialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  setMinimumHeight(layout()->minimumHeightForWidth(width()));
 }
 
 void NewFoodDialog::done(int result) {

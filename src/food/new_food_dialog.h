@@ -41,6 +41,7 @@ class NewFoodDialog : public QDialog, public WindowView {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   // A widget and the text that it takes from the tables; a box is read aloud with the heading of

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "language/consumption_texts.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -36,7 +37,8 @@ TotalsPanel::TotalsPanel(QWidget* parent) : QWidget(parent) {
   grid->setVerticalSpacing(0);
   for (std::size_t i = 0; i < kCaptions.size(); ++i) {
     const CaptionRow& place = kCaptions[i];
-    captions_[i] = NewLabel(this, QLatin1String(place.name));
+    captions_[i] = new LongLabel(this, QLatin1String(place.name));
+    captions_[i]->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     lbl_nfo_[i] = NewLabel(this, QStringLiteral("lbl_nfo_%1").arg(i + 1));
     auto* const pair = new QHBoxLayout;
     pair->setSpacing(3);
@@ -44,7 +46,6 @@ TotalsPanel::TotalsPanel(QWidget* parent) : QWidget(parent) {
     pair->addWidget(lbl_nfo_[i], 1);
     grid->addLayout(pair, place.row, place.column, 1, place.columns);
   }
-  for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
   for (std::size_t i = 0; i < var_.size(); ++i) {
     var_[i] = NewLabel(this, QStringLiteral("var_%1").arg(i));
     var_[i]->hide();

@@ -120,6 +120,8 @@ void ExportTable::SetColumnWidths() {
   setColumnWidth(ColumnOf(ExportColumn::kDate), date);
   setColumnWidth(ColumnOf(ExportColumn::kDay), std::max(0, viewport()->width() - date - weight));
   setColumnWidth(ColumnOf(ExportColumn::kWeight), weight);
+  WidenToHeadings(*this, ColumnOf(ExportColumn::kDay));
+  setMinimumWidth(WidthOfHeadings(*this) + width() - viewport()->width());
 }
 
 // What is given, or as much as the heading and the longest cell need, within reason.

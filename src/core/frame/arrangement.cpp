@@ -1,5 +1,7 @@
 #include "core/frame/arrangement.h"
 
+#include "core/small_geometry.h"
+
 namespace kelvora {
 namespace {
 
@@ -19,7 +21,8 @@ void Open(Program& program, std::initializer_list<WindowId> ids) {
 
 void ComputeDefaultGeometry(Program& program) {
   if (program.windows.core == nullptr) return;
-  program.windows.geometry = DefaultGeometry(program.windows.core->Size());
+  const MainWindowSize size = program.windows.core->Size();
+  program.windows.geometry = Fitted(DefaultGeometry(size), size);
 }
 
 void ShowDefaultScreens(Program& program) {
@@ -30,7 +33,8 @@ void ShowDefaultScreens(Program& program) {
 void ShowScreensWithSummary(Program& program) {
   CloseAllWindows(program);
   if (program.windows.core == nullptr) return;
-  program.windows.geometry = GeometryWithSummary(program.windows.core->Size());
+  const MainWindowSize size = program.windows.core->Size();
+  program.windows.geometry = Fitted(GeometryWithSummary(size), size);
   Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists,
                  WindowId::day_summary});
 }

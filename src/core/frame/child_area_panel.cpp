@@ -1,10 +1,12 @@
 #include "core/frame/child_area_panel.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QLayout>
 #include <QMenu>
 #include <QPainter>
 
@@ -54,6 +56,36 @@ ChildFrame::ChildFrame(QWidget* content, WindowRecord& record) : record_(record)
 void ChildFrame::MoveToRecord() {
   setGeometry(PixelsOfTwips(record_.left), PixelsOfTwips(record_.top), PixelsOfTwips(record_.width),
               PixelsOfTwips(record_.height));
+}
+
+bool ChildFrame::event(QEvent* event) {
+  const bool handled = QMdiSubWindow::event(event);
+  if (event->type() == QEvent::LayoutRequest) HoldContent();
+  return handled;
+}
+
+void ChildFrame::resizeEvent(QResizeEvent* event) {
+  QMdiSubWindow::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width()) HoldContent();
+}
+
+// A content that comes to need more, for another language or one more panel, gets it; a frame that
+// grows for it stays in the area.
+void ChildFrame::HoldContent() {
+  if (widget() == nullptr || isMinimized() || isMaximized() || isShaded()) return;
+  if (minimumSize() != held_) given_ = minimumSize();
+  QSize least = minimumSizeHint();
+  if (const QLayout* const inside = widget()->layout(); inside && inside->hasHeightForWidth()) {
+    const int around = height() - widget()->height();
+    const int lines = inside->minimumHeightForWidth(widget()->width());
+    least.setHeight(std::max(least.height(), lines + around));
+  }
+  const QSize before = size();
+  held_ = given_.expandedTo(least).boundedTo(maximumSize());
+  setMinimumSize(held_);
+  if (size() == before) return;
+  const QPoint beyond = geometry().bottomRight() - parentWidget()->rect().bottomRight();
+  move(std::min(x(), std::max(0, x() - beyond.x())), std::min(y(), std::max(0, y() - beyond.y())));
 }
 
 void ChildFrame::closeEvent(QCloseEvent* event) {

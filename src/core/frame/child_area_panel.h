@@ -24,7 +24,7 @@ class ChildArea : public QMdiArea {
 };
 
 // The frame around one child window. Goes to its record when it opens and writes it back when it
-// closes; `record` outlives it.
+// closes; `record` outlives it. It is never smaller than what it holds needs.
 class ChildFrame : public QMdiSubWindow {
   Q_OBJECT
 
@@ -33,10 +33,16 @@ class ChildFrame : public QMdiSubWindow {
   void MoveToRecord();
 
  protected:
+  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void HoldContent();
+
   WindowRecord& record_;
+  QSize given_;  // the least size that it was given, and what has become of it
+  QSize held_;
 };
 
 // Words the menu of a frame anew, which the toolkit does only when it makes one.

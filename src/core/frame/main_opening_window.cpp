@@ -5,6 +5,7 @@
 #include "analysis/multi_day_window.h"
 #include "core/frame/child_area_panel.h"
 #include "core/frame/main_window.h"
+#include "core/small_geometry.h"
 #include "days/day_dialogs.h"
 #include "days/popup.h"
 #include "food/consumption_window.h"
@@ -96,12 +97,16 @@ void MainWindow::OpenUpdate(UpdateMode mode) {
 }
 
 void MainWindow::OpenConsumption(DayPart part, const char* icon) {
+  const bool small = IsSmall(Size());
   OpenChild(WindowOf(part), new ConsumptionWindow(program_, part, area_), icon,
-            {PixelsCovering(kConsumptionMinimumWidth), PixelsCovering(kConsumptionMinimumHeight)});
+            {PixelsCovering(small ? kSmallConsumptionWidth : kConsumptionMinimumWidth),
+             PixelsCovering(small ? kSmallConsumptionHeight : kConsumptionMinimumHeight)});
 }
 
 void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum) {
-  auto* const frame = new ChildFrame(content, *program_.windows.RecordOf(id));
+  WindowRecord& record = *program_.windows.RecordOf(id);
+  record = Fitted(record, Size());
+  auto* const frame = new ChildFrame(content, record);
   frame->setWindowIcon(IconNamed(icon));
   area_->addSubWindow(frame);
   if (!minimum.isNull()) frame->setMinimumSize(minimum);

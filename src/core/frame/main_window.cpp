@@ -14,9 +14,11 @@
 #include "core/frame/child_area_panel.h"
 #include "core/frame/data_window.h"
 #include "core/frame/ending.h"
+#include "core/small_geometry.h"
 #include "food/day_part_menu_panel.h"
 #include "language/main_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_letter.h"
 #include "platform/qt/text.h"
@@ -201,7 +203,7 @@ void MainWindow::BuildStatusBar() {
   statusBar()->setObjectName(QStringLiteral("StatusBar"));
   statusBar()->setSizeGripEnabled(false);
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    panels_[i] = NewLabel(statusBar(), QStringLiteral("StatusBar_%1").arg(i + 1));
+    panels_[i] = new LongLabel(statusBar(), QStringLiteral("StatusBar_%1").arg(i + 1));
     panels_[i]->setIndent(6);
   }
   statusBar()->setFixedHeight(statusBar()->fontMetrics().height() + 2 * kPanelMargin);
@@ -282,6 +284,17 @@ void MainWindow::Set_toolbar_teksten() {
   menu_toolbar_->setToolButtonStyle(with_text ? Qt::ToolButtonTextUnderIcon
                                               : Qt::ToolButtonIconOnly);
   for (const ButtonAction& entry : button_actions_) SetButtonTexts(entry);
+  captions_width_ = menu_toolbar_->sizeHint().width();
+  FitToolbar();
+}
+
+// In a narrow window the buttons are pictures alone, so that none of them is out of reach, and in a
+// low one for the room of the child windows.
+void MainWindow::FitToolbar() {
+  const bool with_text = program_.settings[Setting::chk_help] == "1";
+  const bool has_room = captions_width_ <= width() && !IsSmall(Size());
+  menu_toolbar_->setToolButtonStyle(with_text && has_room ? Qt::ToolButtonTextUnderIcon
+                                                          : Qt::ToolButtonIconOnly);
 }
 
 // The caption of a button goes when large texts are off; its tool tip and its name for assistive
@@ -334,7 +347,8 @@ void MainWindow::UpdateCommands() {
 
 MainWindowSize MainWindow::Size() const {
   return {TwipsOfPixels(width()), TwipsOfPixels(height()),
-          TwipsOfPixels(Toolbar_quickscreens_->height())};
+          TwipsOfPixels(Toolbar_quickscreens_->height()), TwipsOfPixels(area_->width()),
+          TwipsOfPixels(area_->height())};
 }
 
 void MainWindow::ArrangeWindows() {
@@ -353,6 +367,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   LayStatusBar();
+  FitToolbar();
 }
 
 }  // namespace kelvora

@@ -85,6 +85,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void LayStatusBar();
   void BuildDataButton();
   void SetButtonTexts(const ButtonAction& entry);
+  void FitToolbar();
   void OpenConsumption(DayPart part, const char* icon);
   void OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum = {0, 0});
 
@@ -100,6 +101,7 @@ class MainWindow : public QMainWindow, public CoreView {
   std::vector<DropDownAction> drop_down_actions_;
   QTimer* recovery_timer_ = nullptr;  // runs while a day is open
   QToolBar* menu_toolbar_;
+  int captions_width_ = 0;  // what it needs to show all its captions
   QToolBar* Toolbar_quickscreens_;
   std::array<QLabel*, 4> panels_;
 };

@@ -1,5 +1,7 @@
 #include "platform/qt/long_label.h"
 
+#include <algorithm>
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -19,14 +21,18 @@ QSize LongLabel::minimumSizeHint() const {
   return {0, QLabel::minimumSizeHint().height()};
 }
 
+QRect LongLabel::Place() const {
+  return contentsRect().adjusted(std::max(indent(), 0), 0, 0, 0);
+}
+
 QString LongLabel::Fitting() const {
-  return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+  return fontMetrics().elidedText(text(), Qt::ElideMiddle, Place().width());
 }
 
 void LongLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
-                        isEnabled(), Fitting(), foregroundRole());
+  style()->drawItemText(&painter, Place(), static_cast<int>(alignment()), palette(), isEnabled(),
+                        Fitting(), foregroundRole());
 }
 
 bool LongLabel::event(QEvent* event) {

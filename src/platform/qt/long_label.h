@@ -18,6 +18,7 @@ class LongLabel : public QLabel {
   bool event(QEvent* event) override;
 
  private:
+  [[nodiscard]] QRect Place() const;
   [[nodiscard]] QString Fitting() const;
 };
 

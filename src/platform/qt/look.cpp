@@ -1,10 +1,15 @@
 #include "platform/qt/look.h"
 
+#include <algorithm>
+#include <vector>
+
 #include <QFont>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
 #include <QTableView>
+#include <QToolBar>
 #include <QWidget>
 
 #include "platform/qt/cell_tips.h"
@@ -54,6 +59,63 @@ void MakeRowList(QTableView* table) {
   table->verticalHeader()->setDefaultSectionSize(RowHeight(*table));
   table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   table->horizontalHeader()->setHighlightSections(false);
+  table->horizontalHeader()->setTextElideMode(Qt::ElideRight);
+}
+
+namespace {
+
+int WidthOfHeading(const QHeaderView& header, int column) {
+  const QStyle& style = *header.style();
+  const QString words = header.model()->headerData(column, Qt::Horizontal).toString();
+  const int margin = style.pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+  const bool sorted = header.isSortIndicatorShown() && header.sortIndicatorSection() == column;
+  const int mark = sorted ? style.pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &header) : 0;
+  return header.fontMetrics().horizontalAdvance(words) + 2 * margin + 1 + mark;
+}
+
+}  // namespace
+
+int WidthOfHeadings(const QTableView& table) {
+  const QHeaderView& header = *table.horizontalHeader();
+  int width = 0;
+  for (int column = 0; column < header.count(); ++column) {
+    if (!header.isSectionHidden(column)) width += WidthOfHeading(header, column);
+  }
+  return width;
+}
+
+void WidenToHeadings(QTableView& table, int giving, std::optional<int> given_room) {
+  const QHeaderView& header = *table.horizontalHeader();
+  const int room = std::max(0, given_room.value_or(table.viewport()->width()));
+  const int needed = WidthOfHeadings(table);
+  std::vector<int> columns;  // the giving one first, then from the right
+  for (int column = header.count() - 1; column >= 0; --column) {
+    if (!header.isSectionHidden(column)) columns.push_back(column);
+  }
+  const auto least = [&](int column) {
+    const int words = WidthOfHeading(header, column);
+    return needed <= room ? words : words * room / needed;
+  };
+  int width = 0;
+  for (const int column : columns) {
+    table.setColumnWidth(column, std::max(table.columnWidth(column), least(column)));
+    width += table.columnWidth(column);
+  }
+  std::stable_partition(columns.begin(), columns.end(),
+                        [&](int column) { return column == giving; });
+  for (const int column : columns) {
+    // The last one may be stretched, whatever it is given.
+    const int spare = std::max(0, table.columnWidth(column) - least(column));
+    const int taken = std::min(std::max(0, width - room), spare);
+    table.setColumnWidth(column, table.columnWidth(column) - taken);
+    width -= taken;
+  }
+}
+
+void FitCaptions(QToolBar& bar, Qt::ToolButtonStyle with_captions) {
+  // A bar that shows its captions is left alone while they fit: each change lays it out anew.
+  if (bar.toolButtonStyle() != with_captions) bar.setToolButtonStyle(with_captions);
+  if (bar.sizeHint().width() > bar.width()) bar.setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
 void UseSmallLetters(QWidget* widget) {

@@ -1,6 +1,7 @@
 // The look that all windows share: icons and the unit of layout.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include <QAction>
@@ -11,6 +12,7 @@
 class QLabel;
 class QLineEdit;
 class QTableView;
+class QToolBar;
 class QWidget;
 
 namespace kelvora {
@@ -30,6 +32,20 @@ void NameWidget(QWidget* widget, const char* object_name);
 // Makes a table a list of rows: whole rows, several at once, nothing typed, striped, as high as
 // RowHeight, with a heading that follows no selection and tips for cells that are cut.
 void MakeRowList(QTableView* table);
+
+// The width that the shown headings of a list need together.
+[[nodiscard]] int WidthOfHeadings(const QTableView& table);
+
+// Widens the shown columns of a list to the words of their headings. What that takes beyond the
+// width of the list is given by the column `giving` first, then by others, as far as their own
+// words allow. Where the list is too narrow for all of them, each has its share, and their tips the
+// rest.
+// `room` is the width of the list where it isn't laid out yet.
+void WidenToHeadings(QTableView& table, int giving, std::optional<int> room = std::nullopt);
+
+// Shows the captions of a bar's buttons where all of them have room, and pictures alone otherwise,
+// so that no button is out of reach.
+void FitCaptions(QToolBar& bar, Qt::ToolButtonStyle with_captions);
 
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
