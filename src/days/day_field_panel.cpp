@@ -27,10 +27,11 @@ DayFieldBox::DayFieldBox(Program& program, DayForm& form, DayFieldId id, QWidget
   connect(this, &QLineEdit::editingFinished, this, &DayFieldBox::TakeForm);
 }
 
+// A box that loses the focus in its own destruction still tells of it, and by then the form may be
+// gone. What the toolkit has connected stays: it is how others, assistive tools among them, learn
+// that the box is gone.
 DayFieldBox::~DayFieldBox() {
-  // A box that loses the focus in its own destruction still tells of it, and by then the form may
-  // be gone.
-  disconnect();
+  disconnect(this, nullptr, this, nullptr);
 }
 
 void DayFieldBox::Set_Taal() {
