@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "language/compare_texts.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -47,6 +48,7 @@ ComparisonWindow::ComparisonWindow(Program& program, QWidget* parent)
   UseSmallLetters(this);
   TabStrip_ = new QTabWidget(this);
   NameWidget(TabStrip_, "TabStrip");
+  MakeOneStop(TabStrip_);
   per_unit_ = BuildPage(kPerUnitTab);
   per_100_ = BuildPage(kPer100Tab);
   BuildHelp();
@@ -212,6 +214,7 @@ void ComparisonWindow::ShowColumn(const Column& column, std::size_t box, bool pe
   const ComparedFood& food = foods_[box];
   column.txt_Voedingsmiddel->setText(ToQt(food.txt_Voedingsmiddel));
   column.txt_Voedingsmiddel->setAccessibleName(ToQt(food.txt_Voedingsmiddel));
+  HideWhileEmpty(*column.txt_Voedingsmiddel);
   column.Pic_drop->setAccessibleDescription(ToQt(food.txt_Voedingsmiddel));
   const TextTables& texts = program_.texts;
   for (std::size_t row = 0; row < kComparedRows; ++row) {
@@ -222,6 +225,7 @@ void ComparisonWindow::ShowColumn(const Column& column, std::size_t box, bool pe
     column.values[row]->setAccessibleName(ToQt(texts[caption] + " " + value + behind));
   }
   column.lbl_oz->setText(ToQt(OuncesLabel(texts, per_100 ? food.ounces_b : food.ounces_a)));
+  HideWhileEmpty(*column.lbl_oz);
 }
 
 }  // namespace kelvora

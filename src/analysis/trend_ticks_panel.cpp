@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "analysis/chart_look_panel.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/hint_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -39,6 +40,7 @@ class ColourBar : public QWidget {
       : QWidget(parent), colour_(InQt(colour)) {
     setObjectName(object_name);
     setFixedSize(kBarWidth, kBarHeight);
+    MakeSilent(*this);  // the tick beside it has the words
   }
 
  protected:

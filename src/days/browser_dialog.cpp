@@ -8,6 +8,7 @@
 #include "days/day_dialogs.h"
 #include "language/browse_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -178,7 +179,6 @@ void BrowserDialog::SetCaptions() {
   cmd_annuleer_->setText(ToQt(texts[kCancel]));
   for (std::size_t i = 0; i < captions_.size(); ++i) {
     captions_[i]->setText(ToQt(texts[kPaneCaptions[i]]));
-    lbl_pr_[i]->setAccessibleName(ToQt(texts[kPaneCaptions[i]]));
   }
 }
 
@@ -210,7 +210,10 @@ void BrowserDialog::ShowDays(std::vector<DayRow> rows) {
 void BrowserDialog::ShowProfile() {
   const ProfilePane pane = ProfilePaneOf(program_);
   lbl_profile_of_->setText(ToQt(pane.heading));
-  for (std::size_t i = 0; i < lbl_pr_.size(); ++i) lbl_pr_[i]->setText(ToQt(pane.lbl_pr[i]));
+  for (std::size_t i = 0; i < lbl_pr_.size(); ++i) {
+    lbl_pr_[i]->setText(ToQt(pane.lbl_pr[i]));
+    NameValue(*lbl_pr_[i], *captions_[i]);
+  }
 }
 
 void BrowserDialog::ChooseSelectedUser() {

@@ -12,6 +12,7 @@
 
 #include "days/day_hints.h"
 #include "language/day_settings_texts.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/choice_list.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -224,10 +225,14 @@ void DayPersonPanel::ShowGender() {
 
 void DayPersonPanel::ShowHints() {
   const DayHints hints = DrawCoversionsText(program_, form_);
-  lbl_lengteinfo_->setText(ToQt(hints.lbl_lengteinfo));
-  lbl_gewichtinfo_->setText(ToQt(hints.lbl_gewichtinfo));
-  lbl_streefgewichtinfo_->setText(ToQt(hints.lbl_streefgewichtinfo));
-  lbl_datuminfo_->setText(ToQt(hints.lbl_datuminfo));
+  const auto show = [](QLabel* label, const Text& hint) {
+    label->setText(ToQt(hint));
+    HideWhileEmpty(*label);
+  };
+  show(lbl_lengteinfo_, hints.lbl_lengteinfo);
+  show(lbl_gewichtinfo_, hints.lbl_gewichtinfo);
+  show(lbl_streefgewichtinfo_, hints.lbl_streefgewichtinfo);
+  show(lbl_datuminfo_, hints.lbl_datuminfo);
 }
 
 }  // namespace kelvora

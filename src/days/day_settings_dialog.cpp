@@ -55,6 +55,7 @@ DaySettingsDialog::~DaySettingsDialog() {
 void DaySettingsDialog::BuildTabs() {
   TabStrip1_ = new QTabWidget(this);
   NameWidget(TabStrip1_, "TabStrip1");
+  MakeOneStop(TabStrip1_);
   auto* const first = new QWidget(TabStrip1_);
   users_ = new DayUsersPanel(program_, first);
   person_ = new DayPersonPanel(program_, editing_.form, first);
@@ -111,6 +112,7 @@ void DaySettingsDialog::done(int result) {
 void DaySettingsDialog::Set_Taal() {
   const TextTables& texts = program_.texts;
   setWindowTitle(ToQt(texts[TitleOf(editing_.mode)]));
+  TabStrip1_->setAccessibleName(windowTitle());
   lbl_info_->setText(ToQt(texts[InstructionFor(editing_.mode, user_count_)]));
   for (std::size_t i = 0; i < kTabs.size(); ++i) {
     TabStrip1_->setTabText(static_cast<int>(i), ToQt(texts[kTabs[i]]));

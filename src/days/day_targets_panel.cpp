@@ -134,10 +134,10 @@ void DayTargetsPanel::Set_Taal() {
     const QString unit = ToQt(texts[row.unit]);
     rows_[i].caption->setText(caption);
     rows_[i].unit->setText(unit);
-    rows_[i].slider->setAccessibleName(caption);
     rows_[i].slider->setToolTip(ToQt(texts[kTipTargets]));
     rows_[i].box->setAccessibleName(caption + QLatin1Char(' ') + unit);
   }
+  NameSliders();
   const QString kcal = ToQt(texts[kTargetUnitKcal]);
   kcal_unit_->setText(kcal);
   txt_kcal_->setAccessibleName(rows_[0].caption->text() + QLatin1Char(' ') + kcal);
@@ -152,6 +152,14 @@ void DayTargetsPanel::Set_Taal() {
   chk_apply_->setText(CaptionFrom(texts[kApplyAutomatically]));
   chk_apply_->setAccessibleName(ToQt(texts[kApplyAutomatically]));
   chk_apply_->setToolTip(ToQt(texts[kTipApply]));
+}
+
+// A slider counts in steps of its own: what is read of it is what the box beside it shows.
+void DayTargetsPanel::NameSliders() {
+  for (const Row& row : rows_) {
+    row.slider->setAccessibleName(
+        QStringLiteral("%1 %2 %3").arg(row.caption->text(), row.box->text(), row.unit->text()));
+  }
 }
 
 void DayTargetsPanel::ShowForm() {
@@ -189,6 +197,7 @@ void DayTargetsPanel::ShowBoxes() {
     rows_[index].slider->setValue(PositionOf(form, target));
     rows_[index].box->ShowText(form.*TargetSliders()[index].box);
   }
+  NameSliders();
   txt_kcal_->ShowText(form.txt_kcal);
 }
 

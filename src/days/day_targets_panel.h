@@ -46,6 +46,7 @@ class DayTargetsPanel : public QWidget {
   void TakeAgeGroup(int index);
   void TakePriority(int index);
   void ShowBoxes();
+  void NameSliders();
 
   Program& program_;
   DayEditing& editing_;

@@ -68,6 +68,7 @@ void DayUsersPanel::Set_Taal() {
   lbl_users_->setText(ToQt(texts[kUsers]));
   lst_users_->setAccessibleName(ToQt(texts[kUsers]));
   lst_users_->setToolTip(ToQt(texts[kTipUsers]));
+  Toolbar_control_->setAccessibleName(ToQt(texts[kUsers]));
   SetTip(new_user_, texts[kTipNewUser]);
   SetTip(delete_user_, texts[kTipDeleteUser]);
 }

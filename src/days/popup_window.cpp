@@ -180,7 +180,6 @@ QWidget* PopupWindow::BuildThanks() {
   panel->setAlignment(Qt::AlignCenter);
   panel->setPixmap(IconNamed("thanks").pixmap(QSize(2 * kThanksPictureSize, kThanksPictureSize),
                                               devicePixelRatioF()));
-  panel->setAccessibleName(ToQt(AppTitle));
   Pic_dankwoord_ = panel;
   return panel;
 }

@@ -74,6 +74,7 @@ SettingsDialog::SettingsDialog(Program& program, QWidget* parent)
 void SettingsDialog::BuildTabs() {
   TabStrip1_ = new QTabWidget(this);
   NameWidget(TabStrip1_, "TabStrip1");
+  MakeOneStop(TabStrip1_);
   std::array<QVBoxLayout*, kTabs.size()> pages{};
   for (std::size_t i = 0; i < pages.size(); ++i) {
     auto* const frame = new QWidget(TabStrip1_);

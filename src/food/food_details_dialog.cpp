@@ -133,6 +133,7 @@ void FoodDetailsDialog::AddWeightRow(QGridLayout* grid, int row) {
 void FoodDetailsDialog::BuildTabs() {
   TabStrip_ = new QTabWidget(this);
   NameWidget(TabStrip_, "TabStrip");
+  MakeOneStop(TabStrip_);
   // A stored weight may be of any length.
   TabStrip_->setUsesScrollButtons(false);
   TabStrip_->setElideMode(Qt::ElideRight);

@@ -301,6 +301,7 @@ void NewFoodDialog::Set_Taal() {
     }
     if (tip) widget->setToolTip(ToQt(texts[*tip]));
   }
+  unit_->setAccessibleName(combo_dEenheid_->accessibleName());
   FollowSettings();
   for (QPushButton* const button : {cmd_opslaan_, cmd_annuleer_}) {
     button->setMinimumWidth(button->sizeHint().width() + kButtonRoom);

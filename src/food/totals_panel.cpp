@@ -4,6 +4,7 @@
 
 #include "language/consumption_texts.h"
 #include "platform/qt/long_label.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -56,11 +57,15 @@ void TotalsPanel::SetCaptions(const TextTables& texts, TextTable table) {
   for (std::size_t i = 0; i < kCaptions.size(); ++i) {
     captions_[i]->setText(ToQt(texts[{table, kCaptions[i].text}]));
   }
+  for (std::size_t i = 0; i < kCaptions.size(); ++i) NameValue(*lbl_nfo_[i], *captions_[i]);
   setAccessibleName(ToQt(texts[{table, ct::kTipTotals}]));
 }
 
 void TotalsPanel::Show(const ConsumptionTotals& totals) {
-  for (std::size_t i = 0; i < lbl_nfo_.size(); ++i) lbl_nfo_[i]->setText(ToQt(totals.lbl_nfo[i]));
+  for (std::size_t i = 0; i < lbl_nfo_.size(); ++i) {
+    lbl_nfo_[i]->setText(ToQt(totals.lbl_nfo[i]));
+    NameValue(*lbl_nfo_[i], *captions_[i]);
+  }
   for (std::size_t i = 0; i < var_.size(); ++i) var_[i]->setText(ToQt(totals.var[i]));
 }
 

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "language/main_texts.h"
 #include "language/update_texts.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
@@ -79,6 +80,7 @@ void UpdateWindow::Set_Taal() {
   lbl_versie_->setToolTip(ToQt(texts[kTipVersion]));
   lbl_status_->setToolTip(ToQt(texts[kTipStatus]));
   ProgressBar_->setAccessibleName(ToQt(texts[kProgress]));
+  StatusBar_->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   ShowState();
 }
 

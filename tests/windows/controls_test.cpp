@@ -294,7 +294,7 @@ txt_s_5 | Original nutritional value: Carbohydrates: |
 txt_s_6 | Original nutritional value: Sodium: |
 txt_dNaam | Nutritional value of the new food item: Name: |
 combo_dEenheid | Nutritional value of the new food item: Unit: | Choose a unit or type one yourself
-combo_dEenheid_box |  |
+combo_dEenheid_box | Nutritional value of the new food item: Unit: |
 txt_dGram | Weight: gram | The weight of one portion of the new food item, in whole grams
 txt_dOz | Weight: oz | The weight of one portion of the new food item, in whole grams
 txt_d_0 | Nutritional value of the new food item: Kilojoules: |
@@ -314,10 +314,10 @@ TEST_F(Controls, OfTheDayDialog) {
   const DaySettingsDialog dialog(program, nullptr);
   ExpectControls(dialog, R"(
 KV_bestand | Start a new day |
-TabStrip1 |  |
+TabStrip1 | Start a new day |
 ChoiceFrame_1 |  |
 lst_users | Users: | Select the user who starts a new day
-Toolbar_control |  |
+Toolbar_control | Users: |
 Toolbar_control_2 | Start a new user | Start a new user
 Toolbar_control_3 | Delete the selected user | Delete the selected user
 frame_person | Personal information: |
@@ -352,17 +352,17 @@ type_prioriteit_3 | Saturated fats |
 type_prioriteit_4 | Carbohydrates |
 type_prioriteit_5 | Proteins |
 frame_targets | Daily targets: |
-Slider_kj | Energy: | Move the slider to change this daily target
+Slider_kj | Energy: 9000 Kj | Move the slider to change this daily target
 txt_kj | Energy: Kj |
-Slider_ovet | Unsaturated fats: | Move the slider to change this daily target
+Slider_ovet | Unsaturated fats: 80 Gram | Move the slider to change this daily target
 txt_ovet | Unsaturated fats: Gram |
-Slider_vvet | Saturated fats: | Move the slider to change this daily target
+Slider_vvet | Saturated fats: 27 Gram | Move the slider to change this daily target
 txt_vvet | Saturated fats: Gram |
-Slider_nat | Sodium: | Move the slider to change this daily target
+Slider_nat | Sodium: 1 Gram | Move the slider to change this daily target
 txt_nat | Sodium: Gram |
-Slider_ew | Proteins: | Move the slider to change this daily target
+Slider_ew | Proteins: 60 Gram | Move the slider to change this daily target
 txt_ew | Proteins: Gram |
-Slider_kdr | Carbohydrates: | Move the slider to change this daily target
+Slider_kdr | Carbohydrates: 300 Gram | Move the slider to change this daily target
 txt_kdr | Carbohydrates: Gram |
 txt_kcal | Energy: Kcal |
 Combo_default | Reset values to: | Set all targets to the values of an age group
@@ -451,7 +451,7 @@ TEST_F(Controls, OfTheUpdateCheck) {
   ExpectControls(window, R"(
 KV_tb_internet_update | Internet updates |
 ProgressBar | Progress of the update check |
-StatusBar |  |
+StatusBar | Status bar |
 )");
 }
 

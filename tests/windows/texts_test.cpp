@@ -66,10 +66,10 @@ constexpr const char* kSquare = "[a-z_]+\\[\\d+\\]";
 constexpr const char* kCurly = "[a-z_]+\\{\\d+\\}";
 
 // The words that a window writes around a number by itself, as it is meant to.
-bool IsUnitOfATotal(const Shown& shown) {
+bool IsUnitOfATotal(const Shown& shown, const char* token) {
   static const std::set<QString> kUnits = {QStringLiteral("KjKcal"), QStringLiteral("g")};
   return shown.where.startsWith(QStringLiteral("lbl_nfo_")) &&
-         kUnits.contains(Foreign(shown.text, kSquare));
+         kUnits.contains(Foreign(shown.text, token));
 }
 bool IsShareOfABar(const Shown& shown) {
   return shown.where.startsWith(QStringLiteral("pBar_")) &&
@@ -90,7 +90,7 @@ bool IsNameOfTheProgram(const Shown& shown) {
 std::size_t ExpectFromTables(const QWidget& root, const char* token) {
   const auto shown = AllTexts(root);
   for (const Shown& one : shown) {
-    if (IsUnitOfATotal(one) || IsShareOfABar(one) || IsPartOfTheDaySummary(one) ||
+    if (IsUnitOfATotal(one, token) || IsShareOfABar(one) || IsPartOfTheDaySummary(one) ||
         IsNameOfTheProgram(one))
       continue;
     EXPECT_EQ(Foreign(one.text, token).toStdString(), "")

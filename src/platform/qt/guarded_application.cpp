@@ -2,6 +2,8 @@
 
 #include <QMessageBox>
 
+#include "platform/qt/accessibility.h"
+
 namespace kelvora {
 namespace {
 
@@ -47,6 +49,10 @@ class Counted {
 };
 
 }  // namespace
+
+GuardedApplication::GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {
+  KeepDecorationSilent();
+}
 
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
   const bool closes = event->type() == QEvent::Close;

@@ -11,7 +11,7 @@ namespace kelvora {
 
 class GuardedApplication : public QApplication {
  public:
-  using QApplication::QApplication;
+  GuardedApplication(int& argc, char** argv);
 
   // Is given what escaped, while nothing is being painted or handled any more. Without it an
   // exception goes on its way.

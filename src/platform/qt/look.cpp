@@ -5,11 +5,15 @@
 
 #include <QFont>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QToolBar>
+#include <QToolButton>
 #include <QWidget>
 
 #include "platform/qt/cell_tips.h"
@@ -118,6 +122,12 @@ void FitCaptions(QToolBar& bar, Qt::ToolButtonStyle with_captions) {
   if (bar.sizeHint().width() > bar.width()) bar.setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
+void MakeOneStop(QTabWidget* tabs) {
+  for (QToolButton* const button : tabs->tabBar()->findChildren<QToolButton*>()) {
+    button->setFocusPolicy(Qt::NoFocus);
+  }
+}
+
 void UseSmallLetters(QWidget* widget) {
   constexpr double kShare = 0.9;
   QFont font = widget->font();
@@ -143,6 +153,13 @@ void SetLocked(QLineEdit* box, bool locked) {
 void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip) {
   action->setText(CaptionFrom(caption));
   action->setToolTip(ToQt(tip.empty() ? caption : tip));
+}
+
+void AddKeysToTip(QAction* action, std::string_view keys) {
+  if (keys.empty()) return;
+  const QKeySequence sequence(QLatin1String(keys.data(), static_cast<qsizetype>(keys.size())));
+  action->setToolTip(QStringLiteral("%1 (%2)").arg(action->toolTip(),
+                                                   sequence.toString(QKeySequence::NativeText)));
 }
 
 }  // namespace kelvora

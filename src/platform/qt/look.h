@@ -11,6 +11,7 @@
 
 class QLabel;
 class QLineEdit;
+class QTabWidget;
 class QTableView;
 class QToolBar;
 class QWidget;
@@ -47,6 +48,10 @@ void WidenToHeadings(QTableView& table, int giving, std::optional<int> room = st
 // so that no button is out of reach.
 void FitCaptions(QToolBar& bar, Qt::ToolButtonStyle with_captions);
 
+// Makes the strip of some tabs one stop of the Tab key. The toolkit makes the two buttons stops as
+// well that a strip too long for its window has; the arrow keys do what they do.
+void MakeOneStop(QTabWidget* tabs);
+
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
 
@@ -60,5 +65,9 @@ void SetLocked(QLineEdit* box, bool locked);
 
 // Gives an action its texts: caption, tool tip and the same for assistive tools.
 void SetActionTexts(QAction* action, std::string_view caption, std::string_view tip);
+
+// Puts the keys that give an action behind its tool tip, as the desktop writes them; they are in
+// portable form, "Alt+1", and may be none.
+void AddKeysToTip(QAction* action, std::string_view keys);
 
 }  // namespace kelvora
