@@ -7,6 +7,8 @@
 
 #include "analysis/summary_size.h"
 #include "language/day_summary_texts.h"
+#include "language/main_texts.h"
+#include "language/own_texts.h"
 #include "language/trend_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -121,7 +123,8 @@ void AnalysisBody::SetCaptions() {
   const TextTables& texts = program_.texts;
   const Names& names = kNames[static_cast<std::size_t>(sheet_.Window())];
   Toolbar_->Set_Taal(texts);
-  Toolbar_->setAccessibleName(ToQt(texts[names.toolbar]));
+  Toolbar_->SetNames(ToQt(texts[names.toolbar]), ToQt(OwnTextOf(texts, OwnText::more_buttons)));
+  StatusBar_->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   Pic_Behoefte_->Set_Taal(texts, sheet_.Window());
   Pic_Behoefte_->setAccessibleName(ToQt(texts[names.requirements]));
   LV_uittreksel_->setAccessibleName(ToQt(texts[names.consumptions]));

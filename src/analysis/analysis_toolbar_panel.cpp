@@ -3,10 +3,8 @@
 #include <algorithm>
 
 #include <QActionGroup>
-#include <QKeyEvent>
 #include <QLayout>
 #include <QMenu>
-#include <QToolButton>
 
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -22,14 +20,12 @@ constexpr auto kWithCaptions = Qt::ToolButtonTextBesideIcon;
 }  // namespace
 
 AnalysisToolbar::AnalysisToolbar(std::span<const AnalysisButton> rows, QWidget* parent)
-    : QToolBar(parent) {
-  NameWidget(this, "Toolbar");
+    : ToolBar(parent, "Toolbar") {
   setToolButtonStyle(kWithCaptions);
   setIconSize({kIconSize, kIconSize});
   setFixedHeight(kBarHeight);
   layout()->setContentsMargins(4, 0, 4, 0);
   UseSmallLetters(this);  // all buttons fit the narrowest window in both languages
-  setContextMenuPolicy(Qt::PreventContextMenu);
   auto* const group = new QActionGroup(this);
   for (const AnalysisButton& row : rows) {
     QAction* const action = addAction(IconNamed(row.icon), QString());
@@ -39,7 +35,6 @@ AnalysisToolbar::AnalysisToolbar(std::span<const AnalysisButton> rows, QWidget* 
     group->addAction(action);
     auto* const button = qobject_cast<QToolButton*>(widgetForAction(action));
     button->setObjectName(name);
-    button->setFocusPolicy(Qt::TabFocus);
     connect(action, &QAction::triggered, this, [this, view = row.view] { emit ViewChosen(view); });
     buttons_.push_back({&row, action, row.menu.empty() ? nullptr : AddMenu(button, row)});
   }
@@ -50,7 +45,6 @@ QMenu* AnalysisToolbar::AddMenu(QToolButton* button, const AnalysisButton& row) 
   menu->setObjectName(button->objectName() + QStringLiteral("_menu"));
   button->setMenu(menu);
   button->setPopupMode(QToolButton::MenuButtonPopup);
-  button->installEventFilter(this);
   int position = 0;
   for (const auto& text : row.menu) {
     ++position;
@@ -83,7 +77,7 @@ void AnalysisToolbar::Set_Taal(const TextTables& texts) {
 }
 
 void AnalysisToolbar::resizeEvent(QResizeEvent* event) {
-  QToolBar::resizeEvent(event);
+  ToolBar::resizeEvent(event);
   FitCaptions(*this, kWithCaptions);
 }
 
@@ -109,14 +103,6 @@ void AnalysisToolbar::Mark(AnalysisView view, std::span<const int> positions) {
       entry->setChecked(std::ranges::find(positions, position) != positions.end());
     }
   }
-}
-
-bool AnalysisToolbar::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {
-    static_cast<QToolButton*>(object)->showMenu();
-    return true;
-  }
-  return QToolBar::eventFilter(object, event);
 }
 
 }  // namespace kelvora

@@ -6,17 +6,15 @@
 #include <span>
 #include <vector>
 
-#include <QToolBar>
-
 #include "analysis/analysis_views.h"
+#include "platform/qt/tool_bar.h"
 
 class QAction;
 class QMenu;
-class QToolButton;
 
 namespace kelvora {
 
-class AnalysisToolbar : public QToolBar {
+class AnalysisToolbar : public ToolBar {
   Q_OBJECT
 
  public:
@@ -36,8 +34,6 @@ class AnalysisToolbar : public QToolBar {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
-  // The arrow down opens the menu of the button that has the focus.
-  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   struct Button {

@@ -5,11 +5,11 @@
 #include <QCloseEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "analysis/diary.h"
 #include "language/diary_texts.h"
+#include "language/main_texts.h"
 #include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -66,16 +66,13 @@ DiaryWindow::DiaryWindow(Program& program, QWidget* parent)
 }
 
 void DiaryWindow::BuildToolbar() {
-  Toolbar_ = new QToolBar(this);
-  NameWidget(Toolbar_, "Toolbar");
+  Toolbar_ = new ToolBar(this, "Toolbar");
   Toolbar_->setIconSize({kToolIconSize, kToolIconSize});
   Toolbar_->setFixedHeight(kBarHeight);
   Toolbar_->layout()->setContentsMargins(4, 0, 4, 0);
   save_action_ = Toolbar_->addAction(IconNamed("save"), QString());
   save_action_->setObjectName(QStringLiteral("Toolbar_1_action"));
-  auto* const button = qobject_cast<QToolButton*>(Toolbar_->widgetForAction(save_action_));
-  button->setObjectName(QStringLiteral("Toolbar_1"));
-  button->setFocusPolicy(Qt::TabFocus);
+  Toolbar_->widgetForAction(save_action_)->setObjectName(QStringLiteral("Toolbar_1"));
 }
 
 void DiaryWindow::BuildStatusBar() {
@@ -106,6 +103,8 @@ void DiaryWindow::Set_Taal() {
   const TextTables& texts = program_.texts;
   setWindowTitle(ToQt(texts[dt::kTitle]));
   txt_notities_->setAccessibleName(ToQt(texts[dt::kTitle]));
+  Toolbar_->SetNames(ToQt(texts[dt::kTitle]), ToQt(OwnTextOf(texts, OwnText::more_buttons)));
+  StatusBar_->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   SetActionTexts(save_action_, texts[dt::kTipSave], {});
   ShowStatus();
 }

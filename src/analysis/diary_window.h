@@ -7,11 +7,11 @@
 #include <QAction>
 #include <QLabel>
 #include <QStatusBar>
-#include <QToolBar>
 #include <QWidget>
 
 #include "core/program.h"
 #include "platform/qt/text_area.h"
+#include "platform/qt/tool_bar.h"
 
 namespace kelvora {
 
@@ -44,7 +44,7 @@ class DiaryWindow : public QWidget, public DiaryView {
 
   Program& program_;
   OpenFlag<DiaryView> open_flag_;
-  QToolBar* Toolbar_;
+  ToolBar* Toolbar_;
   QAction* save_action_;
   TextArea* txt_notities_;
   QStatusBar* StatusBar_;

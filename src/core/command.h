@@ -4,7 +4,7 @@
 
 namespace kelvora {
 
-// Named after the menu items; the last ones have a toolbar button only.
+// Named after the menu items; the two that drop down a menu have a toolbar button only.
 enum class Command {
   none,
   mnu_startupwizzard,
@@ -38,6 +38,10 @@ enum class Command {
   mnu_about,
   mnu_website,
   mnu_check_updates,
+  mnu_lijst_standaard,
+  mnu_lijst_eigen,
+  mnu_lijst_favo,
+  mnu_lijst_internet,
   print_drop_down,
   consumptions_drop_down,
   quick_default,

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "core/command.h"
@@ -68,12 +69,21 @@ struct ComparisonView : WindowView {
   virtual void TakeFood(CompareBox box, std::string_view payload) = 0;
 };
 
+// The lists of the food lists window, in the order of their buttons, and the keys that choose them.
+enum class FoodView { standard, own, favourites, internet };
+inline constexpr std::array kFoodViews = {FoodView::standard, FoodView::own, FoodView::favourites,
+                                          FoodView::internet};
+inline constexpr std::array<std::string_view, kFoodViews.size()> kFoodViewKeys = {"Alt+1", "Alt+2",
+                                                                                  "Alt+3", "Alt+4"};
+
 struct FoodListsView : WindowView {
   // Shows the standard list from its first category on.
   virtual void Toon_Standaardlijst() = 0;
   virtual void Populate_Food_List_Custom() = 0;
   virtual void Populate_Food_List_Favo() = 0;
   virtual void Populate_Food_List_Internet() {}
+  // Shows one of the lists and gives it the focus, before all other windows.
+  virtual void ChooseView(FoodView) {}
   // What the menu of the main window asks for; each acts on the list that shows.
   virtual void CORE_show_info_mnu() {}
   virtual void CORE_Add_To_Favo() {}

@@ -6,12 +6,13 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "core/program.h"
 #include "food/combining.h"
 #include "language/consumption_texts.h"
+#include "language/main_texts.h"
+#include "language/own_texts.h"
 #include "nutrition/totals.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
@@ -30,12 +31,10 @@ constexpr int kLowRowMargin = 2;      // of a row's letters, while both panels t
 constexpr int kLeastListHeight = 38;  // the headings and one row
 constexpr int kPanelMargin = 2;       // above and below the letters of the status bar
 
-QAction* NewToolAction(QToolBar* bar, const char* name, const char* icon) {
+QAction* NewToolAction(ToolBar* bar, const char* name, const char* icon) {
   QAction* const action = bar->addAction(IconNamed(icon), QString());
   action->setObjectName(QLatin1String(name) + QLatin1String("_action"));
-  auto* const button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
-  button->setObjectName(QLatin1String(name));
-  button->setFocusPolicy(Qt::TabFocus);
+  bar->widgetForAction(action)->setObjectName(QLatin1String(name));
   return action;
 }
 
@@ -89,19 +88,17 @@ void ConsumptionWindow::BuildList() {
 }
 
 void ConsumptionWindow::BuildToolbars() {
-  Toolbar_ = new QToolBar(this);
-  NameWidget(Toolbar_, "Toolbar");
+  Toolbar_ = new ToolBar(this, "Toolbar");
   totals_action_ = NewToolAction(Toolbar_, "Toolbar_1", "totals");
   totals_action_->setCheckable(true);
   combine_action_ = NewToolAction(Toolbar_, "Toolbar_2", "combine");
   combine_action_->setCheckable(true);
-  Toolbar_control_ = new QToolBar(this);
-  NameWidget(Toolbar_control_, "Toolbar_control");
+  Toolbar_control_ = new ToolBar(this, "Toolbar_control");
   plus_action_ = NewToolAction(Toolbar_control_, "Toolbar_control_1", "plus");
   minus_action_ = NewToolAction(Toolbar_control_, "Toolbar_control_2", "minus");
   Toolbar_control_->addSeparator();
   remove_action_ = NewToolAction(Toolbar_control_, "Toolbar_control_4", "remove");
-  for (QToolBar* bar : {Toolbar_, Toolbar_control_}) {
+  for (ToolBar* bar : {Toolbar_, Toolbar_control_}) {
     bar->setIconSize({kToolIconSize, kToolIconSize});
     bar->setFixedHeight(kBarHeight);
     bar->layout()->setContentsMargins(4, 0, 4, 0);
@@ -186,6 +183,10 @@ void ConsumptionWindow::Set_Taal() {
         std::pair{remove_action_, ct::kTipRemove}}) {
     SetActionTexts(action, text(tip), {});
   }
+  const auto own = [this](OwnText id) { return ToQt(OwnTextOf(program_.texts, id)); };
+  Toolbar_->SetNames(own(OwnText::toolbar_of_panels), own(OwnText::more_buttons));
+  Toolbar_control_->SetNames(own(OwnText::toolbar_of_row), own(OwnText::more_buttons));
+  StatusBar_->setAccessibleName(ToQt(program_.texts[main_text::kStatusBarName]));
   row_menu_->SetTexts(text(ct::kTitle));
   Info_bar_->SetCaptions(program_.texts, table);
   Pic_SP_->SetCaptions(program_.texts, table);
@@ -243,6 +244,7 @@ void ConsumptionWindow::SelectLastRow() {
 
 void ConsumptionWindow::ShowTotals(const ConsumptionTotals& totals) {
   Info_bar_->Show(totals);
+  // A screen reader hears of it: a label without a name of its own tells of other words.
   panels_[1]->setText(ToQt(totals.status));
   LayStatusBar();
 }

@@ -21,7 +21,6 @@
 #include <QAction>
 #include <QLabel>
 #include <QStatusBar>
-#include <QToolBar>
 #include <QWidget>
 
 #include "core/views.h"
@@ -30,6 +29,7 @@
 #include "food/food_table_panel.h"
 #include "food/row_menu_panel.h"
 #include "food/totals_panel.h"
+#include "platform/qt/tool_bar.h"
 
 namespace kelvora {
 
@@ -76,8 +76,8 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   std::shared_ptr<const std::vector<ConsumptionRow>> rows_;  // what the list shows
   bool rebuilding_ = false;  // the current row changes, but nobody chose another one
   FoodTable* LV_consumpties_;
-  QToolBar* Toolbar_;
-  QToolBar* Toolbar_control_;
+  ToolBar* Toolbar_;
+  ToolBar* Toolbar_control_;
   QAction* totals_action_;
   QAction* combine_action_;
   QAction* plus_action_;

@@ -16,10 +16,6 @@
 
 namespace kelvora {
 
-enum class FoodView { standard, own, favourites, internet };
-inline constexpr std::array kFoodViews = {FoodView::standard, FoodView::own, FoodView::favourites,
-                                          FoodView::internet};
-
 inline constexpr std::size_t kFoodColumns = 5;
 
 class FoodLists {

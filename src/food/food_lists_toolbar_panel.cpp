@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "language/lists_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -31,12 +32,10 @@ constexpr auto kWithCaptions = Qt::ToolButtonTextUnderIcon;
 
 }  // namespace
 
-FoodListsToolbar::FoodListsToolbar(QWidget* parent) : QToolBar(parent) {
-  NameWidget(this, "Toolbar");
+FoodListsToolbar::FoodListsToolbar(QWidget* parent) : ToolBar(parent, "Toolbar") {
   setToolButtonStyle(kWithCaptions);
   setIconSize({kIconSize, kIconSize});
   UseSmallLetters(this);  // all buttons fit the window's default width in both languages
-  setContextMenuPolicy(Qt::PreventContextMenu);
   auto* const group = new QActionGroup(this);
   for (const FoodView view : kFoodViews) {
     const auto place = static_cast<std::size_t>(view);
@@ -91,17 +90,18 @@ void FoodListsToolbar::Set_Taal(const TextTables& texts) {
     // The captions carry blanks at their end, which would push them off the middle of a button.
     buttons_[i]->setText(ToQt(texts[kButtons[i].caption]).trimmed());
     buttons_[i]->setToolTip(ToQt(texts[kButtons[i].tip]));
+    AddKeysToTip(buttons_[i], kFoodViewKeys[i]);
   }
   SetActionTexts(add_, texts[kMenuAdd], {});
   SetActionTexts(copy_, texts[kMenuCopy], {});
   SetActionTexts(dutch_, texts[kMenuUseDutch], {});
   SetActionTexts(english_, texts[kMenuUseEnglish], {});
-  setAccessibleName(ToQt(texts[kTitle]));
+  SetNames(ToQt(texts[kTitle]), ToQt(OwnTextOf(texts, OwnText::more_buttons)));
   if (isVisible()) FitCaptions(*this, kWithCaptions);
 }
 
 void FoodListsToolbar::resizeEvent(QResizeEvent* event) {
-  QToolBar::resizeEvent(event);
+  ToolBar::resizeEvent(event);
   FitCaptions(*this, kWithCaptions);
 }
 

@@ -5,15 +5,15 @@
 #include <array>
 
 #include <QAction>
-#include <QToolBar>
 
 #include "food/food_lists.h"
+#include "platform/qt/tool_bar.h"
 
 class QMenu;
 
 namespace kelvora {
 
-class FoodListsToolbar : public QToolBar {
+class FoodListsToolbar : public ToolBar {
   Q_OBJECT
 
  public:

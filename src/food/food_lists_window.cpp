@@ -8,6 +8,7 @@
 #include "food/food_list_commands.h"
 #include "food/food_rows_panel.h"
 #include "language/lists_texts.h"
+#include "language/main_texts.h"
 #include "language/own_texts.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
@@ -55,6 +56,7 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
   BuildFoodButtons();
   BuildStatusBar();
   LayOut();
+  setFocusPolicy(Qt::ClickFocus);
   Set_Taal();
   Toolbar_->ShowInternet(UsesInternet());
   ShowView(FoodView::standard);
@@ -218,6 +220,7 @@ void FoodListsWindow::Set_Taal() {
   Pic_opties_->setText(ToQt(texts[kOptionsPanel]));
   SetDayPartTexts(day_part_actions_, texts);
   ProgressBar_->setAccessibleName(ToQt(texts[kProgress]));
+  StatusBar_->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   for (const FoodView view : kFoodViews) {
     TableOf(view).setAccessibleName(ToQt(texts[RowOf(view).status]));
     TableOf(view).setToolTip(ToQt(texts[RowOf(view).drop_tip]));
@@ -239,8 +242,20 @@ void FoodListsWindow::ShowView(FoodView view) {
   Pic_internet_->setVisible(view == FoodView::internet);
   Pic_toevoegen_->setVisible(view == FoodView::own || view == FoodView::internet);
   results_shown_ = nothing_found_ = false;
+  setFocusProxy(&KeyTaker());
   ShowStatus();
   SetColumnWidths(view);
+}
+
+void FoodListsWindow::ChooseView(FoodView view) {
+  ShowView(view);
+  (focusProxy()->isEnabled() ? focusProxy() : &TableOf(view))->setFocus(Qt::ShortcutFocusReason);
+}
+
+QWidget& FoodListsWindow::KeyTaker() {
+  if (View() == FoodView::standard) return Pic_zoek_->Search();
+  if (View() == FoodView::internet) return Pic_internet_->Term();
+  return TableOf(View());
 }
 
 void FoodListsWindow::ShowStatus() {

@@ -47,6 +47,7 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   void CORE_Add_To_Favo() override;
   void CORE_New_Item() override;
   void CORE_Del_Item() override;
+  void ChooseView(FoodView view) override;
   void AddSelectedToDay(DayPart part) override;
   void CompareSelected(CompareBox box) override;
 
@@ -75,6 +76,8 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   void BuildStatusBar();
   void LayOut();
   void ShowView(FoodView view);
+  // Where keys go that come to the window: to the box of a view that searches, or to its list.
+  [[nodiscard]] QWidget& KeyTaker();
   void Populate(FoodView view, Scroll scroll);
   void Sort(FoodView view, std::size_t column);
   // Shows the rows of a view after a change of their order or their cells.

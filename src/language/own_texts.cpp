@@ -176,6 +176,9 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::day_settings_changed, "profile of the day changed"_w,
                "profiel van de dag gewijzigd"_w},
     OwnTextRow{OwnText::language_code, "en"_w, "nl"_w},
+    OwnTextRow{OwnText::toolbar_of_panels, "Panels below the list"_w, "Panelen onder de lijst"_w},
+    OwnTextRow{OwnText::toolbar_of_row, "Selected food item"_w, "Gekozen voedingsmiddel"_w},
+    OwnTextRow{OwnText::more_buttons, "More buttons"_w, "Meer knoppen"_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -122,6 +122,11 @@ enum class OwnText {
   day_settings_changed,
   // The code of the language, "en", by which the toolkit's own translations are found.
   language_code,
+  // What assistive tools call the two toolbars of a consumption window, and the button behind which
+  // those of a toolbar wait that find no room.
+  toolbar_of_panels,
+  toolbar_of_row,
+  more_buttons,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -139,6 +144,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 88;
+inline constexpr int kOwnTextCount = 91;
 
 }  // namespace kelvora

@@ -96,10 +96,10 @@ TEST_F(ControlsOfADay, OfTheFoodLists) {
   ExpectControls(Child("KV_tb_lijsten"), R"(
 KV_tb_lijsten | Food items |
 Toolbar | Food items |
-Toolbar_1 | Standard list | Search the food items of all categories
-Toolbar_2 | My own list | Food items that you made yourself
-Toolbar_3 | Favourites list | Food items that you use often
-Toolbar_4 | Internet list | Search for food items on the food server
+Toolbar_1 | Standard list | Search the food items of all categories (Alt+1)
+Toolbar_2 | My own list | Food items that you made yourself (Alt+2)
+Toolbar_3 | Favourites list | Food items that you use often (Alt+3)
+Toolbar_4 | Internet list | Search for food items on the food server (Alt+4)
 Pic_zoek |  |
 combo_cat | Select a food item category: | Show the food items of one category
 txt_zoeken | Search food item (enter a food item and press ENTER): | Press ENTER to search in the remarks as well
@@ -112,7 +112,7 @@ LV_browse_favo | Favourites list | Drop a consumption here to add it to the favo
 LV_browse_internet | Internet | Drop a consumption here to remove it from the day
 Pic_toevoegen | Add a new food item |
 Pic_opties | Food item options |
-StatusBar |  |
+StatusBar | Status bar |
 ProgressBar | Filling the list |
 )");
 }
@@ -120,10 +120,10 @@ ProgressBar | Filling the list |
 TEST_F(ControlsOfADay, OfTheConsumptions) {
   ExpectControls(Child("KV_tb_vmiddag"), R"(
 KV_tb_vmiddag | Afternoon consumptions Friday 05-03-04 |
-Toolbar |  |
+Toolbar | Panels below the list |
 Toolbar_1 | Nutrition count | Nutrition count
 Toolbar_2 | Make 1 food item of the food items below | Make 1 food item of the food items below
-Toolbar_control |  |
+Toolbar_control | Selected food item |
 Toolbar_control_1 | Selected food item +1 | Selected food item +1
 Toolbar_control_2 | Selected food item -1 | Selected food item -1
 Toolbar_control_4 | Remove selected food item | Remove selected food item
@@ -133,7 +133,7 @@ Pic_SP | Make 1 food item of the food items below |
 txt_nfo_8 | Name |
 txt_nfo_7 | Unit |
 cmd_opslaan | Save |
-StatusBar |  |
+StatusBar | Status bar |
 )");
 }
 
@@ -231,7 +231,7 @@ lbl_piecolor_4 | 3: 600 Kj , 11% |
 lbl_piecolor_5 | Remaining consumptions: 10% |
 Pic_uittreksel |  |
 LV_uittreksel | Consumptions of all days |
-StatusBar |  |
+StatusBar | Status bar |
 ProgressBar | Progress of the summary |
 )");
 }

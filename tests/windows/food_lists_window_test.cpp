@@ -253,7 +253,8 @@ TEST_F(FoodListsWindowTest, TipsNamesAndHeadingsComeInBothLanguages) {
   const auto heading = [&](int role) {
     return List(1)->Model().headerData(4, Qt::Horizontal, role).toString();
   };
-  EXPECT_EQ(In<QToolButton>("Toolbar_1")->toolTip(), "Search the food items of all categories");
+  EXPECT_EQ(In<QToolButton>("Toolbar_1")->toolTip(),
+            "Search the food items of all categories (Alt+1)");
   EXPECT_EQ(In<QLineEdit>("txt_zoeken")->toolTip(), "Press ENTER to search in the remarks as well");
   EXPECT_EQ(List(1)->toolTip(), "Drop a consumption here to remove it from the day");
   EXPECT_EQ(List(3)->toolTip(), "Drop a consumption here to add it to the favourites list");

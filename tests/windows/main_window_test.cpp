@@ -86,9 +86,9 @@ TEST_F(MainWindowOfTheProgram, QuickButtonsNeedADayButTheReset) {
 
 TEST_F(MainWindowOfTheProgram, QuickButtonsHaveTheirTexts) {
   EXPECT_EQ(QuickButton(2)->text(), "Default input screens");
-  EXPECT_EQ(QuickButton(2)->toolTip(), "Show all default screens");
+  EXPECT_EQ(QuickButton(2)->toolTip(), "Show all default screens (Alt+7)");
   EXPECT_EQ(QuickButton(3)->text(), "Open all input screens");
-  EXPECT_EQ(QuickButton(3)->toolTip(), "Show default screens and small summary");
+  EXPECT_EQ(QuickButton(3)->toolTip(), "Show default screens and small summary (Alt+8)");
   EXPECT_EQ(QuickButton(5)->text(), "Default screen values");
 }
 

@@ -1,5 +1,6 @@
 // The main window with its child windows, as a user meets them: through names, clicks and drops.
 #include <gtest/gtest.h>
+#include <map>
 
 #include <QComboBox>
 #include <QDropEvent>
@@ -99,15 +100,21 @@ TEST_F(ProgramWindows, EveryMenuItemAndButtonIsThereUnderItsName) {
       EXPECT_EQ(FromQt(QString(menu->title()).remove('&')), test.program.texts[row.caption]);
     } else if (row.kind == MenuKind::item) {
       auto* const action = qobject_cast<QAction*>(found);
-      EXPECT_EQ(FromQt(action->text()), test.program.texts[row.caption]);
+      // The lists bear the captions of their buttons, which end in blanks.
+      const Text& caption = test.program.texts[row.caption];
+      const bool of_list = row.name.starts_with("mnu_lijst_");
+      EXPECT_EQ(FromQt(action->text()), of_list ? Text(Trimmed(caption)) : caption);
       EXPECT_FALSE(action->icon().isNull()) << row.name;
     }
   }
+  const std::map<int, Text> kKeys = {
+      {2, " (Ctrl+N)"}, {3, " (Ctrl+O)"}, {4, " (Ctrl+S)"}, {22, " (F1)"}};
   for (const ButtonRow& row : MenuToolbar()) {
     auto* const button =
         window.findChild<QToolButton*>(QStringLiteral("menu_toolbar_%1").arg(row.index));
     ASSERT_NE(button, nullptr) << row.index;
-    EXPECT_EQ(FromQt(button->toolTip()), row.tip ? test.program.texts[*row.tip] : Text());
+    const Text keys = kKeys.contains(row.index) ? kKeys.at(row.index) : Text();
+    EXPECT_EQ(FromQt(button->toolTip()), test.program.texts[*row.tip] + keys);
     EXPECT_EQ(FromQt(button->text()), test.program.texts[row.caption]);
   }
 }
@@ -117,7 +124,7 @@ TEST_F(ProgramWindows, WithoutLargeTextsTheButtonsAreIconsOnly) {
   test.program.settings[Setting::chk_help] = "0";
   window.Set_toolbar_teksten();
   EXPECT_EQ(Find<QToolBar>("menu_toolbar")->toolButtonStyle(), Qt::ToolButtonIconOnly);
-  EXPECT_EQ(Find<QToolButton>("menu_toolbar_2")->toolTip(), "Start new file or user");
+  EXPECT_EQ(Find<QToolButton>("menu_toolbar_2")->toolTip(), "Start new file or user (Ctrl+N)");
   EXPECT_EQ(Find<QToolButton>("menu_toolbar_2")->text(), "");
   EXPECT_EQ(Find<QToolButton>("menu_toolbar_2")->accessibleName(), "New");
   EXPECT_EQ(Find<QToolButton>("Toolbar_quickscreens_2")->text(), "Default input screens");

@@ -58,6 +58,8 @@ TextTables NumberedTexts(std::string_view brackets) {
 // What of a text does not come from the tables; the data of these tests is numbers only.
 QString Foreign(QString text, const char* token) {
   text.remove(QLatin1Char('&'));  // the keyboard letter of a menu
+  // The keys behind a tip are worded by the toolkit.
+  text.remove(QRegularExpression(QStringLiteral(" \\(((Ctrl|Alt)\\+)?[A-Z]?\\d*\\)$")));
   text.remove(QRegularExpression(QLatin1String(token)));
   text.remove(QRegularExpression(QStringLiteral("[0-9\\s&:;.,/()'+=-]")));
   return text;

@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QLayout>
@@ -47,15 +48,16 @@ void ChildArea::paintEvent(QPaintEvent* event) {
   painter.drawPixmap(area.center() - QPoint(kMarkSize / 2, kMarkSize / 2), mark_);
 }
 
-ChildFrame::ChildFrame(QWidget* content, WindowRecord& record) : record_(record) {
+ChildFrame::ChildFrame(QWidget* content, WindowRecord* record, int place)
+    : record_(record), place_(place) {
   setWidget(content);
   setAttribute(Qt::WA_DeleteOnClose);
   setObjectName(content->objectName() + QStringLiteral("_frame"));
 }
 
 void ChildFrame::MoveToRecord() {
-  setGeometry(PixelsOfTwips(record_.left), PixelsOfTwips(record_.top), PixelsOfTwips(record_.width),
-              PixelsOfTwips(record_.height));
+  setGeometry(PixelsOfTwips(record_->left), PixelsOfTwips(record_->top),
+              PixelsOfTwips(record_->width), PixelsOfTwips(record_->height));
 }
 
 bool ChildFrame::event(QEvent* event) {
@@ -90,11 +92,11 @@ void ChildFrame::HoldContent() {
 
 void ChildFrame::closeEvent(QCloseEvent* event) {
   const QRect place = isMinimized() || isMaximized() ? normalGeometry() : geometry();
-  if (place.isValid()) {
-    TakePixels(place.width(), record_.width);
-    TakePixels(place.height(), record_.height);
-    TakePixels(place.x(), record_.left);
-    TakePixels(place.y(), record_.top);
+  if (record_ != nullptr && place.isValid()) {
+    TakePixels(place.width(), record_->width);
+    TakePixels(place.height(), record_->height);
+    TakePixels(place.x(), record_->left);
+    TakePixels(place.y(), record_->top);
   }
   QMdiSubWindow::closeEvent(event);
 }
@@ -110,6 +112,63 @@ void WordFrameMenu(QMdiSubWindow& frame) {
     actions[static_cast<qsizetype>(i)]->setText(
         QCoreApplication::translate("QMdiSubWindow", kEntries[i]));
   }
+}
+
+void ChildFrame::TakeFocus() {
+  mdiArea()->setActiveSubWindow(this);
+  const bool has_favourite = !isMinimized() && widget()->focusProxy() != nullptr;
+  (has_favourite ? widget() : this)->setFocus(Qt::ShortcutFocusReason);
+}
+
+void ChildFrame::TakeFocusByTab(bool next) {
+  mdiArea()->setActiveSubWindow(this);
+  std::vector<QWidget*> chain = Chain();
+  if (!next) std::ranges::reverse(chain);
+  const auto reason = next ? Qt::TabFocusReason : Qt::BacktabFocusReason;
+  // With the reason of the Tab key the frame would hand the focus on.
+  if (!FocusNextStop(chain, reason)) setFocus(Qt::OtherFocusReason);
+}
+
+// By itself the toolkit goes round within the frame for ever.
+bool ChildFrame::focusNextPrevChild(bool next) {
+  // As it closes there is nowhere to go.
+  if (!isVisible() || widget() == nullptr) return QMdiSubWindow::focusNextPrevChild(next);
+  std::vector<QWidget*> chain = Chain();
+  if (!next) std::ranges::reverse(chain);
+  const auto here = std::ranges::find(chain, QApplication::focusWidget());
+  // In none of its controls the focus stands before the first.
+  const bool at_frame = here == chain.end();
+  if (at_frame && !next) chain.clear();
+  if (!at_frame) chain.erase(chain.begin(), here + 1);
+  if (!FocusNextStop(chain, next ? Qt::TabFocusReason : Qt::BacktabFocusReason)) {
+    emit TabbedOut(next);
+  }
+  return true;
+}
+
+std::vector<QWidget*> ChildFrame::Chain() const {
+  std::vector<QWidget*> chain;
+  QWidget* const content = widget();
+  QWidget* one = content;
+  do {
+    if (content == one || content->isAncestorOf(one)) chain.push_back(one);
+    one = one->nextInFocusChain();
+  } while (one != content);
+  return chain;
+}
+
+bool ChildFrame::FocusNextStop(const std::vector<QWidget*>& chain, Qt::FocusReason reason) {
+  const auto stop =
+      std::ranges::find_if(chain, [this](const QWidget* widget) { return IsStop(*widget); });
+  if (stop == chain.end()) return false;
+  (*stop)->setFocus(reason);
+  return true;
+}
+
+// What hands the focus on to another widget is none: that one is.
+bool ChildFrame::IsStop(const QWidget& widget) const {
+  return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr &&
+         widget.isEnabled() && widget.isVisibleTo(this);
 }
 
 }  // namespace kelvora

@@ -1,7 +1,10 @@
 // The menu and the toolbars of the main window, row by row.
+#include <algorithm>
 #include <array>
 
 #include "core/frame/commands.h"
+#include "core/views.h"
+#include "language/lists_texts.h"
 #include "language/main_texts.h"
 
 namespace kelvora {
@@ -70,6 +73,15 @@ constexpr std::array kMenu = {
     MenuRow{menu, "mnu_tabellen", kTables},
     MenuRow{item, "mnu_voedingswaarde_tabel", kFoodItems, Command::mnu_voedingswaarde_tabel,
             "foods", "", kTipFoods},
+    MenuRow{separator, "mnu_bar_50"},
+    MenuRow{item, "mnu_lijst_standaard", lists_text::kButtonStandard, Command::mnu_lijst_standaard,
+            "list-standard", kFoodViewKeys[0], lists_text::kTipStandard},
+    MenuRow{item, "mnu_lijst_eigen", lists_text::kButtonOwn, Command::mnu_lijst_eigen, "list-own",
+            kFoodViewKeys[1], lists_text::kTipOwn},
+    MenuRow{item, "mnu_lijst_favo", lists_text::kButtonFavourites, Command::mnu_lijst_favo,
+            "list-favourites", kFoodViewKeys[2], lists_text::kTipFavourites},
+    MenuRow{item, "mnu_lijst_internet", lists_text::kButtonInternet, Command::mnu_lijst_internet,
+            "list-internet", kFoodViewKeys[3], lists_text::kTipInternet},
     kEnd,
 
     MenuRow{menu, "mnu_extra", kExtra},
@@ -82,6 +94,12 @@ constexpr std::array kMenu = {
             "repair-language", "", kTipRepairLanguageFiles},
     MenuRow{separator, "mnu_bar_61"},
     MenuRow{item, "mnu_diagnose", kDiagnose, Command::mnu_diagnose, "diagnose", "", kTipDiagnose},
+    MenuRow{separator, "mnu_bar_62"},
+    MenuRow{item, "mnu_quick_default", kQuickDefault, Command::quick_default, "screens-default",
+            "Alt+7", kTipQuickDefault},
+    MenuRow{item, "mnu_quick_all", kQuickAll, Command::quick_all, "screens-all", "Alt+8",
+            kTipQuickAll},
+    MenuRow{item, "mnu_quick_reset", kQuickReset, Command::quick_reset, "screens-reset", "Alt+9"},
     kEnd,
 
     MenuRow{menu, "mnu_informatie", kInformation},
@@ -140,6 +158,11 @@ std::span<const ButtonRow> MenuToolbar() {
 }
 std::span<const ButtonRow> QuickToolbar() {
   return kQuickToolbar;
+}
+
+std::string_view KeysOf(Command command) {
+  const auto row = std::ranges::find(kMenu, command, &MenuRow::command);
+  return command == Command::none || row == kMenu.end() ? std::string_view() : row->shortcut;
 }
 
 std::span<const DropDownRow> RowsOfDropDown(Command drop_down) {

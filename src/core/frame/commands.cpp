@@ -20,7 +20,7 @@ namespace {
 using namespace main_text;
 
 // What a command needs. None can be given that needs a command.
-enum class Needs { command, nothing, user, day, changed_day, day_or_unwritten };
+enum class Needs { command, nothing, user, user_on_internet, day, changed_day, day_or_unwritten };
 
 struct CommandRow {
   Command command;
@@ -62,6 +62,10 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_about, Needs::nothing},
     CommandRow{Command::mnu_website, Needs::nothing},
     CommandRow{Command::mnu_check_updates, Needs::nothing},
+    CommandRow{Command::mnu_lijst_standaard, Needs::user},
+    CommandRow{Command::mnu_lijst_eigen, Needs::user},
+    CommandRow{Command::mnu_lijst_favo, Needs::user},
+    CommandRow{Command::mnu_lijst_internet, Needs::user_on_internet},
     CommandRow{Command::print_drop_down, Needs::day},
     CommandRow{Command::consumptions_drop_down, Needs::day},
     CommandRow{Command::quick_default, Needs::day},
@@ -102,6 +106,8 @@ bool Satisfied(const Program& program, Needs needs) {
       return true;
     case Needs::user:
       return !program.paths.UserName.empty();
+    case Needs::user_on_internet:
+      return !program.paths.UserName.empty() && program.settings[Setting::chk_internet] != "0";
     case Needs::day:
       return program.store.DayIsOpen();
     case Needs::changed_day:
@@ -133,6 +139,13 @@ bool FoodMenuAllows(const Program& program, Command command) {
 // Lets the food lists act on the row in focus; without that window there is none.
 void GiveToFoodLists(Program& program, void (FoodListsView::*operation)()) {
   if (program.windows.lists != nullptr) (program.windows.lists->*operation)();
+}
+
+// Opens the food lists for it where they are closed.
+void ChooseFoodList(Program& program, FoodView view) {
+  OpenWindows& windows = program.windows;
+  if (windows.lists == nullptr) windows.core->OpenWindow(WindowId::lists);
+  if (windows.lists != nullptr) windows.lists->ChooseView(view);
 }
 
 // The dialog in its mode for the open day; a day file with an empty header has nothing to change.
@@ -173,6 +186,8 @@ bool MenuEnabled(const Program& program, std::string_view name) {
 }
 
 Text CaptionOf(const Program& program, const MenuRow& row) {
+  // As a button has it, with blanks at its end.
+  if (row.caption.table == TextTable::taal_lists) return Text(Trimmed(program.texts[row.caption]));
   const bool english_service =
       row.command == Command::mnu_website_Etenlijn && program.settings[Setting::opt_server] == "1";
   return program.texts[english_service ? kServiceNameEnglish : row.caption];
@@ -242,6 +257,14 @@ void RunCommand(Program& program, Command command) {
       return OpenWebsite(program);
     case Command::mnu_check_updates:
       return program.windows.core->OpenUpdate(UpdateMode::shown);
+    case Command::mnu_lijst_standaard:
+      return ChooseFoodList(program, FoodView::standard);
+    case Command::mnu_lijst_eigen:
+      return ChooseFoodList(program, FoodView::own);
+    case Command::mnu_lijst_favo:
+      return ChooseFoodList(program, FoodView::favourites);
+    case Command::mnu_lijst_internet:
+      return ChooseFoodList(program, FoodView::internet);
     case Command::print_drop_down:
       return Tell(program, BoxIcon::information,
                   JoinLines(program.texts, {kSelectPrintOption, kSeveralOptions}));

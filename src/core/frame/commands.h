@@ -50,6 +50,9 @@ struct DropDownRow {
 [[nodiscard]] bool ButtonEnabled(const Program& program, Command command);
 [[nodiscard]] bool MenuEnabled(const Program& program, std::string_view name);
 
+// The keys that give a command, in portable form; empty without any.
+[[nodiscard]] std::string_view KeysOf(Command command);
+
 // What an item of the menu is called now: the entry of the food server bears the name of the
 // service that the settings choose.
 [[nodiscard]] Text CaptionOf(const Program& program, const MenuRow& row);

@@ -29,6 +29,7 @@ DataWindow::DataWindow(Program& program, QWidget* parent)
   NameWidget(lst_lines_, "lst_lines");
   lst_lines_->setModel(&model_);
   lst_lines_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  lst_lines_->setTabKeyNavigation(false);
   lst_lines_->horizontalHeader()->setStretchLastSection(true);
   lst_lines_->verticalHeader()->setDefaultSectionSize(RowHeight(*this));
   auto* const layout = new QHBoxLayout(this);

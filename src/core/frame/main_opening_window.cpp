@@ -1,4 +1,7 @@
 // Which window or dialog the main window makes for each of those that the program has.
+#include <algorithm>
+#include <array>
+
 #include "analysis/comparison_window.h"
 #include "analysis/day_summary_window.h"
 #include "analysis/diary_window.h"
@@ -17,6 +20,19 @@
 #include "platform/qt/look.h"
 
 namespace kelvora {
+namespace {
+
+// The order in which the keyboard goes round the child windows: that of their toolbar buttons.
+constexpr std::array kRound = {WindowId::lists,     WindowId::morning,   WindowId::afternoon,
+                               WindowId::evening,   WindowId::diary,     WindowId::day_summary,
+                               WindowId::multi_day, WindowId::comparison};
+constexpr int kUpdatePlace = kRound.size();
+
+int PlaceOf(WindowId id) {
+  return static_cast<int>(std::ranges::find(kRound, id) - kRound.begin());
+}
+
+}  // namespace
 
 void MainWindow::OpenWindow(WindowId id) {
   if (program_.ending || program_.windows.Find(id) != nullptr) return;
@@ -82,14 +98,12 @@ void MainWindow::ShowAbout() {
 void MainWindow::OpenUpdate(UpdateMode mode) {
   if (program_.ending) return;
   if (program_.windows.update == nullptr) {
-    auto* const content = new UpdateWindow(program_, mode, area_);
-    QMdiSubWindow* const frame =
-        area_->addSubWindow(content, Qt::SubWindow | Qt::WindowTitleHint |
-                                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    auto* const frame =
+        new ChildFrame(new UpdateWindow(program_, mode, area_), nullptr, kUpdatePlace);
+    AddFrame(
+        frame, "update",
+        Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     frame->hide();
-    frame->setAttribute(Qt::WA_DeleteOnClose);
-    frame->setObjectName(content->objectName() + QStringLiteral("_frame"));
-    frame->setWindowIcon(IconNamed("update"));
     frame->adjustSize();
     frame->move(area_->rect().center() - frame->rect().center());
   }
@@ -103,12 +117,17 @@ void MainWindow::OpenConsumption(DayPart part, const char* icon) {
              PixelsCovering(small ? kSmallConsumptionHeight : kConsumptionMinimumHeight)});
 }
 
+void MainWindow::AddFrame(ChildFrame* frame, const char* icon, Qt::WindowFlags flags) {
+  frame->setWindowIcon(IconNamed(icon));
+  connect(frame, &ChildFrame::TabbedOut, this, [this](bool next) { focusNextPrevChild(next); });
+  area_->addSubWindow(frame, flags);
+}
+
 void MainWindow::OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum) {
   WindowRecord& record = *program_.windows.RecordOf(id);
   record = Fitted(record, Size());
-  auto* const frame = new ChildFrame(content, record);
-  frame->setWindowIcon(IconNamed(icon));
-  area_->addSubWindow(frame);
+  auto* const frame = new ChildFrame(content, &record, PlaceOf(id));
+  AddFrame(frame, icon);
   if (!minimum.isNull()) frame->setMinimumSize(minimum);
   frame->MoveToRecord();
   frame->show();

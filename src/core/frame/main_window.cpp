@@ -14,6 +14,7 @@
 #include "core/frame/child_area_panel.h"
 #include "core/frame/data_window.h"
 #include "core/frame/ending.h"
+#include "core/frame/focus_status_panel.h"
 #include "core/small_geometry.h"
 #include "food/day_part_menu_panel.h"
 #include "language/main_texts.h"
@@ -62,6 +63,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   auto* const menu_key = new QShortcut(QKeySequence(Qt::Key_F10), this);
   connect(menu_key, &QShortcut::activated, this, &MainWindow::OpenFirstMenu);
   BuildStatusBar();
+  BuildFocusKeys();
   BuildDataButton();
   recovery_timer_ = new QTimer(this);
   recovery_timer_->setInterval(kRecoveryLookMilliseconds);
@@ -156,11 +158,9 @@ void MainWindow::PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) {
   mnu_opties_->popup({place.x, place.y});
 }
 
-QToolBar* MainWindow::BuildToolbar(const char* name, std::span<const ButtonRow> rows) {
-  auto* const bar = new QToolBar(this);
-  NameWidget(bar, name);
+ToolBar* MainWindow::BuildToolbar(const char* name, std::span<const ButtonRow> rows) {
+  auto* const bar = new ToolBar(this, name);
   bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
   int last_index = rows.front().index;
   for (const ButtonRow& row : rows) {
     if (row.index > last_index + 1) bar->addSeparator();
@@ -200,6 +200,7 @@ void MainWindow::AddDropDown(QToolButton* button, Command drop_down) {
 }
 
 void MainWindow::BuildStatusBar() {
+  setStatusBar(new FocusStatusBar(this));
   statusBar()->setObjectName(QStringLiteral("StatusBar"));
   statusBar()->setSizeGripEnabled(false);
   for (std::size_t i = 0; i < panels_.size(); ++i) {
@@ -255,8 +256,9 @@ void MainWindow::Set_Taal() {
   SetDayPartTexts(day_part_actions_, texts);
   SetActionTexts(compare_actions_[0], OwnTextOf(texts, OwnText::compare_as_food_1), {});
   SetActionTexts(compare_actions_[1], OwnTextOf(texts, OwnText::compare_as_food_2), {});
-  Toolbar_quickscreens_->setAccessibleName(ToQt(texts[main_text::kQuickToolbarName]));
-  menu_toolbar_->setAccessibleName(ToQt(texts[main_text::kToolbarName]));
+  const QString more = ToQt(OwnTextOf(texts, OwnText::more_buttons));
+  Toolbar_quickscreens_->SetNames(ToQt(texts[main_text::kQuickToolbarName]), more);
+  menu_toolbar_->SetNames(ToQt(texts[main_text::kToolbarName]), more);
   area_->setAccessibleName(ToQt(texts[main_text::kChildAreaName]));
   statusBar()->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   panels_[0]->setToolTip(ToQt(texts[main_text::kTipProgramPanel]));
@@ -297,11 +299,12 @@ void MainWindow::FitToolbar() {
                                                           : Qt::ToolButtonIconOnly);
 }
 
-// The caption of a button goes when large texts are off; its tool tip and its name for assistive
-// tools stay.
+// The caption of a button goes when large texts are off; its tool tip, with the keys of its
+// command, and its name for assistive tools stay.
 void MainWindow::SetButtonTexts(const ButtonAction& entry) {
   const Text& caption = program_.texts[entry.row->caption];
   SetActionTexts(entry.action, caption, TipOf(program_.texts, entry.row->tip));
+  AddKeysToTip(entry.action, KeysOf(entry.row->command));
   const bool large = program_.settings[Setting::chk_help] == "1";
   if (!large && entry.button->parentWidget() == menu_toolbar_) entry.action->setText({});
   entry.button->setAccessibleName(ToQt(caption));
@@ -319,6 +322,9 @@ void MainWindow::BringToFront() {
 void MainWindow::UpdateStatusBar() {
   panels_[0]->setText(ToQt(ProgramPanelText()));
   panels_[1]->setText(ToQt(UserPanelText(program_)));
+  // What is read when the keyboard comes to the bar.
+  statusBar()->setAccessibleDescription(panels_[0]->text() + QStringLiteral(", ") +
+                                        panels_[1]->text());
 }
 
 void MainWindow::UpdateCommands() {

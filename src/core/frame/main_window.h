@@ -9,16 +9,16 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
-#include <QToolBar>
 
 #include "core/frame/commands.h"
 #include "core/views.h"
+#include "platform/qt/tool_bar.h"
 
-class QMdiSubWindow;
 class QTimer;
-class QToolButton;
 
 namespace kelvora {
+
+class ChildFrame;
 
 class MainWindow : public QMainWindow, public CoreView {
   Q_OBJECT
@@ -51,6 +51,7 @@ class MainWindow : public QMainWindow, public CoreView {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   // The pictures of a command: its item in the menu, its button, its entry in a drop-down menu.
@@ -77,17 +78,25 @@ class MainWindow : public QMainWindow, public CoreView {
   void SetItemTexts(const ItemAction& entry);
   void SetMenuTitles();
   void OpenFirstMenu();
-  QToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
+  ToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
   void AddDropDown(QToolButton* button, Command drop_down);
   void BuildFoodMenu();
   void ShowRowItems();
   void BuildStatusBar();
   void LayStatusBar();
   void BuildDataButton();
+  // main_focus_window.cpp: where the keyboard goes in the frame.
+  void BuildFocusKeys();
+  void GoToPart(bool next, Qt::FocusReason reason);
+  bool EnterPart(int part, bool next, Qt::FocusReason reason);
+  [[nodiscard]] int PartInFocus() const;
+  [[nodiscard]] std::vector<ChildFrame*> FramesInOrder() const;
+  void GoToWindow(bool next);
   void SetButtonTexts(const ButtonAction& entry);
   void FitToolbar();
   void OpenConsumption(DayPart part, const char* icon);
   void OpenChild(WindowId id, QWidget* content, const char* icon, QSize minimum = {0, 0});
+  void AddFrame(ChildFrame* frame, const char* icon, Qt::WindowFlags flags = {});
 
   Program& program_;
   QMdiArea* area_;
@@ -100,9 +109,9 @@ class MainWindow : public QMainWindow, public CoreView {
   std::vector<ButtonAction> button_actions_;
   std::vector<DropDownAction> drop_down_actions_;
   QTimer* recovery_timer_ = nullptr;  // runs while a day is open
-  QToolBar* menu_toolbar_;
+  ToolBar* menu_toolbar_;
   int captions_width_ = 0;  // what it needs to show all its captions
-  QToolBar* Toolbar_quickscreens_;
+  ToolBar* Toolbar_quickscreens_;
   std::array<QLabel*, 4> panels_;
 };
 

@@ -43,6 +43,11 @@ TEST(CommandTables, TheMenuHasItsItemsAndSeparatorsInOrder) {
                                                   "mnu_uit_meerdaagsuittreksel",
                                                   "mnu_tabellen",
                                                   "mnu_voedingswaarde_tabel",
+                                                  "mnu_bar_50",
+                                                  "mnu_lijst_standaard",
+                                                  "mnu_lijst_eigen",
+                                                  "mnu_lijst_favo",
+                                                  "mnu_lijst_internet",
                                                   "mnu_extra",
                                                   "mnu_weegschaal",
                                                   "mnu_website_Etenlijn",
@@ -50,6 +55,10 @@ TEST(CommandTables, TheMenuHasItsItemsAndSeparatorsInOrder) {
                                                   "mnu_reset_taal",
                                                   "mnu_bar_61",
                                                   "mnu_diagnose",
+                                                  "mnu_bar_62",
+                                                  "mnu_quick_default",
+                                                  "mnu_quick_all",
+                                                  "mnu_quick_reset",
                                                   "mnu_informatie",
                                                   "mnu_help_index",
                                                   "mnu_about",
@@ -70,6 +79,28 @@ TEST(CommandTables, TheToolbarsHaveTheirButtonsByIndex) {
   indexes.clear();
   for (const ButtonRow& row : QuickToolbar()) indexes.push_back(row.index);
   EXPECT_EQ(indexes, (std::vector<int>{2, 3, 5}));
+}
+
+TEST(CommandTables, TheKeysOfACommandAreThoseOfItsMenuItem) {
+  EXPECT_EQ(KeysOf(Command::mnu_new), "Ctrl+N");
+  EXPECT_EQ(KeysOf(Command::mnu_lijst_eigen), "Alt+2");
+  EXPECT_EQ(KeysOf(Command::quick_default), "Alt+7");
+  EXPECT_EQ(KeysOf(Command::quick_all), "Alt+8");
+  EXPECT_EQ(KeysOf(Command::quick_reset), "Alt+9");
+  EXPECT_EQ(KeysOf(Command::mnu_about), "");
+  EXPECT_EQ(KeysOf(Command::print_drop_down), "");
+  EXPECT_EQ(KeysOf(Command::none), "");
+}
+
+// The captions of the buttons end in blanks.
+TEST(CommandTables, TheItemsOfTheListsBearTheWordsOfTheirButtons) {
+  TestProgram test;
+  std::vector<Text> captions;
+  for (const MenuRow& row : MainMenu()) {
+    if (row.name.starts_with("mnu_lijst_")) captions.push_back(CaptionOf(test.program, row));
+  }
+  EXPECT_EQ(captions, (std::vector<Text>{"Standard list", "My own list", "Favourites list",
+                                         "Internet list"}));
 }
 
 TEST(CommandTables, DropDownMenusHaveTheirEntriesInOrder) {

@@ -81,6 +81,10 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_about, State::empty, State::empty},
     EnableRow{Command::mnu_website, State::empty, State::empty},
     EnableRow{Command::mnu_check_updates, State::empty, State::empty},
+    EnableRow{Command::mnu_lijst_standaard, State::user, State::user},
+    EnableRow{Command::mnu_lijst_eigen, State::user, State::user},
+    EnableRow{Command::mnu_lijst_favo, State::user, State::user},
+    EnableRow{Command::mnu_lijst_internet, State::user, State::user},
     EnableRow{Command::print_drop_down, State::day, State::day},
     EnableRow{Command::consumptions_drop_down, State::day, State::day},
     EnableRow{Command::quick_default, State::day, State::day},
@@ -126,6 +130,16 @@ TEST(Commands, TheOpenFoodMenuDecidesForItsItems) {
   EXPECT_TRUE(enabled(Command::mnu_item_favo));
 }
 
+TEST(Commands, TheInternetListIsForThoseWhoUseTheInternet) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  for (const char* internet : {"1", "0"}) {
+    test.program.settings[Setting::chk_internet] = internet;
+    EXPECT_EQ(CommandEnabled(test.program, Command::mnu_lijst_internet), *internet == '1');
+    EXPECT_TRUE(CommandEnabled(test.program, Command::mnu_lijst_favo));
+  }
+}
+
 struct NotedLists : FoodListsView {
   Text given;
   void CloseWindow() override {}
@@ -135,6 +149,9 @@ struct NotedLists : FoodListsView {
   void Populate_Food_List_Favo() override {}
   void CORE_Del_Item() override { given += "del "; }
   void CORE_Add_To_Favo() override { given += "favo "; }
+  void ChooseView(FoodView view) override {
+    given += "view " + std::to_string(static_cast<int>(view)) + " ";
+  }
 };
 
 TEST(Commands, TheItemsOfFoodsGoToTheOpenFoodLists) {
@@ -146,6 +163,25 @@ TEST(Commands, TheItemsOfFoodsGoToTheOpenFoodLists) {
   RunCommand(test.program, Command::mnu_item_del);
   RunCommand(test.program, Command::mnu_item_favo);
   EXPECT_EQ(lists.given, "del favo ");
+}
+
+TEST(Commands, TheItemsOfTheListsChooseThem) {
+  TestProgram test;
+  test.program.windows.core = &test.core;
+  test.program.settings[Setting::chk_internet] = "1";
+  test.OpenDay("Anna");
+  NotedLists lists;
+  test.program.windows.lists = &lists;
+  for (const Command command : {Command::mnu_lijst_internet, Command::mnu_lijst_standaard,
+                                Command::mnu_lijst_eigen, Command::mnu_lijst_favo}) {
+    RunCommand(test.program, command);
+  }
+  EXPECT_EQ(lists.given, "view 3 view 0 view 1 view 2 ");
+  EXPECT_TRUE(test.core.opened.empty());
+  // Closed, they are opened first.
+  test.program.windows.lists = nullptr;
+  RunCommand(test.program, Command::mnu_lijst_eigen);
+  EXPECT_EQ(test.core.opened, std::vector<WindowId>{WindowId::lists});
 }
 
 TEST(Commands, MenusNeedAUserOrADay) {
