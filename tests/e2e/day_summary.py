@@ -73,7 +73,7 @@ def main():
             expect_bars(desktop.picture(), foods[:count])
 
         desktop.click(SUMMARY_BUTTON)  # from the small size to the normal one
-        desktop.keys("Tab", "space")
+        desktop.keys("Right", "space")
         pie = desktop.picture()
         colours = Counter(pixel for line in pixels(pie, WINDOW) for pixel in line)
         shares = sorted((float(food["kcal"]) for food in foods[:6]), reverse=True)
@@ -88,7 +88,7 @@ def main():
 
         desktop.click(SUMMARY_BUTTON)
         desktop.click(SUMMARY_BUTTON)
-        desktop.keys("Tab", "Tab", "space")
+        desktop.keys("Right", "Right", "space")
         listed = desktop.picture()
         desktop.click(row(7))
         desktop.drag(row(7), EVENING)
