@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     AddBrowseBenchmarks(report);
     AddYearsBenchmarks(report);
     AddExportBenchmarks(report);
+    AddBackupBenchmarks(report);
     AddNumberBenchmarks(report);
     AddPrintBenchmarks(report);
     AddLoadBenchmarks(report);

@@ -24,6 +24,20 @@ std::size_t ReadPlain(const std::string& path, std::span<char> buffer) {
   return static_cast<std::size_t>(count);
 }
 
+void WritePlainUnsynced(const std::string& path, std::string_view bytes) {
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  Require(file >= 0);
+  Require(write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
+  Require(close(file) == 0);
+}
+
+void SyncPlain(const std::string& folder) {
+  const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  Require(handle >= 0);
+  Require(syncfs(handle) == 0);
+  Require(close(handle) == 0);
+}
+
 void WritePlain(const std::string& path, std::string_view bytes) {
   Require(unlink(path.c_str()) == 0 || errno == ENOENT);
   const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

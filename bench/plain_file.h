@@ -16,6 +16,11 @@ std::size_t ReadPlain(const std::string& path, std::span<char> buffer);
 // path is an absolute one.
 void WritePlain(const std::string& path, std::string_view bytes);
 
+// Creates the file, writes the bytes and closes it; and waits until all that was written to the
+// disk of a folder lies there.
+void WritePlainUnsynced(const std::string& path, std::string_view bytes);
+void SyncPlain(const std::string& folder);
+
 // As ReadPlain, through the buffered calls of the C library.
 std::size_t ReadThroughLibrary(const std::string& path, std::span<char> buffer);
 

@@ -80,6 +80,7 @@ void AddCountBenchmarks(Report& report);
 void AddNumberBenchmarks(Report& report);
 void AddPrintBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);
+void AddBackupBenchmarks(Report& report);
 // Of the windows.
 void AddInternetBenchmarks(Report& report);
 void AddChangeBenchmarks(Report& report);

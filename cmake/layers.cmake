@@ -24,7 +24,7 @@ endif()
 # Makes kelvora_logic<suffix>. The options are for the compiler, and are its own.
 function(add_logic suffix)
   add_library(kelvora_logic${suffix} STATIC ${logic_sources})
-  target_link_libraries(kelvora_logic${suffix} PUBLIC kelvora_flags)
+  target_link_libraries(kelvora_logic${suffix} PUBLIC kelvora_flags LibArchive::LibArchive)
   target_compile_options(kelvora_logic${suffix} PRIVATE ${ARGN})
   target_precompile_headers(kelvora_logic${suffix} PRIVATE ${standard_headers})
 endfunction()

@@ -19,7 +19,7 @@ FORMS = {
     5: "KV_export_html", 6: "KV_foodpopup", 8: "KV_properties", 9: "KV_tb_daguittreksel",
     10: "KV_tb_internet_update", 11: "KV_tb_lijsten", 12: "KV_tb_meerdaags", 13: "KV_tb_notities",
     14: "KV_tb_vmiddag, KV_tb_vavond", 15: "KV_tb_vochtend", 16: "KV_tb_weegschaal",
-    20: "KV_take_over",
+    17: "KV_backup", 18: "KV_restore", 20: "KV_take_over",
 }
 MODULES = {
     1: "Declarations_Bestanden", 2: "Declarations_Controle", 3: "Declarations_DatumFix",
@@ -29,7 +29,8 @@ MODULES = {
     12: "Declarations_language_files",
 }
 # Routines that share a code, as they are meant to.
-SHARED = {("FF", 11, 1): {"Lbs_To_Kg", "Kg_To_Lbs"},
+SHARED = {("FF", 1, 8): {"LoadDay", "LoadDayFromCopy"},
+          ("FF", 11, 1): {"Lbs_To_Kg", "Kg_To_Lbs"},
           ("FF", 6, 2): {"Export_HTML_Index_Head", "Export_HTML_Index_Row"}}
 
 HEAD = """# Failure codes

@@ -34,6 +34,8 @@ enum class Command {
   mnu_website_Etenlijn,
   mnu_reset_taal,
   mnu_diagnose,
+  mnu_backup,
+  mnu_restore,
   mnu_help_index,
   mnu_about,
   mnu_website,

@@ -78,6 +78,13 @@ struct AnalysisState {
   float gekozen_stof = 0;
 };
 
+// Since when there has been no backup ("2004-03-05", empty while that is not known), and whether
+// the user wants to be told.
+struct BackupReminder {
+  std::string since;
+  bool wanted = true;
+};
+
 struct Program {
   explicit Program(Platform& outside) : platform(outside) {}
   Program(const Program&) = delete;
@@ -95,6 +102,7 @@ struct Program {
   KeptFiles kept;
   DayOnDisk day_on_disk;
   RecoveryState recovery;
+  BackupReminder backup_reminder;
   ServerAddresses servers;
   bool update_checked = false;  // a check for a newer version has begun since the start
   Text StartSeparator;          // the decimal separator that the locale had at start

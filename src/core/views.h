@@ -187,6 +187,9 @@ struct CoreView {
   virtual void OpenTakeOver(std::optional<DayPart> part, const std::string& path) = 0;
   // Opens the food menu beside a row of a food list, with these entries enabled; returns at once.
   virtual void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) = 0;
+  // Show the dialogs for making and for bringing back a backup modally; return when they are gone.
+  virtual void OpenBackup() = 0;
+  virtual void OpenRestore() = 0;
   // Shows the splash, which ends by itself; returns at once.
   virtual void ShowSplash() = 0;
   // Shows the About window modally; returns when it is gone.
@@ -211,6 +214,8 @@ struct OpenWindows {
   WindowView* properties = nullptr;  // the settings dialog
   WindowView* export_html = nullptr;
   WindowView* take_over = nullptr;
+  WindowView* backup = nullptr;
+  WindowView* restore = nullptr;
   WindowView* new_food = nullptr;  // the dialog for a new food
   UpdateView* update = nullptr;    // hidden while its check runs in the background
   GeometryRecords geometry;

@@ -37,8 +37,8 @@ void TakeCaptionsInOrder(Program& program) {
 void TakeCaptionsEverywhere(Program& program) {
   OpenWindows& windows = program.windows;
   TakeCaptionsInOrder(program);
-  for (WindowView* const window :
-       {windows.day_settings, windows.new_food, windows.export_html, windows.take_over}) {
+  for (WindowView* const window : {windows.day_settings, windows.new_food, windows.export_html,
+                                   windows.take_over, windows.backup, windows.restore}) {
     TakeCaptions(window);
   }
 }

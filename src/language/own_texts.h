@@ -127,6 +127,52 @@ enum class OwnText {
   toolbar_of_panels,
   toolbar_of_row,
   more_buttons,
+  // Making a backup; "%1" is a count or a path.
+  menu_backup,
+  menu_restore,
+  backup_title,
+  backup_info,
+  backup_whom,
+  backup_all_users,
+  backup_unsaved,
+  backup_remind,
+  backup_no_users,
+  backup_start,
+  backup_prompt,
+  backup_progress,
+  backup_done,
+  backup_incomplete,
+  days_without_backup,
+  days_without_backup_tip,
+  // Bringing a backup back.
+  restore_title,
+  restore_prompt,
+  restore_reading,
+  restore_no_backup,
+  restore_encrypted,
+  restore_damaged,
+  restore_foreign,
+  restore_users,
+  restore_days,
+  restore_files,
+  restore_what,
+  restore_here,
+  restore_profile,
+  restore_own_list,
+  restore_favourites,
+  restore_absent,
+  restore_same,
+  restore_differs,
+  restore_when_different,
+  restore_keep_both,
+  restore_take_backup,
+  restore_keep_mine,
+  restore_start,
+  restore_done,
+  restore_unchanged,
+  restore_stopped,
+  carrying_close,
+  carrying_cancel,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -144,6 +190,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 91;
+inline constexpr int kOwnTextCount = 135;
 
 }  // namespace kelvora

@@ -93,6 +93,20 @@ std::optional<std::string> RecordingFolderChooser::Choose(const Text& prompt,
   return answer;
 }
 
+std::optional<std::string> RecordingFolderChooser::ChooseNewZip(const Text& prompt,
+                                                                const std::string& proposed) {
+  prompts.push_back(prompt);
+  starts.push_back(proposed);
+  return zip;
+}
+
+std::optional<std::string> RecordingFolderChooser::ChooseZip(const Text& prompt,
+                                                             const std::string& start) {
+  prompts.push_back(prompt);
+  starts.push_back(start);
+  return zip;
+}
+
 class RecordingTransfers::Noted : public Transfer {
  public:
   Noted(RecordingTransfers& all, OnState on_state) : all_(all), on_state_(std::move(on_state)) {

@@ -94,12 +94,15 @@ struct RecordingPrinting : Printing {
   void Print(const PrintJob& job) override;
 };
 
-// Chooses `answer`; remembers what it was asked with.
+// Chooses `answer`, or `zip` where a file is asked for; remembers what it was asked with.
 struct RecordingFolderChooser : FolderChooser {
+  std::optional<std::string> zip;
   std::optional<std::string> answer;
   std::vector<Text> prompts;
   std::vector<std::string> starts;
   std::optional<std::string> Choose(const Text& prompt, const std::string& start) override;
+  std::optional<std::string> ChooseNewZip(const Text& prompt, const std::string& proposed) override;
+  std::optional<std::string> ChooseZip(const Text& prompt, const std::string& start) override;
 };
 
 // Sends nothing. The test ends the transfer that is under way, or the program lets it go.
@@ -153,6 +156,8 @@ struct RecordingCore : CoreView {
   int settings_opened = 0;
   int new_foods_opened = 0;
   int exports_opened = 0;
+  int backups_opened = 0;
+  int restores_opened = 0;
   std::vector<std::pair<Text, Text>> items_shown;  // tag and line
   std::vector<std::pair<std::optional<DayPart>, std::string>> take_overs;
   std::vector<FoodMenu> food_menus;
@@ -180,6 +185,8 @@ struct RecordingCore : CoreView {
   void OpenTakeOver(std::optional<DayPart> part, const std::string& path) override {
     take_overs.emplace_back(part, path);
   }
+  void OpenBackup() override { ++backups_opened; }
+  void OpenRestore() override { ++restores_opened; }
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace) override {
     food_menus.push_back(enabled);
   }

@@ -22,8 +22,12 @@
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
 #include "internet/update_window.h"
+#include "keeping/backup_dialog.h"
 #include "output/export_dialog.h"
+#include "storage/folders.h"
+#include "storage/record_file.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/written_days.h"
 
 namespace kelvora {
@@ -419,6 +423,37 @@ Frame_2 | Saved days: |
 LV_user_files | Saved days: |
 cmd_export | Export |
 cmd_annuleer | Cancel |
+)");
+}
+
+TEST_F(Controls, OfABackup) {
+  BackupDialog dialog(program, nullptr);
+  ExpectControls(dialog, R"(
+KV_backup | Back up |
+cmb_users | Users: |
+chk_reminder | Remind me after 30 days without a backup |
+ProgressBar | Progress |
+cmd_backup | Back up |
+cmd_annuleer | Close |
+)");
+}
+
+TEST_F(Controls, OfBringingBackABackup) {
+  MakeUserFolders(program.paths, "Anna");
+  WriteRecord(ProfileFile(program.paths, "Anna"), program.profile);
+  ExpectControls(*ReadBackupWindow(program, BackupOfAll(program)), R"(
+KV_restore | Restore |
+Frame_1 | Users |
+LV_users | Users |
+Frame_2 | Profile, lists and days |
+LV_files | Profile, lists and days |
+Frame_3 | What differs here |
+opt_differs_0 | Keep both: days under another name, lists joined, your profile |
+opt_differs_1 | Take the backup's |
+opt_differs_2 | Keep mine |
+ProgressBar | Progress |
+cmd_restore | Restore |
+cmd_annuleer | Close |
 )");
 }
 

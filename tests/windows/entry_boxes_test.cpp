@@ -19,6 +19,8 @@
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
 #include "internet/update_window.h"
+#include "keeping/backup_dialog.h"
+#include "keeping/restore_dialog.h"
 #include "output/export_dialog.h"
 #include "platform/qt/text_area.h"
 #include "platform/qt/text_box.h"
@@ -86,6 +88,8 @@ TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
   ExpectTextOnly(BrowserDialog(program, nullptr), 0);
   ExpectTextOnly(ExportDaysDialog(program, nullptr), 0);
   ExpectTextOnly(TakeOverDialog(program, std::nullopt, {}, nullptr), 0);
+  ExpectTextOnly(BackupDialog(program, nullptr), 0);
+  ExpectTextOnly(RestoreDialog(program, "", nullptr), 0);
   ExpectTextOnly(SettingsDialog(program, nullptr), 1);
   ExpectTextOnly(WizardDialog(program, nullptr), 0);
   ExpectTextOnly(PopupWindow(program, kAboutMode, nullptr), 0);

@@ -26,6 +26,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "keeping/backup_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "nutrition/totals.h"
@@ -35,6 +36,7 @@
 #include "storage/food_files.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 
 namespace kelvora {
@@ -75,6 +77,8 @@ class Windows {
     export_->Open();
     take_over_ = std::make_unique<TakeOverDialog>(program, std::nullopt, std::string(), &main_);
     take_over_->show();
+    backup_ = std::make_unique<BackupDialog>(program, &main_);
+    restore_ = ReadBackupWindow(program, BackupOfAll(program));
     for (QWidget* const dialog :
          std::initializer_list<QWidget*>{wizard_.get(), details_.get(), new_food_.get()}) {
       dialog->show();
@@ -93,7 +97,9 @@ class Windows {
                                        {"details", details_.get()},
                                        {"new food", new_food_.get()},
                                        {"export", export_.get()},
-                                       {"take over", take_over_.get()}}) {
+                                       {"take over", take_over_.get()},
+                                       {"backup", backup_.get()},
+                                       {"restore", restore_.get()}}) {
       Describe(QLatin1String(name), *window, shown);
     }
     return shown;
@@ -168,6 +174,8 @@ class Windows {
   std::unique_ptr<NewFoodDialog> new_food_;
   std::unique_ptr<ExportDaysDialog> export_;
   std::unique_ptr<TakeOverDialog> take_over_;
+  std::unique_ptr<BackupDialog> backup_;
+  std::unique_ptr<RestoreDialog> restore_;
 };
 
 class FollowingSettings : public testing::Test {

@@ -17,6 +17,7 @@
 #include "days/take_over_dialog.h"
 #include "food/food_details_dialog.h"
 #include "internet/update_window.h"
+#include "keeping/backup_dialog.h"
 #include "output/export_dialog.h"
 #include "platform/qt/qt_platform.h"
 #include "storage/day_file.h"
@@ -24,6 +25,7 @@
 #include "storage/profile_file.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 #include "windows/find_in.h"
 #include "windows/shown_texts.h"
@@ -159,6 +161,10 @@ TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {
   other_days.show();
   QApplication::processEvents();
   ExpectBounded(other_days, 2);
+  BackupDialog backup(test.program, nullptr);
+  backup.show();
+  ExpectBounded(backup, 0);
+  ExpectBounded(*ReadBackupWindow(test.program, BackupOfAll(test.program)), 8);
   for (const auto mode : {DayDialogMode::new_day, DayDialogMode::day_settings}) {
     test.program.day.DayDialogMode = mode;
     DaySettingsDialog settings(test.program, nullptr);

@@ -33,11 +33,13 @@
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
 #include "internet/update_window.h"
+#include "keeping/backup_dialog.h"
 #include "language/built_in_texts.h"
 #include "output/export_dialog.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 #include "windows/written_days.h"
 
@@ -323,6 +325,17 @@ TEST_F(WindowLayout, OfTakingOver) {
   InBothLanguages([this] {
     TakeOverDialog dialog(program, std::nullopt, {}, nullptr);
     Look(dialog, 7);
+  });
+}
+
+TEST_F(WindowLayout, OfBackups) {
+  MakeUserFolders(program.paths, "Anna");
+  WriteRecord(ProfileFile(program.paths, "Anna"), program.profile);
+  const std::string path = BackupOfAll(program);
+  InBothLanguages([this, &path] {
+    BackupDialog backup(program, nullptr);
+    Look(backup, 8);
+    Look(*ReadBackupWindow(program, path), 14);
   });
 }
 

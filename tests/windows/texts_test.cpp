@@ -18,6 +18,7 @@
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
 #include "internet/update_window.h"
+#include "keeping/backup_dialog.h"
 #include "language/choose_language.h"
 #include "language/language_file.h"
 #include "language/own_texts.h"
@@ -27,6 +28,7 @@
 #include "storage/folders.h"
 #include "storage/profile_file.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 #include "windows/shown_texts.h"
 #include "windows/written_days.h"
@@ -178,6 +180,11 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(days_to_export, kSquare), 20u);
   const TakeOverDialog other_days(program, std::nullopt, {}, nullptr);
   EXPECT_GT(ExpectFromTables(other_days, kSquare), 10u);
+  const BackupDialog backup(program, nullptr);
+  EXPECT_GT(ExpectFromTables(backup, kSquare), 6u);
+  const auto restore = ReadBackupWindow(program, BackupOfAll(program));
+  FindIn<QLabel>(*restore, QStringLiteral("lbl_file"))->clear();  // a path
+  EXPECT_GT(ExpectFromTables(*restore, kSquare), 12u);
   const SettingsDialog settings(program, nullptr);
   EXPECT_GT(ExpectFromTables(settings, kSquare), 60u);
   const WizardDialog wizard(program, nullptr);

@@ -15,6 +15,15 @@ using enum MenuKind;
 
 constexpr MenuRow kEnd{end_of_menu, ""};
 
+constexpr MenuRow OwnItem(std::string_view name, OwnText caption, Command command,
+                          std::string_view icon) {
+  MenuRow row{item, name};
+  row.command = command;
+  row.icon = icon;
+  row.own_caption = caption;
+  return row;
+}
+
 constexpr std::array kMenu = {
     MenuRow{menu, "mnu_bestand", kFile},
     MenuRow{item, "mnu_startupwizzard", kWizard, Command::mnu_startupwizzard, "wizard", "",
@@ -100,6 +109,8 @@ constexpr std::array kMenu = {
     MenuRow{item, "mnu_quick_all", kQuickAll, Command::quick_all, "screens-all", "Alt+8",
             kTipQuickAll},
     MenuRow{item, "mnu_quick_reset", kQuickReset, Command::quick_reset, "screens-reset", "Alt+9"},
+    OwnItem("mnu_backup", OwnText::menu_backup, Command::mnu_backup, "backup"),
+    OwnItem("mnu_restore", OwnText::menu_restore, Command::mnu_restore, "restore"),
     kEnd,
 
     MenuRow{menu, "mnu_informatie", kInformation},

@@ -58,6 +58,8 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_website_Etenlijn, Needs::nothing},
     CommandRow{Command::mnu_reset_taal, Needs::nothing},
     CommandRow{Command::mnu_diagnose, Needs::nothing},
+    CommandRow{Command::mnu_backup, Needs::nothing},
+    CommandRow{Command::mnu_restore, Needs::nothing},
     CommandRow{Command::mnu_help_index, Needs::nothing},
     CommandRow{Command::mnu_about, Needs::nothing},
     CommandRow{Command::mnu_website, Needs::nothing},
@@ -186,6 +188,7 @@ bool MenuEnabled(const Program& program, std::string_view name) {
 }
 
 Text CaptionOf(const Program& program, const MenuRow& row) {
+  if (row.own_caption) return OwnTextOf(program.texts, *row.own_caption);
   // As a button has it, with blanks at its end.
   if (row.caption.table == TextTable::taal_lists) return Text(Trimmed(program.texts[row.caption]));
   const bool english_service =
@@ -249,6 +252,10 @@ void RunCommand(Program& program, Command command) {
       return RepairLanguageFiles(program);
     case Command::mnu_diagnose:
       return RunDiagnose(program);
+    case Command::mnu_backup:
+      return program.windows.core->OpenBackup();
+    case Command::mnu_restore:
+      return program.windows.core->OpenRestore();
     case Command::mnu_help_index:
       return OpenHelp(program);
     case Command::mnu_about:

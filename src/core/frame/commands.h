@@ -7,6 +7,7 @@
 
 #include "core/command.h"
 #include "core/program.h"
+#include "language/own_texts.h"
 
 namespace kelvora {
 
@@ -21,6 +22,7 @@ struct MenuRow {
   std::string_view icon{};
   std::string_view shortcut{};  // in portable form, "Ctrl+S"
   std::optional<TextId> tip{};
+  std::optional<OwnText> own_caption{};  // of an entry that the tables have no word for
 };
 
 // One button of a toolbar; indexes that have no row are separators.

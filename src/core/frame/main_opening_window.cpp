@@ -16,6 +16,8 @@
 #include "food/food_lists_window.h"
 #include "food/new_food_dialog.h"
 #include "internet/update_window.h"
+#include "keeping/backup_dialog.h"
+#include "keeping/restore_dialog.h"
 #include "output/export_dialog.h"
 #include "platform/qt/look.h"
 
@@ -84,6 +86,14 @@ void MainWindow::OpenExport() {
 void MainWindow::OpenTakeOver(std::optional<DayPart> part, const std::string& path) {
   if (program_.ending || !program_.store.DayIsOpen()) return;
   if (program_.windows.take_over == nullptr) ShowTakeOverDialog(program_, part, path, this);
+}
+
+void MainWindow::OpenBackup() {
+  if (program_.windows.backup == nullptr) ShowBackupDialog(program_, this);
+}
+
+void MainWindow::OpenRestore() {
+  if (program_.windows.restore == nullptr) ShowRestoreDialog(program_, this);
 }
 
 void MainWindow::ShowSplash() {

@@ -17,6 +17,7 @@
 #include "core/frame/focus_status_panel.h"
 #include "core/small_geometry.h"
 #include "food/day_part_menu_panel.h"
+#include "keeping/backup_reminder.h"
 #include "language/main_texts.h"
 #include "language/own_texts.h"
 #include "platform/qt/long_label.h"
@@ -32,6 +33,7 @@ namespace {
 constexpr int kToolbarIconSize = 24;
 constexpr int kQuickIconSize = 16;
 constexpr int kPanelMargin = 4;  // above and below the letters of the status bar
+constexpr int kPanelIndent = 6;
 
 QString QtName(std::string_view name) {
   return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
@@ -205,19 +207,23 @@ void MainWindow::BuildStatusBar() {
   statusBar()->setSizeGripEnabled(false);
   for (std::size_t i = 0; i < panels_.size(); ++i) {
     panels_[i] = new LongLabel(statusBar(), QStringLiteral("StatusBar_%1").arg(i + 1));
-    panels_[i]->setIndent(6);
+    panels_[i]->setIndent(kPanelIndent);
   }
   statusBar()->setFixedHeight(statusBar()->fontMetrics().height() + 2 * kPanelMargin);
 }
 
 void MainWindow::LayStatusBar() {
   const auto widths = StatusPanelWidths(TwipsOfPixels(width()));
+  QLabel* const reminder = panels_.back();
+  const int reminder_width = reminder->text().isEmpty() ? 0 : reminder->sizeHint().width() + kPanelIndent;
   int left = 0;
-  for (std::size_t i = 0; i < panels_.size(); ++i) {
-    const int panel_width = PixelsOfTwips(widths[i]);
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    // The reminder takes its room from the third panel, which has no words.
+    const int panel_width = PixelsOfTwips(widths[i]) - (i == 2 ? reminder_width : 0);
     panels_[i]->setGeometry(left, 0, panel_width, statusBar()->height());
     left += panel_width;
   }
+  reminder->setGeometry(left, 0, reminder_width, statusBar()->height());
 }
 
 void MainWindow::OpenFirstMenu() {
@@ -263,6 +269,7 @@ void MainWindow::Set_Taal() {
   statusBar()->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   panels_[0]->setToolTip(ToQt(texts[main_text::kTipProgramPanel]));
   panels_[1]->setToolTip(ToQt(texts[main_text::kTipUserPanel]));
+  panels_.back()->setToolTip(ToQt(OwnTextOf(texts, OwnText::days_without_backup_tip)));
   Set_toolbar_teksten();
   UpdateCommands();
 }
@@ -322,9 +329,14 @@ void MainWindow::BringToFront() {
 void MainWindow::UpdateStatusBar() {
   panels_[0]->setText(ToQt(ProgramPanelText()));
   panels_[1]->setText(ToQt(UserPanelText(program_)));
+  const QString reminder = ToQt(BackupReminderText(program_));
   // What is read when the keyboard comes to the bar.
-  statusBar()->setAccessibleDescription(panels_[0]->text() + QStringLiteral(", ") +
-                                        panels_[1]->text());
+  QStringList heard = {panels_[0]->text(), panels_[1]->text()};
+  if (!reminder.isEmpty()) heard << reminder;
+  statusBar()->setAccessibleDescription(heard.join(QStringLiteral(", ")));
+  if (panels_.back()->text() == reminder) return;
+  panels_.back()->setText(reminder);
+  LayStatusBar();
 }
 
 void MainWindow::UpdateCommands() {

@@ -43,6 +43,8 @@ class MainWindow : public QMainWindow, public CoreView {
   void OpenNewFood() override;
   void OpenExport() override;
   void OpenTakeOver(std::optional<DayPart> part, const std::string& path) override;
+  void OpenBackup() override;
+  void OpenRestore() override;
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) override;
   void ShowSplash() override;
   void ShowAbout() override;
@@ -112,7 +114,7 @@ class MainWindow : public QMainWindow, public CoreView {
   ToolBar* menu_toolbar_;
   int captions_width_ = 0;  // what it needs to show all its captions
   ToolBar* Toolbar_quickscreens_;
-  std::array<QLabel*, 4> panels_;
+  std::array<QLabel*, 5> panels_;  // the last one while there is a reminder
 };
 
 }  // namespace kelvora

@@ -8,6 +8,7 @@
 #include "core/frame/net.h"
 #include "days/wizard.h"
 #include "internet/servers.h"
+#include "keeping/backup_reminder.h"
 #include "keeping/recovery_offer.h"
 #include "language/language_file.h"
 #include "nutrition/decimal_check.h"
@@ -92,6 +93,7 @@ constexpr std::array kSteps = {
     &CheckDecimal,
     &CheckHalfCharacter,
     &BringCommandsInStep,
+    &LoadBackupReminder,
     &SetUpStatusBar,
     &CheckSeparatorIsValid,
     &BringMainWindowForward,

@@ -82,7 +82,9 @@ void SetCaptions(const QMessageBox& window, const std::vector<Text>& captions) {
   constexpr std::array kOrder = {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
   for (std::size_t i = 0; i < std::min(captions.size(), kOrder.size()); ++i) {
     QAbstractButton* const button = window.button(kOrder[i]);
-    if (button != nullptr) button->setText(CaptionFrom(captions[i]));
+    if (button == nullptr) continue;
+    button->setText(CaptionFrom(captions[i]));
+    button->setIcon({});  // that of a yes or a no
   }
 }
 
@@ -102,6 +104,10 @@ bool SplashIsUp() {
   return std::ranges::any_of(windows, [](const QWidget* window) {
     return window->windowType() == Qt::SplashScreen && window->isVisible();
   });
+}
+
+QString ZipFiles() {
+  return QStringLiteral("*.zip");
 }
 
 std::string Standard(QStandardPaths::StandardLocation location) {
@@ -250,6 +256,25 @@ std::optional<std::string> QtFolderChooser::Choose(const Text& prompt, const std
       QApplication::activeWindow(), ToQt(prompt), QString::fromStdString(start));
   if (folder.isEmpty()) return std::nullopt;
   return folder.toStdString();
+}
+
+std::optional<std::string> QtFolderChooser::ChooseNewZip(const Text& prompt,
+                                                         const std::string& proposed) {
+  const QFileInfo file(QString::fromStdString(proposed));
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(prompt), file.absolutePath(), ZipFiles());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("zip"));
+  dialog.selectFile(file.fileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return dialog.selectedFiles().constFirst().toStdString();
+}
+
+std::optional<std::string> QtFolderChooser::ChooseZip(const Text& prompt,
+                                                      const std::string& start) {
+  const QString file = QFileDialog::getOpenFileName(QApplication::activeWindow(), ToQt(prompt),
+                                                    QString::fromStdString(start), ZipFiles());
+  if (file.isEmpty()) return std::nullopt;
+  return file.toStdString();
 }
 
 void QtEvents::Yield() {

@@ -73,6 +73,8 @@ class QtOpener : public Opener {
 class QtFolderChooser : public FolderChooser {
  public:
   std::optional<std::string> Choose(const Text& prompt, const std::string& start) override;
+  std::optional<std::string> ChooseNewZip(const Text& prompt, const std::string& proposed) override;
+  std::optional<std::string> ChooseZip(const Text& prompt, const std::string& start) override;
 };
 
 // All of them together, made once.

@@ -59,6 +59,8 @@ TEST(CommandTables, TheMenuHasItsItemsAndSeparatorsInOrder) {
                                                   "mnu_quick_default",
                                                   "mnu_quick_all",
                                                   "mnu_quick_reset",
+                                                  "mnu_backup",
+                                                  "mnu_restore",
                                                   "mnu_informatie",
                                                   "mnu_help_index",
                                                   "mnu_about",

@@ -77,6 +77,8 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_website_Etenlijn, State::empty, State::empty},
     EnableRow{Command::mnu_reset_taal, State::empty, State::empty},
     EnableRow{Command::mnu_diagnose, State::empty, State::empty},
+    EnableRow{Command::mnu_backup, State::empty, State::empty},
+    EnableRow{Command::mnu_restore, State::empty, State::empty},
     EnableRow{Command::mnu_help_index, State::empty, State::empty},
     EnableRow{Command::mnu_about, State::empty, State::empty},
     EnableRow{Command::mnu_website, State::empty, State::empty},
