@@ -280,7 +280,10 @@ void RestoreDialog::ShowUsers() {
                             return column == 0 ? users[row].name
                                                : std::to_string(DaysOf(users[row]));
                           });
-  LV_users_->setColumnWidth(0, kDateWidth);
+  QHeaderView* const header = LV_users_->horizontalHeader();
+  header->setStretchLastSection(false);
+  header->setSectionResizeMode(0, QHeaderView::Stretch);
+  header->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   if (!users.empty()) LV_users_->selectRow(0);
   ShowFiles();
 }

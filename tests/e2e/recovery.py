@@ -65,7 +65,7 @@ def steps_of(trace):
         if re.search(r"openat\(.*O_CREAT", line):
             letters += "w" if copy else "W" if day else ""
         elif re.search(r"f(data)?sync\(", line):
-            letters += "S" if day else "s" if ".new" in line else ""
+            letters += "S" if day else "s" if copy and ".new" in line else ""
         elif re.search(r"rename", line):
             letters += "r" if copy else ""
         elif re.search(r"unlink", line):

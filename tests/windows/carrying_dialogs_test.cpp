@@ -198,6 +198,7 @@ TEST_F(CarryingDialogs, ShowsWhatTheBackupHoldsAllOfItTicked) {
   EXPECT_EQ(CellOf(*users, 0, 0), "Anna");
   EXPECT_EQ(CellOf(*users, 0, 1), "2");
   EXPECT_EQ(TickOf(*users, 0), Qt::Checked);
+  EXPECT_TRUE(users->viewport()->rect().contains(users->visualRect(users->model()->index(0, 1))));
   ASSERT_EQ(files->model()->rowCount(), 3);
   EXPECT_EQ(CellOf(*files, 0, 0), "Profile");
   EXPECT_EQ(CellOf(*files, 0, 2), "the same");
