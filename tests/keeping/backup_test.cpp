@@ -139,6 +139,24 @@ TEST_F(BackupTest, WhatWasWrittenOtherwiseThanItReadsBackIsNoBackup) {
   EXPECT_FALSE(fs::exists(path));
 }
 
+TEST_F(BackupTest, AWholeArchiveOfOtherBytesIsNoBackupEither) {
+  MakeUser("Anna", {});
+  WriteDay("Anna", "05032004140709.kvf", "Up at ten.");
+  const std::string path = MakeBackup();
+  const std::string other = ReadFile(path);
+  fs::remove(path);
+  WriteDay("Anna", "05032004140709.kvf", "Up at six.");
+  Backup backup(UsersPath(), AllUsers(), path);
+  while (backup.Done() < 4) ASSERT_TRUE(backup.Work());
+  ASSERT_TRUE(backup.Work());  // finishes the writing
+  {
+    const FileHandle same_file = MakeFile(path + ".part");
+    WriteBytes(same_file, other);
+  }
+  EXPECT_THROW(while (backup.Work()){}, std::system_error);
+  EXPECT_FALSE(fs::exists(path));
+}
+
 TEST_F(BackupTest, AFolderThatIsNotThereFails) {
   MakeUser("Anna", {});
   Backup backup(UsersPath(), AllUsers(), test.folders.home.Path("stick/backup.zip"));
