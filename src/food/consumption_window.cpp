@@ -289,12 +289,12 @@ void ConsumptionWindow::resizeEvent(QResizeEvent* event) {
 
 void ConsumptionWindow::LayStatusBar() {
   const auto widths = ConsumptionPanelWidths(TwipsOfPixels(width()));
-  // Words that are too long for the second panel reach into the third, which is empty.
+  // The first two panels are as wide as their words, if need be; the third is empty.
   int left = 0;
   for (std::size_t i = 0; i < panels_.size(); ++i) {
     const int needed = panels_[i]->sizeHint().width();
     const int panel_width =
-        std::min(std::max(PixelsOfTwips(widths[i]), i == 1 ? needed : 0), width() - left);
+        std::min(std::max(PixelsOfTwips(widths[i]), i < 2 ? needed : 0), width() - left);
     panels_[i]->setGeometry(left, 0, panel_width, StatusBar_->height());
     left += panel_width;
   }

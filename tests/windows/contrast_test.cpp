@@ -21,6 +21,7 @@
 
 #include "platform/qt/cell_tips.h"
 #include "platform/qt/readable_palette.h"
+#include "windows/desktop_colours.h"
 #include "windows/every_window.h"
 
 namespace kelvora {
@@ -250,45 +251,6 @@ struct Readings {
   }
 };
 
-struct DesktopColours {
-  const char* name;
-  std::vector<std::pair<QPalette::ColorRole, const char*>> colours;
-};
-
-// What a desktop sets, over what the style has by itself. The two dark ones are those of Breeze
-// Dark and Adwaita Dark, as they publish them; the last one sets grounds and no letters.
-const std::vector<DesktopColours> kDesktops = {
-    {"none", {}},
-    {"dark, as KDE sets it",
-     {{QPalette::Window, "#2a2e32"},
-      {QPalette::WindowText, "#fcfcfc"},
-      {QPalette::Base, "#1b1e20"},
-      {QPalette::AlternateBase, "#232629"},
-      {QPalette::Text, "#fcfcfc"},
-      {QPalette::Button, "#31363b"},
-      {QPalette::ButtonText, "#fcfcfc"},
-      {QPalette::Highlight, "#3daee9"},
-      {QPalette::HighlightedText, "#fcfcfc"}}},
-    {"dark, as GNOME sets it",
-     {{QPalette::Window, "#353535"},
-      {QPalette::WindowText, "#eeeeec"},
-      {QPalette::Base, "#2d2d2d"},
-      {QPalette::AlternateBase, "#353535"},
-      {QPalette::Text, "#ffffff"},
-      {QPalette::Button, "#373737"},
-      {QPalette::ButtonText, "#eeeeec"},
-      {QPalette::Highlight, "#15539e"},
-      {QPalette::HighlightedText, "#ffffff"}}},
-    {"dark grounds alone",
-     {{QPalette::Window, "#2a2e32"}, {QPalette::Base, "#1b1e20"}, {QPalette::Button, "#31363b"}}},
-};
-
-QPalette PaletteOf(const DesktopColours& desktop) {
-  QPalette palette = QApplication::style()->standardPalette();
-  for (const auto& [role, colour] : desktop.colours) palette.setColor(role, QColor(colour));
-  return palette;
-}
-
 class Contrast : public EveryWindow {
  protected:
   Contrast() {
@@ -349,53 +311,6 @@ TEST_F(Contrast, OfAHintThatATHemeLeftUnsetIsSeen) {
   };
   EXPECT_LT(contrast(palette), 2);
   EXPECT_GE(contrast(ReadablePalette(palette)), kOfText);
-}
-
-TEST(ReadablePalette, LeavesWhatCanBeRead) {
-  const QPalette desktop = PaletteOf(kDesktops[2]);
-  const QPalette palette = ReadablePalette(desktop);
-  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-    for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text,
-                            QPalette::Button, QPalette::ButtonText, QPalette::Highlight,
-                            QPalette::HighlightedText, QPalette::AlternateBase}) {
-      EXPECT_EQ(palette.color(group, role), desktop.color(group, role)) << role;
-    }
-  }
-  EXPECT_NE(palette.color(QPalette::Disabled, QPalette::Text),
-            desktop.color(QPalette::Disabled, QPalette::Text));
-}
-
-// White on the style's own light blue has 3.7, on the blue of Breeze 2.4.
-TEST(ReadablePalette, DarkensTheGroundOfWhatIsChosen) {
-  for (const DesktopColours& desktop : kDesktops) {
-    const QPalette palette = ReadablePalette(PaletteOf(desktop));
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-      EXPECT_GE(ContrastOf(palette.color(group, QPalette::HighlightedText),
-                           palette.color(group, QPalette::Highlight)),
-                kOfText)
-          << desktop.name;
-    }
-  }
-}
-
-TEST(ReadablePalette, IsKeptWhenTheDesktopChangesItsOwn) {
-  const QPalette before = QApplication::palette();
-  KeepTextsReadable(*qApp);
-  const std::unique_ptr<QObject> keeper(qApp->findChild<QObject*>("palette_keeper"));
-  ASSERT_NE(keeper, nullptr);
-  const auto contrast = [] {
-    const QPalette palette = QApplication::palette();
-    return ContrastOf(palette.color(QPalette::Disabled, QPalette::Text),
-                      palette.color(QPalette::Disabled, QPalette::Base));
-  };
-  EXPECT_GE(contrast(), kOfText);
-  QPalette changed;
-  changed.setColor(QPalette::Disabled, QPalette::Text,
-                   changed.color(QPalette::Disabled, QPalette::Base));
-  QApplication::setPalette(changed);
-  EXPECT_GE(contrast(), kOfText);
-  qApp->removeEventFilter(keeper.get());
-  QApplication::setPalette(before);
 }
 
 }  // namespace

@@ -92,15 +92,20 @@ void WidenToHeadings(QTableView& table, int giving, std::optional<int> given_roo
   const QHeaderView& header = *table.horizontalHeader();
   const int room = std::max(0, given_room.value_or(table.viewport()->width()));
   const int needed = WidthOfHeadings(table);
-  std::vector<int> columns;  // the giving one first, then from the right
+  std::vector<int> columns;  // from the right
   for (int column = header.count() - 1; column >= 0; --column) {
     if (!header.isSectionHidden(column)) columns.push_back(column);
   }
+  if (columns.empty()) return;
   const auto least = [&](int column) {
     const int words = WidthOfHeading(header, column);
     return needed <= room ? words : words * room / needed;
   };
-  int width = 0;
+  // A last column that is stretched to the list has nothing of its own to give to another room.
+  const int stretched =
+      given_room.has_value() && header.stretchLastSection() ? columns.front() : -1;
+  std::erase(columns, stretched);
+  int width = stretched < 0 ? 0 : least(stretched);
   for (const int column : columns) {
     table.setColumnWidth(column, std::max(table.columnWidth(column), least(column)));
     width += table.columnWidth(column);
@@ -108,7 +113,6 @@ void WidenToHeadings(QTableView& table, int giving, std::optional<int> given_roo
   std::stable_partition(columns.begin(), columns.end(),
                         [&](int column) { return column == giving; });
   for (const int column : columns) {
-    // The last one may be stretched, whatever it is given.
     const int spare = std::max(0, table.columnWidth(column) - least(column));
     const int taken = std::min(std::max(0, width - room), spare);
     table.setColumnWidth(column, table.columnWidth(column) - taken);
