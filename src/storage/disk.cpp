@@ -8,6 +8,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -234,6 +235,40 @@ void SyncDisk(const std::string& folder) {
   if (descriptor < 0) ThrowLastError();
   const FileHandle handle(descriptor);
   if (syncfs(handle.Descriptor()) != 0) ThrowLastError();
+}
+
+void AppendToFile(const std::string& path, std::string_view bytes) {
+  constexpr mode_t kByMask = 0666;
+  FileHandle file = Open(path, O_WRONLY | O_CREAT | O_APPEND, kByMask);
+  WriteBytes(file, bytes);
+  file.Close();
+}
+
+void FinishFile(const std::string& path, std::string_view front) {
+  FileHandle file = Open(path, O_WRONLY);
+  WriteBytes(file, front);
+  Sync(file);
+  file.Close();
+}
+
+void SyncFolderOf(const std::string& path) {
+  SyncFolder(FolderOf(path));
+}
+
+std::size_t ReadSome(const FileHandle& file, char* to, std::size_t size) {
+  while (true) {
+    const ssize_t taken = read(file.Descriptor(), to, size);
+    if (taken >= 0) return static_cast<std::size_t>(taken);
+    if (errno != EINTR) ThrowLastError();
+  }
+}
+
+std::optional<FileHandle> TryHoldFolder(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return std::nullopt;
+  FileHandle folder(descriptor);
+  if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) return std::nullopt;
+  return folder;
 }
 
 void DeleteFileIfThere(const std::string& path) {

@@ -86,6 +86,21 @@ void SyncDisk(const std::string& folder);
 // Deletes the file if there is one, or the link if it leads nowhere.
 void DeleteFileIfThere(const std::string& path);
 
+// Files that are written in pieces, where nobody looks for them yet. AppendToFile makes the file if
+// there is none; FinishFile puts `front` over its first bytes and syncs it.
+void AppendToFile(const std::string& path, std::string_view bytes);
+void FinishFile(const std::string& path, std::string_view front);
+
+// Syncs the folder that the file lies in.
+void SyncFolderOf(const std::string& path);
+
+// Fills up to `size` bytes from where the file was read last; 0 at its end.
+[[nodiscard]] std::size_t ReadSome(const FileHandle& file, char* to, std::size_t size);
+
+// Holds a folder until the handle is gone, so that other processes see that somebody works in it;
+// nothing if one of them does, or if it can't be opened.
+[[nodiscard]] std::optional<FileHandle> TryHoldFolder(const std::string& path);
+
 // The names in a folder, without "." and "..", in no order. A failure leaves the names before it.
 struct FolderNames {
   std::vector<std::string> names;

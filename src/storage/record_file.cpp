@@ -110,6 +110,15 @@ std::string EncodeRecord(std::span<const Text> strings) {
   return bytes;
 }
 
+std::string FrontOfLongString(std::uint64_t size) {
+  if (size > kLongestString) ThrowSystemError(std::errc::file_too_large);
+  std::string front;
+  AppendNumber(front, 1, kCountSize);
+  AppendNumber(front, kLongStringMark, 2);
+  AppendNumber(front, size, 4);
+  return front;
+}
+
 void ThrowNoRecord() {
   ThrowSystemError(std::errc::no_message_available);
 }

@@ -10,6 +10,7 @@
 // This file knows nothing of what the strings mean.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -55,6 +56,10 @@ void WriteFileAnew(const std::string& path, std::span<const Text> pieces);
 
 // A file image of one record. Throws std::system_error for a string of 4 GiB or more.
 [[nodiscard]] std::string EncodeRecord(std::span<const Text> strings);
+
+// What stands in front of a long string of that size in a file of one record with that string
+// alone. Throws std::system_error for 4 GiB or more.
+[[nodiscard]] std::string FrontOfLongString(std::uint64_t size);
 
 // The first record of a file image, nothing if it counts none.
 template <class AnyRecord>
