@@ -21,7 +21,9 @@ METAINFO = "usr/share/metainfo/io.brelux.kelvorafood.metainfo.xml"
 ICONS = "usr/share/icons/hicolor"
 DOC = "usr/share/doc/kelvora-food"
 MANUAL = "usr/share/man/man1/kelvora-food.1.gz"
-FILES = {PROGRAM, LINK, DESKTOP, METAINFO, f"{DOC}/copyright", f"{DOC}/changelog.gz", MANUAL,
+IMPORT = {"usr/lib/kelvora-food/kelvora-food-import", "usr/bin/kelvora-food-import",
+          "usr/share/man/man1/kelvora-food-import.1.gz"}
+FILES = IMPORT | {PROGRAM, LINK, DESKTOP, METAINFO, f"{DOC}/copyright", f"{DOC}/changelog.gz", MANUAL,
          f"{ICONS}/scalable/apps/kelvora-food.svg",
          f"{ICONS}/48x48/apps/kelvora-food.png", f"{ICONS}/64x64/apps/kelvora-food.png",
          f"{ICONS}/128x128/apps/kelvora-food.png"}
@@ -59,6 +61,11 @@ class Installation(unittest.TestCase):
         self.assertEqual(os.readlink(link), "../lib/kelvora-food/kelvora-food")
         self.assertEqual(link.resolve(), Path(self.root, PROGRAM).resolve())
         self.assertTrue(os.access(link, os.X_OK))
+
+    def test_the_import_without_a_window_runs_through_its_link(self):
+        run = subprocess.run([Path(self.root, "usr/bin/kelvora-food-import"), "--version"], text=True,
+                             check=True, capture_output=True)
+        self.assertTrue(run.stdout.startswith("kelvora-food-import (Kelvora FOOD) "), run.stdout)
 
     def test_pixel_icons_have_the_size_of_their_folder(self):
         for size in (48, 64, 128):
