@@ -214,6 +214,20 @@ def replies():
     return {f"{name}_{more}": text + b"." * more for name, text in kinds.items() for more in range(4)}
 
 
+def delimited_tables():
+    row = b'"a ""b""","c,d",e\r\n"two\nlines",,"x"y\r\n'
+    return {
+        "empty": b"", "mark": b"\xef\xbb\xbfa,b\n1,2\n", "quoted": row * 3, "no_end": row[:-2],
+        "semicolons": "Nom;Prot\xe9ines (g)\r\nCr\xe8me;< 0,5\r\nPain;traces\r\n".encode("cp1252"),
+        "tabs": b"n\tsize\n1\t2\" sq\n\t\n", "bars": b"|a|b|\r|1|2|\r", "nuls": b"a\0,b\0\n\0",
+        "unbalanced": b'a,b\n"x,1\ny,2\n', "only_quotes": b'"' * 9, "carriage_returns": b"\r\r\na,b\r",
+        "html": b"<b>a</b> &amp; &#233;,&#0;,</,<5%,&#x110000;\n", "numbers": b"1.234,5;1,234.5;1e3;-1;.\n",
+        "letters": "\u017bywiec,e\u0300,\u5bff\u53f8,\u00bd \u00be,\u200b\n".encode(),
+        "utf_16": "a,b\n".encode("utf-16"), "all_bytes": ALL_BYTES, "archive": b"PK\3\4,\n",
+        "long": b"x" * 5000 + b"\n" + b"," * 5000,
+    }
+
+
 def main():
     records = broken(record(b"one")) | {
         "six": record(*[b"%d" % i * i for i in range(6)]),
@@ -234,6 +248,7 @@ def main():
         "language_file": language_files(),
         "text_search": texts_to_search(),
         "reply": replies(),
+        "delimited": delimited_tables(),
     }
     for target, seeds in targets.items():
         folder = CORPUS / target
