@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
     AddLoadBenchmarks(report);
     AddSearchBenchmarks(report);
     AddLargeBenchmarks(report);
+    AddImportBenchmarks(report);
     return report.Run(argc, argv);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "kelvora_bench: %s\n", failure.what());

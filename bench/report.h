@@ -81,6 +81,7 @@ void AddNumberBenchmarks(Report& report);
 void AddPrintBenchmarks(Report& report);
 void AddLargeBenchmarks(Report& report);
 void AddBackupBenchmarks(Report& report);
+void AddImportBenchmarks(Report& report);
 // Of the windows.
 void AddInternetBenchmarks(Report& report);
 void AddChangeBenchmarks(Report& report);
