@@ -247,7 +247,7 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
 void FinishFile(const std::string& path, std::string_view front) {
   FileHandle file = Open(path, O_WRONLY);
   WriteBytes(file, front);
-  Sync(file);
+  SyncFile(file);
   file.Close();
 }
 
