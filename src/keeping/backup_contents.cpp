@@ -34,6 +34,7 @@ void ReadHeader(std::string_view bytes, BackupFile& file) {
   SplitBlock((*day)[DayFileField::Header], header);
   file.date = header[HeaderRow::kDate];
   file.weekday = header[HeaderRow::kWeekday];
+  file.date_key = DateKeyOf(file.date);
 }
 
 Text NameInProfile(std::string_view bytes) {
@@ -105,6 +106,7 @@ void BackupContents::Take(const ZipEntry& entry) {
                   .here = CompareWithHere(PathOf(users_path_, *place), bytes),
                   .date = {},
                   .weekday = {},
+                  .date_key = {},
                   .hash = HashOf(bytes)};
   BackupUser& user = UserOf(place->folder_name);
   if (place->part == BackupPart::day) ReadHeader(bytes, file);
@@ -125,8 +127,9 @@ void BackupContents::Settle() {
   }
   for (BackupUser& user : users_) {
     if (user.name.empty()) user.name = TextFromUtf8(user.folder_name);
-    std::ranges::sort(user.files, {}, [](const BackupFile& file) {
-      return std::make_tuple(file.place.part, DateKeyOf(file.date), file.place.file_name);
+    std::ranges::sort(user.files, [](const BackupFile& a, const BackupFile& b) {
+      return std::tie(a.place.part, a.date_key, a.place.file_name) <
+             std::tie(b.place.part, b.date_key, b.place.file_name);
     });
   }
   std::ranges::sort(users_, {}, [](const BackupUser& user) {

@@ -21,6 +21,7 @@ struct BackupFile {
   BackupPlace place;
   Here here = Here::absent;
   Text date, weekday;      // of a day, as they stand in it
+  Text date_key;           // puts the dates in order
   std::uint64_t hash = 0;  // of its bytes
   bool wanted = true;
 };

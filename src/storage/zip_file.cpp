@@ -18,6 +18,9 @@ namespace kelvora {
 namespace {
 
 constexpr std::size_t kPiece = 64 << 10;
+// The library goes to each entry's place by itself and reads anew from there: no more than most
+// entries take.
+constexpr std::size_t kBlock = 8 << 10;
 
 // Loaded once: that takes longer than packing a day.
 locale_t Utf8Locale() {
@@ -153,7 +156,7 @@ ZipReader::ZipReader(const std::string& path)
   archive* const zip = state_->zip;
   if (zip == nullptr) Throw(ENOMEM);
   if (archive_read_support_format_zip(zip) != ARCHIVE_OK ||
-      archive_read_open_fd(zip, state_->file.Descriptor(), kPiece) != ARCHIVE_OK) {
+      archive_read_open_fd(zip, state_->file.Descriptor(), kBlock) != ARCHIVE_OK) {
     ThrowErrorOf(zip, EBADMSG);
   }
 }

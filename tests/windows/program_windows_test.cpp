@@ -16,6 +16,7 @@
 #include "core/frame/main_window.h"
 #include "food/food_table_panel.h"
 #include "language/built_in_texts.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 #include "support/test_program.h"
@@ -101,7 +102,8 @@ TEST_F(ProgramWindows, EveryMenuItemAndButtonIsThereUnderItsName) {
     } else if (row.kind == MenuKind::item) {
       auto* const action = qobject_cast<QAction*>(found);
       // The lists bear the captions of their buttons, which end in blanks.
-      const Text& caption = test.program.texts[row.caption];
+      const Text caption = row.own_caption ? OwnTextIn(Language::english, *row.own_caption)
+                                           : test.program.texts[row.caption];
       const bool of_list = row.name.starts_with("mnu_lijst_");
       EXPECT_EQ(FromQt(action->text()), of_list ? Text(Trimmed(caption)) : caption);
       EXPECT_FALSE(action->icon().isNull()) << row.name;
