@@ -182,7 +182,7 @@ def take_summary(desktop, folder, stem):
     desktop.click(summary)
     for panel in (1, 2, 3, 4):
         take(desktop, folder / f"summary_{panel}_{stem}.png")
-        desktop.keys("Tab", "space")
+        desktop.keys("Right", "space")
     desktop.click(diary)
     desktop.type("Slept well; walked 5 km.")
     take(desktop, folder / f"diary_{stem}.png")
@@ -200,7 +200,7 @@ def take_trend(desktop, folder, stem):
         desktop.output("xdotool", "mousemove", *(str(side * desktop.scale) for side in IN_THE_CHART))
         time.sleep(1.5)
         take(desktop, folder / f"trend_{view}_{stem}.png")
-        desktop.keys("Tab", "space")
+        desktop.keys("Right", "space")
     desktop.click(TREND_BUTTON[stem])
 
 
