@@ -37,6 +37,10 @@ float SingleOf(std::string_view text) {
 
 }  // namespace
 
+std::string_view PatternOfFoodValue(std::size_t index) {
+  return kPatterns[index];
+}
+
 void BeginNextFood(NewFoodForm& form, const UnitContext& units) {
   form.txt_dNaam.clear();
   form.combo_dEenheid.clear();

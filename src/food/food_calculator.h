@@ -47,6 +47,9 @@ struct NewFoodForm {
   bool operator==(const NewFoodForm&) const = default;
 };
 
+// How a value is printed, of the portion and of 100 grams.
+[[nodiscard]] std::string_view PatternOfFoodValue(std::size_t index);
+
 // The form of the next food: both weights 100 grams and no printed value. The calculated values
 // stay until the calculation runs.
 void BeginNextFood(NewFoodForm& form, const UnitContext& units);

@@ -173,6 +173,20 @@ enum class OwnText {
   restore_stopped,
   carrying_close,
   carrying_cancel,
+  // What the list says while no name begins with what is typed.
+  no_name_begins,
+  // The part of the day that Enter in the food lists adds to.
+  enter_adds_to_morning,
+  enter_adds_to_afternoon,
+  enter_adds_to_evening,
+  // How much of a food: the caption of its box, its tip, the entry of menus, and what is said to an
+  // amount that can't be added.
+  amount,
+  amount_tip,
+  other_amount,
+  amount_not_read,
+  amount_too_much,
+  amount_no_weight,
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -190,6 +204,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 135;
+inline constexpr int kOwnTextCount = 145;
 
 }  // namespace kelvora

@@ -36,6 +36,10 @@ Text OuncesOfGrams(double grams, std::string_view separator) {
   return Str(shown, separator);
 }
 
+Text GramsOfOunces(double ounces, std::string_view separator) {
+  return FormatNumber(Single(ounces / Factor_Oz), "##0", separator);
+}
+
 Text Gram_To_Oz(Text& grams, const UnitContext& context) {
   if (grams.empty()) return {};
   return Convert(context, "#FF11-3",
@@ -45,8 +49,7 @@ Text Gram_To_Oz(Text& grams, const UnitContext& context) {
 Text Oz_To_Gram(Text& ounces, const UnitContext& context) {
   if (ounces.empty()) return {};
   return Convert(context, "#FF11-4", [&](const Text& separator) {
-    const float grams = Single(Normalise(ounces) / Factor_Oz);
-    return FormatNumber(grams, "##0", separator);
+    return GramsOfOunces(Normalise(ounces), separator);
   });
 }
 

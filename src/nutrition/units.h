@@ -29,10 +29,13 @@ struct UnitContext {
 // Grams to ounces with one decimal at most, "3.5" or "10". Throws std::system_error.
 [[nodiscard]] Text OuncesOfGrams(double grams, std::string_view separator);
 
-// The same for a text, under its failure code. Makes each comma of `grams` a point.
+// Ounces to whole grams, "##0". Throws std::system_error.
+[[nodiscard]] Text GramsOfOunces(double ounces, std::string_view separator);
+
+// The first for a text, under its failure code. Makes each comma of `grams` a point.
 [[nodiscard]] Text Gram_To_Oz(Text& grams, const UnitContext& context);
 
-// Ounces to whole grams, "##0". Makes each comma of `ounces` a point.
+// The second likewise. Makes each comma of `ounces` a point.
 [[nodiscard]] Text Oz_To_Gram(Text& ounces, const UnitContext& context);
 
 // Pounds to kilograms, unrounded: all fifteen significant digits. Makes each comma of `pounds` a
