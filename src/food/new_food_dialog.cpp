@@ -9,6 +9,7 @@
 
 #include "food/number_box_panel.h"
 #include "language/new_food_texts.h"
+#include "platform/qt/choice_list.h"
 #include "platform/qt/hint_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -176,8 +177,7 @@ void NewFoodDialog::AddNameAndUnit(QGridLayout* grid) {
   QWidget* const frame = grid->parentWidget();
   const EntryContext entry = EntryContextOf(program_);
   txt_dNaam_ = new TextBox(frame, QStringLiteral("txt_dNaam"), entry);
-  combo_dEenheid_ = new QComboBox(frame);
-  NameWidget(combo_dEenheid_, "combo_dEenheid");
+  combo_dEenheid_ = new DropDownList(frame, "combo_dEenheid");
   unit_ = new TextBox(combo_dEenheid_, QStringLiteral("combo_dEenheid_box"), entry);
   combo_dEenheid_->setLineEdit(unit_);
   combo_dEenheid_->setInsertPolicy(QComboBox::NoInsert);

@@ -1,13 +1,20 @@
 #include "platform/qt/choice_list.h"
 
 #include <QKeyEvent>
+#include <QWheelEvent>
 
 #include "platform/qt/look.h"
 
 namespace kelvora {
 
-ChoiceList::ChoiceList(QWidget* parent, const char* object_name) : QComboBox(parent) {
+DropDownList::DropDownList(QWidget* parent, const char* object_name) : QComboBox(parent) {
   NameWidget(this, object_name);
+  setFocusPolicy(Qt::StrongFocus);  // the wheel brings no focus either
+}
+
+void DropDownList::wheelEvent(QWheelEvent* event) {
+  if (!hasFocus()) return event->ignore();
+  QComboBox::wheelEvent(event);
 }
 
 void ChoiceList::keyPressEvent(QKeyEvent* event) {
