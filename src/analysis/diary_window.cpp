@@ -136,7 +136,11 @@ void DiaryWindow::TypeText(std::string_view text) {
 
 bool DiaryWindow::TakeOver() {
   const bool taken = Bewaar_Notities(program_, txt_notities_->Entered());
-  if (taken) save_action_->setEnabled(false);
+  if (taken) {
+    save_action_->setEnabled(false);
+  } else {
+    txt_notities_->setFocus();
+  }
   return taken;
 }
 

@@ -131,8 +131,7 @@ QWidget* BrowserDialog::BuildProfilePane() {
 
 void BrowserDialog::Open() {
   show();
-  Refresh_GebruikersLijst();
-  Refresh_Files();
+  if (!ChooseOnlyUser(ShowUsers())) Refresh_Files();
   // Who opens this window most often wants a day of the current user.
   if (!LV_browse_files_->Rows().empty()) LV_browse_files_->setFocus();
 }
@@ -183,10 +182,23 @@ void BrowserDialog::SetCaptions() {
 }
 
 void BrowserDialog::Refresh_GebruikersLijst() {
-  const UserList list = ReadUsers(program_);
+  ShowUsers();
+}
+
+UserList BrowserDialog::ShowUsers() {
+  UserList list = ReadUsers(program_);
   lst_users_->ShowUsers(list.users);
   ShowProfile();
   TellOfUnreadUsers(program_, list);
+  return list;
+}
+
+// True if the days of another user are in the list now.
+bool BrowserDialog::ChooseOnlyUser(const UserList& list) {
+  const auto only = OnlyUser(program_, list);
+  if (!only) return false;
+  lst_users_->Select(*only);
+  return SwitchUser(program_, *only) == UserSwitch::switched;
 }
 
 void BrowserDialog::Refresh_Files() {
@@ -225,7 +237,7 @@ void BrowserDialog::ChooseSelectedUser() {
 void BrowserDialog::OpenSelectedDay() {
   lst_users_->TellNow();
   const DayTable& list = *LV_browse_files_;
-  const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow());
+  const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow(), list.hasFocus());
   if (row) OpenDayOf(program_, list.Rows()[*row]);
 }
 

@@ -38,6 +38,8 @@ class BrowserDialog : public QDialog, public BrowserView {
   QWidget* BuildDays();
   QWidget* BuildProfilePane();
   void SetCaptions();
+  UserList ShowUsers();
+  bool ChooseOnlyUser(const UserList& list);
   void ShowDays(std::vector<DayRow> rows);
   void ShowProfile();
   void ChooseSelectedUser();

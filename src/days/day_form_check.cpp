@@ -37,8 +37,28 @@ bool WeightIsWrong(std::string_view weight) {
   return weight.size() < 2 || weight.find_first_of(",.") == 1 || IsMisshapen(weight);
 }
 
+constexpr int kMostDays = 31, kMostMonths = 12, kMostYears = 99;
+constexpr std::string_view kGenderBox = "pg_7";
+
+std::string_view NameOf(DayFieldId id) {
+  return FieldOfId(id).name;
+}
+
+std::string_view BoxWithATerminator(const DayForm& form) {
+  const auto fields = DayFields();
+  const auto field = std::ranges::find_if(
+      fields, [&](const DayField& one) { return HoldsTerminator(form.*one.part); });
+  return field == fields.end() ? kGenderBox : field->name;
+}
+
 bool DatePartIsWrong(std::string_view part, int highest) {
   return part.size() < 2 || Val(part) > highest;
+}
+
+std::string_view WrongDateBox(const DayForm& form) {
+  if (DatePartIsWrong(form.pg_9_a, kMostDays)) return NameOf(DayFieldId::pg_9_a);
+  if (DatePartIsWrong(form.pg_9_b, kMostMonths)) return NameOf(DayFieldId::pg_9_b);
+  return NameOf(DayFieldId::pg_9_c);
 }
 
 struct Check {
@@ -68,8 +88,9 @@ constexpr std::array kChecks = {
           kEnterAge},
     Check{FormError::date,
           [](const DayForm& form) {
-            return DatePartIsWrong(form.pg_9_a, 31) || DatePartIsWrong(form.pg_9_b, 12) ||
-                   DatePartIsWrong(form.pg_9_c, 99);
+            return DatePartIsWrong(form.pg_9_a, kMostDays) ||
+                   DatePartIsWrong(form.pg_9_b, kMostMonths) ||
+                   DatePartIsWrong(form.pg_9_c, kMostYears);
           },
           kWrongDate, kCheckDate},
 };
@@ -86,6 +107,28 @@ std::optional<FormError> CheckForm(const DayForm& form) {
   const auto failed = std::ranges::find_if(kChecks, [&](const Check& c) { return c.fails(form); });
   if (failed == kChecks.end()) return std::nullopt;
   return failed->error;
+}
+
+std::string_view WrongBox(const DayForm& form, FormError error, UnitSystem system) {
+  switch (error) {
+    case FormError::illegal_characters:
+      return BoxWithATerminator(form);
+    case FormError::name:
+      return NameOf(DayFieldId::pg_0);
+    case FormError::height:
+      return NameOf(system == UnitSystem::metric ? DayFieldId::txt_lengte_m
+                                                 : DayFieldId::txt_lengte_i1);
+    case FormError::weight:
+      return NameOf(WeightIsWrong(form.pg_6) ? DayFieldId::txt_gewicht
+                                             : DayFieldId::txt_streefgewicht);
+    case FormError::gender:
+      return kGenderBox;
+    case FormError::age:
+      return NameOf(DayFieldId::pg_8);
+    case FormError::date:
+      break;
+  }
+  return WrongDateBox(form);
 }
 
 Text TextOf(const TextTables& texts, FormError error) {

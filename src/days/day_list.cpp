@@ -145,8 +145,8 @@ std::vector<std::uint32_t> SortRows(std::vector<DayRow>& rows, const DayListSort
 }
 
 std::optional<std::size_t> RowToOpen(const std::vector<std::size_t>& selected,
-                                     std::optional<std::size_t> in_focus) {
-  if (selected.empty()) return std::nullopt;
+                                     std::optional<std::size_t> in_focus, bool list_has_keys) {
+  if (selected.empty()) return list_has_keys ? in_focus : std::nullopt;
   const bool focus_is_selected =
       in_focus && std::ranges::find(selected, *in_focus) != selected.end();
   return focus_is_selected ? *in_focus : std::ranges::min(selected);

@@ -67,8 +67,10 @@ bool ClickHeading(DayListSort& sort, std::size_t column);
 // Puts the rows in the order of `sort`; returns the place that each row had before.
 std::vector<std::uint32_t> SortRows(std::vector<DayRow>& rows, const DayListSort& sort);
 
-// The row that is opened: the one in focus if it is selected, else the first selected one.
+// The row that is opened: the one in focus if it is selected, else the first selected one. With
+// nothing selected it is the one in focus, as long as the list has the keys.
 [[nodiscard]] std::optional<std::size_t> RowToOpen(const std::vector<std::size_t>& selected,
-                                                   std::optional<std::size_t> in_focus);
+                                                   std::optional<std::size_t> in_focus,
+                                                   bool list_has_keys);
 
 }  // namespace kelvora

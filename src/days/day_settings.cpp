@@ -149,14 +149,17 @@ User UserOf(const DayEditing& editing) {
 }
 
 // Whether the form may be taken; says why not.
-bool Passes(Program& program, const DayEditing& editing) {
+bool Passes(Program& program, DayEditing& editing) {
+  editing.look_at = {};
   if (const auto error = CheckForm(editing.form)) {
+    editing.look_at = WrongBox(editing.form, *error, UnitSystemOf(program));
     Tell(program, BoxIcon::error, TextOf(program.texts, *error));
     return false;
   }
   // The folder of a chosen user is there already, whatever the user is called.
   const bool new_user = editing.mode == DayDialogMode::new_day && !editing.user;
   if (new_user && !CanNameAFolder(editing.form.pg_0)) {
+    editing.look_at = FieldOfId(DayFieldId::pg_0).name;
     Tell(program, BoxIcon::error,
          OwnTextOf(program.texts, OwnText::name_not_possible) + "\n" +
              OwnTextOf(program.texts, OwnText::name_advice));

@@ -24,6 +24,8 @@ struct DayEditing {
   bool applied_at_once = false;
   bool start_failed = false;
   bool confirmed = false;
+  // The name of the box that a refused form is to be changed in; empty if there is none.
+  std::string_view look_at;
 };
 
 // The form of someone who has not filled in anything yet, dated today.

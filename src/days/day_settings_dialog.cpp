@@ -150,6 +150,8 @@ void DaySettingsDialog::ShowUsers() {
   user_count_ = list.users.size();
   lbl_info_->setText(ToQt(program_.texts[InstructionFor(editing_.mode, user_count_)]));
   users_->ShowUsers(list.users);
+  const auto only = OnlyUser(program_, list);
+  if (only && IsNewDay()) users_->Select(*only);
   // Behind the list, which can be seen by then.
   QMetaObject::invokeMethod(
       this, [this, list] { TellOfUnreadUsersForDay(program_, list); }, Qt::QueuedConnection);
@@ -195,7 +197,11 @@ void DaySettingsDialog::RemoveSelectedUser() {
 void DaySettingsDialog::Confirm() {
   users_->TellNow();
   TakeForm();
-  if (!ConfirmDay(program_, editing_)) return;
+  if (!ConfirmDay(program_, editing_)) {
+    const QLatin1String name(editing_.look_at.data(), static_cast<int>(editing_.look_at.size()));
+    if (!name.isEmpty()) GoToBox(findChild<QWidget*>(name));
+    return;
+  }
   // Out of sight first: the arrangement opens the windows of the day, and closes this one.
   hide();
   ArrangeAfterConfirming(program_, editing_);

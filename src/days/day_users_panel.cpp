@@ -101,6 +101,10 @@ void DayUsersPanel::SelectCurrentUser() {
   lst_users_->SelectCurrentUser();
 }
 
+void DayUsersPanel::Select(const User& user) {
+  lst_users_->Select(user);
+}
+
 void DayUsersPanel::FocusList() {
   lst_users_->setFocus();
 }

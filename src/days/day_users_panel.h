@@ -32,6 +32,7 @@ class DayUsersPanel : public QWidget {
   void TellNothing();
   void SelectNone();
   void SelectCurrentUser();
+  void Select(const User& user);
   void FocusList();
   void SetRemovable(bool removable);
   // While the settings of a day are changed, its user can't be.

@@ -61,15 +61,13 @@ Text SettingOfFolder(std::string_view path) {
 
 // Tells what the form lacks; false if it lacks something.
 bool IsComplete(Program& program, const SettingsForm& form) {
-  if (form.Combo_taal.empty()) {
+  const auto missing = MissingIn(form);
+  if (missing == MissingSetting::language) {
     Tell(program, BoxIcon::warning, program.texts[kNoLanguage]);
-    return false;
-  }
-  if (form.chk_map && form.txt_map.empty()) {
+  } else if (missing == MissingSetting::folder) {
     Tell(program, BoxIcon::warning, JoinLines(program.texts, {kNoFolder, kNoFolderAdvice}));
-    return false;
   }
-  return true;
+  return !missing;
 }
 
 std::string UsersPathOf(const Program& program, const SettingsForm& form) {
@@ -93,6 +91,12 @@ SettingsForm FormOfSettings(const Program& program) {
 
 void FollowInternet(SettingsForm& form) {
   if (!form.chk_internet) form.chk_addinternet = false;
+}
+
+std::optional<MissingSetting> MissingIn(const SettingsForm& form) {
+  if (form.Combo_taal.empty()) return MissingSetting::language;
+  if (form.chk_map && form.txt_map.empty()) return MissingSetting::folder;
+  return std::nullopt;
 }
 
 EnabledControls EnabledIn(const SettingsForm& form) {

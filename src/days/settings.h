@@ -5,6 +5,7 @@
 // for it: the language and the help texts.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -48,6 +49,10 @@ struct EnabledControls {
 
 // Whoever does not use the internet adds nothing to it.
 void FollowInternet(SettingsForm& form);
+
+// What a form lacks that can't be saved.
+enum class MissingSetting { language, folder };
+[[nodiscard]] std::optional<MissingSetting> MissingIn(const SettingsForm& form);
 
 [[nodiscard]] EnabledControls EnabledIn(const SettingsForm& form);
 

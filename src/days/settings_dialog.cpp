@@ -334,7 +334,10 @@ void SettingsDialog::ShowForm() {
 }
 
 void SettingsDialog::Save() {
-  if (Save_From_Form(program_, form_)) CloseWindow();
+  if (Save_From_Form(program_, form_)) return CloseWindow();
+  const auto missing = MissingIn(form_);
+  if (missing == MissingSetting::language) GoToBox(Combo_taal_);
+  if (missing == MissingSetting::folder) GoToBox(txt_map_);
 }
 
 void ShowSettingsDialog(Program& program, QWidget* parent) {

@@ -58,4 +58,10 @@ UserList ReadUsers(Program& program) {
   return list;
 }
 
+std::optional<User> OnlyUser(const Program& program, const UserList& list) {
+  const bool chosen = !program.paths.UserName.empty() || program.store.DayIsOpen();
+  if (chosen || list.users.size() != 1 || !list.unread.Empty()) return std::nullopt;
+  return list.users.front();
+}
+
 }  // namespace kelvora

@@ -2,6 +2,7 @@
 // known by that folder.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,10 @@ struct UserList {
   std::vector<User> users;
   Unread unread;
 };
+
+// The user to begin with when none is chosen and no day is open: the only one there is. Nothing
+// where there are several, or something in the list could not be read.
+[[nodiscard]] std::optional<User> OnlyUser(const Program& program, const UserList& list);
 
 // Reads the name in each user's profile, in order of the folders, and leaves the names of the
 // folders in `lst_data_dir`. A folder without a readable profile, or with one that holds no name,

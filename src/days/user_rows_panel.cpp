@@ -35,11 +35,16 @@ void UserRows::ShowUsers(std::vector<User> users) {
 }
 
 void UserRows::SelectCurrentUser() {
-  const QSignalBlocker quiet(this);
   const auto current =
       std::ranges::find_if(users_, [this](const User& user) { return IsCurrent(program_, user); });
   if (current == users_.end()) return SelectNone();
-  setCurrentRow(static_cast<int>(current - users_.begin()));
+  Select(*current);
+}
+
+void UserRows::Select(const User& user) {
+  const QSignalBlocker quiet(this);
+  const auto place = std::ranges::find(users_, user);
+  if (place != users_.end()) setCurrentRow(static_cast<int>(place - users_.begin()));
 }
 
 void UserRows::SelectNone() {

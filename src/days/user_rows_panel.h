@@ -22,6 +22,8 @@ class UserRows : public QListWidget {
   // choice.
   void ShowUsers(std::vector<User> users);
   void SelectCurrentUser();
+  // Selects a user of the list, without a word.
+  void Select(const User& user);
   void SelectNone();
   [[nodiscard]] std::optional<User> Selected() const;
   // Tells at once what is still to be told: before something is done with the chosen user, for a

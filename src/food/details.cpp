@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/common.h"
-#include "food/details_check.h"
 #include "language/food_details_texts.h"
 #include "nutrition/decimal_check.h"
 #include "nutrition/totals.h"
@@ -130,7 +129,11 @@ bool BeginOrFinishEditing(Program& program, FoodDetails& details) {
     TrimChangedName(details);
     const auto error = CheckDetails(details.bVar, details.oVar);
     details.Geldig = !error;
-    if (error) return Tell(program, BoxIcon::error, TextOf(program.texts, *error));
+    details.look_at.reset();
+    if (error) {
+      details.look_at = WrongBox(details.bVar, details.oVar, *error);
+      return Tell(program, BoxIcon::error, TextOf(program.texts, *error));
+    }
     FillPortionFromPer100Grams(details.oVar, SeparatorOf(program), details.bVar);
     details.Bewerkmodus = false;
     details.cmd_bewerk = kEdit;

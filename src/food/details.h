@@ -3,9 +3,11 @@
 // whatever list it was opened from. The window draws a FoodDetails and passes on what is done.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "core/program.h"
+#include "food/details_check.h"
 #include "food/details_values.h"
 
 namespace kelvora {
@@ -23,6 +25,8 @@ struct FoodDetails {
   bool Geldig = false;
   TextId cmd_bewerk{};  // its caption
   Composition pBar;
+  // The box that a refused save is to be changed in; nothing if there is none.
+  std::optional<DetailsBox> look_at;
 };
 
 // Opens a line. A failure shows "#F6-0" and leaves the boxes as far as they came.
@@ -52,6 +56,6 @@ void TakeOunces(Program& program, FoodDetails& details, std::string_view typed);
 // cmd_opslaan: brings a changed food into the own list, the favourites in step with chk_favo, and
 // writes both files. False after a No to keeping a high sodium value, which changes nothing, and
 // after a failure, which shows "#F6-5".
-[[nodiscard]] bool SaveDetails(Program& program, const FoodDetails& details);
+[[nodiscard]] bool SaveDetails(Program& program, FoodDetails& details);
 
 }  // namespace kelvora

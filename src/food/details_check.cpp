@@ -32,6 +32,25 @@ std::optional<DetailsError> CheckDetails(const PortionBoxes& bVar, const ValueBo
   return std::nullopt;
 }
 
+DetailsBox WrongBox(const PortionBoxes& bVar, const ValueBoxes& oVar, DetailsError error) {
+  const auto place_of = [](const auto& boxes, const auto& found) {
+    return static_cast<std::size_t>(found - boxes.begin());
+  };
+  switch (error) {
+    case DetailsError::fields_missing:
+      return {.place = place_of(bVar, std::ranges::find_if(bVar, &IsIncompleteNumber))};
+    case DetailsError::weight_not_whole:
+      return {.place = PortionBox::kGram};
+    case DetailsError::values_missing:
+      return {true, place_of(oVar, std::ranges::find_if(oVar, &IsIncompleteNumber))};
+    case DetailsError::illegal_characters:
+      return {.place = place_of(bVar, std::ranges::find_if(bVar, &HoldsTerminator))};
+    case DetailsError::too_much_data:
+      break;
+  }
+  return {.place = place_of(bVar, std::ranges::max_element(bVar, {}, &Text::size))};
+}
+
 Text TextOf(const TextTables& texts, DetailsError error) {
   switch (error) {
     case DetailsError::fields_missing:

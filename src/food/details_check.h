@@ -21,6 +21,15 @@ enum class DetailsError {
 [[nodiscard]] std::optional<DetailsError> CheckDetails(const PortionBoxes& bVar,
                                                        const ValueBoxes& oVar);
 
+// The box that is to blame for an error: of the description, or of the values per 100 grams.
+struct DetailsBox {
+  bool per_100_grams = false;
+  std::size_t place = 0;  // in bVar or oVar
+  bool operator==(const DetailsBox&) const = default;
+};
+[[nodiscard]] DetailsBox WrongBox(const PortionBoxes& bVar, const ValueBoxes& oVar,
+                                  DetailsError error);
+
 // The lines of the box for an error.
 [[nodiscard]] Text TextOf(const TextTables& texts, DetailsError error);
 

@@ -127,14 +127,21 @@ void SaveFavourite(Program& program, const FoodDetails& details, Place replaced,
 
 }  // namespace
 
-bool SaveDetails(Program& program, const FoodDetails& details) {
+bool SaveDetails(Program& program, FoodDetails& details) {
   bool saved = false;
+  details.look_at.reset();
   program.Guard("#F6-5", [&] {
     const Text line = NewLineOf(details);
     const bool changed = line != details.txt_item;
-    if (changed && !KeepsSodium(program, details.oVar[kSodiumValue])) return;
+    if (changed && !KeepsSodium(program, details.oVar[kSodiumValue])) {
+      details.look_at = {.per_100_grams = true, .place = kSodiumValue};
+      return;
+    }
     const Replaced replaced = WhatIsReplaced(program.store, details, line);
-    if (replaced.others && !MayReplaceOthers(program, details.bVar[PortionBox::kProduct])) return;
+    if (replaced.others && !MayReplaceOthers(program, details.bVar[PortionBox::kProduct])) {
+      details.look_at = {.place = PortionBox::kProduct};
+      return;
+    }
     if (changed) SaveInOwnList(program, details, replaced.own, line);
     SaveFavourite(program, details, replaced.favourite, line);
     saved = true;

@@ -340,14 +340,22 @@ void FoodDetailsDialog::Edit() {
   const bool was_editing = details_.Bewerkmodus;
   if (BeginOrFinishEditing(program_, details_)) return done(QDialog::Accepted);
   ShowDetails();
-  if (was_editing) return;
+  if (was_editing) return LookAtWrongBox();
   oVar_.front()->setFocus();
   oVar_.front()->selectAll();
 }
 
 void FoodDetailsDialog::Save() {
   TakeWeight();
-  if (SaveDetails(program_, details_)) done(QDialog::Accepted);
+  if (SaveDetails(program_, details_)) return done(QDialog::Accepted);
+  LookAtWrongBox();
+}
+
+void FoodDetailsDialog::LookAtWrongBox() {
+  const auto& wrong = details_.look_at;
+  if (!wrong) return;
+  if (wrong->per_100_grams) return GoToBox(oVar_[wrong->place]);
+  GoToBox(wrong->place == PortionBox::kGram ? txt_gram_ : bVar_[wrong->place]);
 }
 
 void ShowFoodDetailsDialog(Program& program, std::string_view tag, std::string_view line,

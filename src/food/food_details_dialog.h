@@ -68,6 +68,7 @@ class FoodDetailsDialog : public QDialog, public WindowView {
   void TakeWeight();
   void Edit();
   void Save();
+  void LookAtWrongBox();
 
   Program& program_;
   OpenFlag<WindowView> open_flag_;

@@ -184,5 +184,37 @@ TEST(FormCheckOrder, AFailedTestChangesNothing) {
   EXPECT_FALSE(test.program.day.FileChanged);
 }
 
+// Each error with a form that has it, and the box that a person then looks at.
+TEST(WrongBox, IsTheOneThatTheErrorIsAbout) {
+  struct Wrong {
+    Text DayForm::*part;
+    std::string_view value;
+    std::string_view box;
+  };
+  for (const Wrong& row : {
+           Wrong{&DayForm::pg_12, "\xBD", "pg_12"},
+           Wrong{&DayForm::pg_14, "a\xBE", "pg_14"},
+           Wrong{&DayForm::pg_7, "\xBD", "pg_7"},
+           Wrong{&DayForm::pg_0, "", "pg_0"},
+           Wrong{&DayForm::pg_5, "180", "txt_lengte_m"},
+           Wrong{&DayForm::pg_6, "8", "txt_gewicht"},
+           Wrong{&DayForm::pg_10, "7", "txt_streefgewicht"},
+           Wrong{&DayForm::pg_7, "", "pg_7"},
+           Wrong{&DayForm::pg_8, "12", "pg_8"},
+           Wrong{&DayForm::pg_9_a, "32", "pg_9_a"},
+           Wrong{&DayForm::pg_9_b, "13", "pg_9_b"},
+           Wrong{&DayForm::pg_9_c, "4", "pg_9_c"},
+       }) {
+    DayForm form = GoodForm();
+    form.*row.part = row.value;
+    const auto error = CheckForm(form);
+    ASSERT_TRUE(error.has_value()) << row.box;
+    EXPECT_EQ(WrongBox(form, *error, UnitSystem::metric), row.box);
+  }
+  DayForm low = GoodForm();
+  low.pg_5 = "180";
+  EXPECT_EQ(WrongBox(low, FormError::height, UnitSystem::imperial_uk), "txt_lengte_i1");
+}
+
 }  // namespace
 }  // namespace kelvora

@@ -373,10 +373,14 @@ TEST_F(Browser, AnUnsortedListStaysAsItIs) {
 }
 
 TEST(RowThatIsOpened, IsTheSelectedOneInFocusOrElseTheFirstSelected) {
-  EXPECT_EQ(RowToOpen({}, 3), std::nullopt);
-  EXPECT_EQ(RowToOpen({2, 5}, 5), 5u);
-  EXPECT_EQ(RowToOpen({2, 5}, 3), 2u);
-  EXPECT_EQ(RowToOpen({2, 5}, std::nullopt), 2u);
+  EXPECT_EQ(RowToOpen({}, 3, false), std::nullopt);
+  EXPECT_EQ(RowToOpen({}, 3, true), 3u);
+  EXPECT_EQ(RowToOpen({}, std::nullopt, true), std::nullopt);
+  for (const bool keys : {false, true}) {
+    EXPECT_EQ(RowToOpen({2, 5}, 5, keys), 5u);
+    EXPECT_EQ(RowToOpen({2, 5}, 3, keys), 2u);
+    EXPECT_EQ(RowToOpen({2, 5}, std::nullopt, keys), 2u);
+  }
 }
 
 }  // namespace

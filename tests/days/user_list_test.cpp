@@ -347,5 +347,25 @@ TEST_F(Users, ThePaneNeverShowsAnothersValuesUnderAName) {
   EXPECT_EQ(pane.lbl_pr, (std::array<Text, 6>{}));
 }
 
+TEST(OnlyUserOfAList, IsTakenWhileNobodyIsChosenAndNoDayIsOpen) {
+  TestProgram test;
+  UserList list;
+  EXPECT_EQ(OnlyUser(test.program, list), std::nullopt);
+  list.users = {{"Anna", "Anna"}};
+  EXPECT_EQ(OnlyUser(test.program, list), list.users[0]);
+  list.users.push_back({"Bert", "Bert"});
+  EXPECT_EQ(OnlyUser(test.program, list), std::nullopt);
+  list.users.pop_back();
+  SetCurrentUser(test.program, "Anna");
+  EXPECT_EQ(OnlyUser(test.program, list), std::nullopt);
+  SetCurrentUser(test.program, "");
+  test.program.store.KV_bestand = "open.kvf";
+  EXPECT_EQ(OnlyUser(test.program, list), std::nullopt);
+  test.program.store.KV_bestand.clear();
+  EXPECT_TRUE(OnlyUser(test.program, list).has_value());
+  list.unread.Add("Carl", std::runtime_error("unreadable"));
+  EXPECT_EQ(OnlyUser(test.program, list), std::nullopt);
+}
+
 }  // namespace
 }  // namespace kelvora

@@ -74,6 +74,8 @@ TEST_F(Details, AnotherFoodOfTheNameIsAskedAboutBeforeItIsReplaced) {
       test.boxes.answers = {answer};
       const bool yes = answer == BoxAnswer::yes;
       EXPECT_EQ(SaveDetails(program, details), yes);
+      EXPECT_EQ(details.look_at.has_value(), !yes);
+      if (!yes) EXPECT_EQ(details.look_at, DetailsBox{.place = PortionBox::kProduct});
       ASSERT_EQ(Said(), kReplaceBread);
       EXPECT_EQ(test.boxes.shown[0].icon, BoxIcon::question);
       EXPECT_EQ(test.boxes.shown[0].buttons, BoxButtons::yes_no);
@@ -188,7 +190,8 @@ TEST_F(Details, SavingWithoutAChangeLeavesTheOwnListAlone) {
   commas.protein = "8,5";
   for (const FoodLine& food : {kBread, OfCategory(kBread), commas, WithSodium("9")}) {
     for (const char* tag : {"zoeken", "custom", "favo", "internet"}) {
-      EXPECT_TRUE(SaveDetails(program, Open(LineOf(food), tag)));
+      FoodDetails details = Open(LineOf(food), tag);
+      EXPECT_TRUE(SaveDetails(program, details));
       EXPECT_TRUE(Own().Empty());
       EXPECT_FALSE(std::filesystem::exists(OwnFile()));
       EXPECT_TRUE(std::filesystem::exists(FavouriteFile()));
@@ -232,7 +235,8 @@ TEST_F(Details, AFavouriteThatStaysOneBecomesTheChangedLine) {
   EXPECT_EQ(Favourites(), Lines({other, kTwiceBread, other}));
   EXPECT_TRUE(test.boxes.shown.empty());
   // Without a change all of them stay as they are.
-  EXPECT_TRUE(SaveDetails(program, Open(kTwiceBread)));
+  FoodDetails twice = Open(kTwiceBread);
+  EXPECT_TRUE(SaveDetails(program, twice));
   EXPECT_EQ(Favourites(), Lines({other, kTwiceBread, other}));
 }
 

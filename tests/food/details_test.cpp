@@ -152,7 +152,7 @@ TEST_F(Details, ALineBeyondEveryNumberOpensAsFarAsItCame) {
   FoodLine food = kBread;
   const Text endless(400, '9');
   food.kcal = endless;
-  const FoodDetails details = Open(LineOf(food));
+  FoodDetails details = Open(LineOf(food));
   EXPECT_EQ(Codes(), ":#F6-0");
   EXPECT_EQ(details.bVar[PortionBox::kKj], "1000");
   EXPECT_EQ(details.txt_gram, "");

@@ -192,5 +192,32 @@ TEST_F(BrowserUsers, ANameIsDrawnInOneLineAndToldWholeWhereItIsCut) {
   QToolTip::hideText();
 }
 
+TEST_F(BrowserUsers, TheOnlyUserIsChosenAndEnterOpensTheNewestDay) {
+  for (const char* user : {"Bert", "Carl"}) fs::remove_all(UserFolder(program.paths, user));
+  Open();
+  EXPECT_EQ(program.paths.UserName, "Anna");
+  EXPECT_EQ(SelectedUser(), "Anna");
+  EXPECT_EQ(program.profile[ProfileField::reference], "REF-Anna");
+  EXPECT_EQ(List()->model()->rowCount(), 2);
+  EXPECT_TRUE(test.boxes.shown.empty());
+  ASSERT_TRUE(List()->hasFocus());
+  QTest::keyClick(List(), Qt::Key_Return);
+  EXPECT_EQ(program.store.KV_bestand, "new.kvf");
+}
+
+TEST_F(BrowserUsers, OfSeveralNoneIsChosen) {
+  Open();
+  EXPECT_EQ(program.paths.UserName, "");
+  EXPECT_EQ(SelectedUser(), "");
+}
+
+TEST_F(BrowserUsers, EnterOpensTheRowInFocus) {
+  OpenAsAnna();
+  QTest::keyClick(List(), Qt::Key_Up, Qt::ControlModifier);  // moves the focus and selects nothing
+  EXPECT_EQ(SelectedRows(), "");
+  QTest::keyClick(List(), Qt::Key_Return);
+  EXPECT_EQ(program.store.KV_bestand, "old.kvf");
+}
+
 }  // namespace
 }  // namespace kelvora

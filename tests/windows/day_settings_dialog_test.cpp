@@ -151,6 +151,49 @@ TEST_F(DaySettingsWindow, AFailedTestLeavesTheDialogOpenWithAllThatWasTyped) {
   EXPECT_EQ(Shown("pg_0"), "Anna");
   EXPECT_FALSE(test.program.store.DayIsOpen());
   EXPECT_TRUE(test.core.opened.empty());
+  EXPECT_EQ(Find<QLineEdit>("pg_8")->selectedText(), "12");
+}
+
+TEST_F(DaySettingsWindow, AfterARefusalTheFocusIsInTheBoxThatIsWrong) {
+  Open();
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find<QWidget>("pg_0")->hasFocus());
+  Type("pg_0", "Anna");
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find<QWidget>("txt_lengte_m")->hasFocus());
+  Type("txt_lengte_m", "1.80");
+  Type("txt_gewicht", "70");
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find<QWidget>("txt_streefgewicht")->hasFocus());
+  Type("txt_streefgewicht", "65.5");
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find<QWidget>("pg_7")->hasFocus());
+  Find<QComboBox>("pg_7")->setCurrentIndex(1);
+  Type("pg_8", "42");
+  Type("pg_9_b", "13");
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find<QWidget>("pg_9_b")->hasFocus());
+  Type("pg_9_b", "12");
+  // On another tab, which then shows.
+  Paste("pg_3", QString::fromUtf8("½"));
+  Click("cmd_opslaan");
+  EXPECT_TRUE(Find<QWidget>("pg_3")->hasFocus());
+  EXPECT_TRUE(Find<QWidget>("pg_3")->isVisible());
+  EXPECT_EQ(test.boxes.shown.size(), 6u);
+}
+
+TEST_F(DaySettingsWindow, TheOnlyUserIsChosenWhenNoneIs) {
+  AddUser("Anna");
+  Open();
+  EXPECT_EQ(test.program.paths.UserName, "Anna");
+  EXPECT_EQ(Shown("pg_8"), "42");
+  EXPECT_TRUE(Find<QWidget>("txt_gewicht")->hasFocus());
+  CloseNow();
+  test.program.paths.UserName.clear();
+  test.program.paths.UserFolderName.clear();
+  AddUser("Bert");
+  Open();
+  EXPECT_EQ(test.program.paths.UserName, "");
 }
 
 TEST_F(DaySettingsWindow, APastedHalfIsRefused) {

@@ -38,6 +38,8 @@ TEST_P(WrongEntries, KeepTheEditGoing) {
   EXPECT_FALSE(Enabled("cmd_opslaan"));
   EXPECT_EQ(Box(GetParam().box)->text(), QString::fromUtf8(GetParam().typed));
   EXPECT_FALSE(Box(GetParam().box)->isReadOnly());
+  EXPECT_TRUE(Box(GetParam().box)->hasFocus());
+  EXPECT_TRUE(Box(GetParam().box)->isVisible());
   EXPECT_TRUE(Own().Empty());
 }
 
@@ -49,6 +51,7 @@ TEST_F(FoodDetailsWindow, AStoredWeightThatIsNotWholeIsRefused) {
   EXPECT_EQ(Said(),
             "The food weight field can only contain whole numbers.\n"
             "Change the number and press 'save' again.");
+  EXPECT_TRUE(Box("txt_gram")->hasFocus());
   Type("txt_gram", "12");
   Click("cmd_bewerk");
   EXPECT_FALSE(dialog->isVisible());
@@ -64,6 +67,7 @@ TEST_F(FoodDetailsWindow, APastedDescriptionOfAnyLengthIsRefusedPast900Character
             "Enter a shorter description and try again.\n"
             "Remove the characters and try again.");
   EXPECT_LE(dialog->width(), 1024);
+  EXPECT_TRUE(Box("bVar_0")->hasFocus());
   // What stands beside the name: 8 + 2 + 3 + 3 + 4 + 4 + 5 + 4 + 5 + 6 + 5 = 49, and eleven "-".
   Paste("bVar_0", QString(841, 'W'));
   Click("cmd_bewerk");

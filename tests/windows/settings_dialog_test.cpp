@@ -206,6 +206,7 @@ TEST_F(SettingsWindow, AnotherFolderIsBrowsedForAndNotTyped) {
   ASSERT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_FALSE(Saved());
+  EXPECT_TRUE(folder->hasFocus());
 
   test.folder_chooser.answer = test.folders.home.Path("My Data");
   Click("cmd_browse");

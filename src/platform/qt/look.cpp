@@ -143,6 +143,18 @@ void UseSmallLetters(QWidget* widget) {
   widget->setFont(font);
 }
 
+void GoToBox(QWidget* box) {
+  for (QWidget* page = box; page != nullptr; page = page->parentWidget()) {
+    // Between a page and its tabs stands the stack of all pages.
+    const QWidget* const stack = page->parentWidget();
+    auto* const tabs =
+        qobject_cast<QTabWidget*>(stack == nullptr ? nullptr : stack->parentWidget());
+    if (tabs != nullptr && tabs->indexOf(page) >= 0) tabs->setCurrentWidget(page);
+  }
+  box->setFocus();
+  if (auto* const line = qobject_cast<QLineEdit*>(box)) line->selectAll();
+}
+
 QString CaptionFrom(std::string_view text) {
   return ToQt(text).replace('&', QStringLiteral("&&"));
 }

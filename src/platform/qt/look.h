@@ -55,6 +55,9 @@ void MakeOneStop(QTabWidget* tabs);
 // Makes a widget's letters a little smaller than the desktop's, where room is scarce.
 void UseSmallLetters(QWidget* widget);
 
+// Brings a box into sight, on its tab, and the focus into it with its text selected.
+void GoToBox(QWidget* box);
+
 // A text as the caption of a menu, a button or a group, where "&" is a letter of it and not the
 // mark of a shortcut.
 [[nodiscard]] QString CaptionFrom(std::string_view text);
