@@ -57,6 +57,8 @@ struct DayState {
   // Routing code of the consumption window in which the running drag began.
   Text drag_source;
   DayUndo undo;
+  // The part that was active last: what Enter in the food lists adds to.
+  DayPart active_part = DayPart::morning;
 };
 
 // The bytes of the day file that was opened last, and the folder that it lay in.

@@ -76,6 +76,18 @@ inline constexpr std::array kFoodViews = {FoodView::standard, FoodView::own, Foo
 inline constexpr std::array<std::string_view, kFoodViews.size()> kFoodViewKeys = {"Alt+1", "Alt+2",
                                                                                   "Alt+3", "Alt+4"};
 
+// Which entries of the main window's food menu may be chosen for a row of a food list; `day_parts`
+// for all three and for another amount, `compare` for both boxes of the comparison.
+struct FoodMenu {
+  bool del = false;
+  bool add = false;
+  bool info = false;
+  bool favourite = false;
+  bool day_parts = false;
+  bool compare = false;
+  bool operator==(const FoodMenu&) const = default;
+};
+
 struct FoodListsView : WindowView {
   // Shows the standard list from its first category on.
   virtual void Toon_Standaardlijst() = 0;
@@ -91,18 +103,12 @@ struct FoodListsView : WindowView {
   virtual void CORE_Del_Item() {}
   virtual void AddSelectedToDay(DayPart) {}
   virtual void CompareSelected(CompareBox) {}
-};
-
-// Which entries of the main window's food menu may be chosen while it stands open for a row of a
-// food list; `day_parts` for all three, `compare` for both boxes of the comparison.
-struct FoodMenu {
-  bool del = false;
-  bool add = false;
-  bool info = false;
-  bool favourite = false;
-  bool day_parts = false;
-  bool compare = false;
-  bool operator==(const FoodMenu&) const = default;
+  // Brings the focus to where an amount of the selected rows is typed.
+  virtual void AskAmount() {}
+  // Brings the window to the front and the focus to its search box, or to the list that has none.
+  virtual void FocusSearch() {}
+  // Shows which part of the day Enter adds to.
+  virtual void ShowActivePart() {}
 };
 
 // A place on the screen, in device-independent pixels.
@@ -221,6 +227,8 @@ struct OpenWindows {
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
   std::array<bool, 3> totals_shown{};
+  // What the row in focus of the food lists allows, while that window is open; nothing without one.
+  FoodMenu lists_menu;
   // In force while the food menu stands open for a row of a food list.
   std::optional<FoodMenu> food_menu;
 

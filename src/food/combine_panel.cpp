@@ -76,6 +76,10 @@ void CombinePanel::Clear() {
   txt_nfo_7_->clear();
 }
 
+void CombinePanel::GoTo(CombineBox box) {
+  GoToBox(box == CombineBox::name ? txt_nfo_8_ : txt_nfo_7_);
+}
+
 void CombinePanel::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Escape:

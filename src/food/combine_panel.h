@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "food/combining.h"
 #include "platform/qt/text_box.h"
 
 namespace kelvora {
@@ -20,6 +21,7 @@ class CombinePanel : public QWidget {
   [[nodiscard]] Text Name() const;
   [[nodiscard]] Text Unit() const;
   void Clear();
+  void GoTo(CombineBox box);
 
  signals:
   void SavePressed();

@@ -93,6 +93,14 @@ bool MayBeCombined(const Program& program, const Messages& messages,
 
 }  // namespace
 
+std::optional<CombineBox> WrongBox(const Program& program, const CombineForm& form) {
+  const Text name(Trimmed(form.name));
+  if (name.empty() || HoldsTerminator(name)) return CombineBox::name;
+  if (HoldsTerminator(form.unit)) return CombineBox::unit;
+  if (program.store.Custom_list.FindFirst(KeyOf(name))) return CombineBox::name;
+  return std::nullopt;
+}
+
 bool CombineFoods(Program& program, DayPart part, const CombineForm& form) {
   bool combined = false;
   const bool morning = part == DayPart::morning;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "core/program.h"
 
@@ -16,6 +17,11 @@ struct CombineForm {
   Text name, unit;
   std::array<Text, 8> var;
 };
+
+enum class CombineBox { name, unit };
+
+// The box that a refused form is to be changed in; nothing if it is not the form that is wrong.
+[[nodiscard]] std::optional<CombineBox> WrongBox(const Program& program, const CombineForm& form);
 
 // Combines the foods of `part`. False when something in the form was refused: the box has told why,
 // and nothing has changed. The own list is written under its own failure code; a write that fails

@@ -1,5 +1,6 @@
 #include "food/consumption.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "core/common.h"
@@ -45,13 +46,6 @@ void TellOfLimit(Program& program, DayPart part, std::size_t first_line) {
       {.title = {},
        .text = text(first_line) + "\n" + text(ct::kLimitReached) + "\n\n" + text(ct::kLimitRemove),
        .icon = BoxIcon::error});
-}
-
-// A list of exactly the limit still takes one addition, as is meant.
-bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line) {
-  if (program.store.ListOf(part).Count() <= MaxDayPartLines) return false;
-  TellOfLimit(program, part, first_line);
-  return true;
 }
 
 void RefreshWindow(Program& program, DayPart part) {
@@ -127,7 +121,7 @@ std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part) {
                       Text(FieldOf(line, FoodField::kUnit)), PrintedOrNothing([&] {
                         return Str(ReadStoredNumber(portion) * times, separator);
                       }),
-                      NutrientCell(program, line, times, priority)});
+                      NutrientCell(program, line, times, priority), line});
     }
   });
   return rows;
@@ -179,6 +173,33 @@ ShownPanels FlipInfo(ShownPanels panels) {
 ShownPanels FlipCombineer(ShownPanels panels) {
   const bool shown = !panels.ToonCombineer;
   return {shown, shown};
+}
+
+bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line) {
+  if (program.store.ListOf(part).Count() <= MaxDayPartLines) return false;
+  TellOfLimit(program, part, first_line);
+  return true;
+}
+
+std::optional<std::size_t> PlaceAfterDelete(const std::vector<ConsumptionRow>& before,
+                                            const std::vector<ConsumptionRow>& after,
+                                            std::size_t first_deleted) {
+  if (after.empty()) return std::nullopt;
+  std::unordered_set<std::string_view> left;
+  for (const ConsumptionRow& row : after) left.insert(row.line);
+  // Rows above it may have gone too: those of its name.
+  std::size_t place = 0;
+  for (std::size_t i = 0; i < first_deleted; ++i) place += left.contains(before[i].line);
+  return std::min(place, after.size() - 1);
+}
+
+void MakeActive(Program& program, DayPart part) {
+  program.day.active_part = part;
+  if (program.windows.lists != nullptr) program.windows.lists->ShowActivePart();
+}
+
+void ShowDetailsOf(Program& program, const ConsumptionRow& row) {
+  program.windows.core->ShowItem("zoeken", row.line);
 }
 
 void SelectName(Program& program, DayPart part, std::string_view product) {

@@ -25,6 +25,7 @@ struct DayPartRow {
 // One row of the list: equal lines together, all texts ready to be shown.
 struct ConsumptionRow {
   Text number, count, product, unit, weight, nutrient;
+  Text line;  // that the row stands for, as it lies in the store
 };
 inline constexpr std::size_t kConsumptionColumns = 6;
 [[nodiscard]] const Text& CellOf(const ConsumptionRow& row, std::size_t column);
@@ -70,8 +71,22 @@ struct ShownPanels {
 [[nodiscard]] ShownPanels FlipInfo(ShownPanels panels);
 [[nodiscard]] ShownPanels FlipCombineer(ShownPanels panels);
 
+// The place of the cursor after rows were deleted: where the first of them was, and so on the row
+// that stands there now, or on the last one. Nothing while there is no row.
+[[nodiscard]] std::optional<std::size_t> PlaceAfterDelete(const std::vector<ConsumptionRow>& before,
+                                                          const std::vector<ConsumptionRow>& after,
+                                                          std::size_t first_deleted);
+
+// Makes a part of the day the one that Enter in the food lists adds to: its window was chosen, or
+// food was added to it. An open food lists window shows it.
+void MakeActive(Program& program, DayPart part);
+
 // The product of the row last clicked or changed.
 void SelectName(Program& program, DayPart part, std::string_view product);
+
+// True for a list that takes nothing more, after the box that says so; `first_line` is the text
+// that it begins with. A list of exactly the limit still takes one addition, as is meant.
+[[nodiscard]] bool IsAboveLimit(Program& program, DayPart part, std::size_t first_line);
 
 // One more portion: a copy of the first line of that name, unless the list is above the limit.
 // A name with lines of different values is incremented by the first of them, as is meant. Without a
@@ -80,6 +95,9 @@ void Item_Plus_Een(Program& program, DayPart part, const std::optional<Text>& pr
 
 // One portion less: the last line of that name goes.
 void Item_Min_Een(Program& program, DayPart part, const std::optional<Text>& product);
+
+// Shows the details of a row's food. The day keeps its line, whatever is saved there.
+void ShowDetailsOf(Program& program, const ConsumptionRow& row);
 
 // Every line of each name goes.
 void Item_Verwijder(Program& program, DayPart part, const TextList& products);

@@ -10,6 +10,8 @@
 
 #include "core/program.h"
 #include "food/combining.h"
+#include "food/consumption_amount.h"
+#include "food/other_amount_dialog.h"
 #include "language/consumption_texts.h"
 #include "language/main_texts.h"
 #include "language/own_texts.h"
@@ -56,6 +58,8 @@ ConsumptionWindow::ConsumptionWindow(Program& program, DayPart part, QWidget* pa
   Pic_SP_ = new CombinePanel(EntryContextOf(program_), this);
   BuildStatusBar();
   LayOut();
+  drops_ = new WindowDrops(this, LV_consumpties_);
+  for (QLineEdit* const box : Pic_SP_->findChildren<QLineEdit*>()) drops_->PassOn(box);
   ConnectAll();
   ShowPanels({.ToonInfo = program_.windows.totals_shown[static_cast<std::size_t>(part_)]});
   Set_Taal();
@@ -70,6 +74,20 @@ void ConsumptionWindow::closeEvent(QCloseEvent* event) {
 void ConsumptionWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   SetColumnWidths();
+  FollowFrame();
+}
+
+// The frame has the title bar, and knows when the window is chosen.
+void ConsumptionWindow::FollowFrame() {
+  auto* const frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+  if (frame == nullptr || frame == frame_) return;
+  frame_ = frame;
+  drops_->TakeOn(frame);
+  connect(frame, &QMdiSubWindow::windowStateChanged, this, [this](auto before, auto now) {
+    if (now.testFlag(Qt::WindowActive) && !before.testFlag(Qt::WindowActive)) {
+      MakeActive(program_, part_);
+    }
+  });
 }
 
 void ConsumptionWindow::BuildList() {
@@ -81,7 +99,9 @@ void ConsumptionWindow::BuildList() {
   LV_consumpties_->drag_payload = [this](const std::vector<std::size_t>& rows) {
     return rows.empty() ? Text() : BeginConsumptionDrag(program_, part_, SelectedNames());
   };
-  LV_consumpties_->drop = [this](const Text& payload) { DropOnDayPart(program_, part_, payload); };
+  LV_consumpties_->drop = [this](const Text& payload) {
+    if (DropOnDayPart(program_, part_, payload)) MakeActive(program_, part_);
+  };
   // The window itself has nothing that takes keys.
   setFocusPolicy(Qt::ClickFocus);
   setFocusProxy(LV_consumpties_);
@@ -145,13 +165,18 @@ void ConsumptionWindow::ConnectAll() {
   });
   on(plus_action_, [this] { Item_Plus_Een(program_, part_, CurrentName()); });
   on(minus_action_, [this] { Item_Min_Een(program_, part_, CurrentName()); });
-  on(remove_action_, [this] { Item_Verwijder(program_, part_, SelectedNames()); });
+  on(remove_action_, [this] { RemoveSelected(); });
   connect(LV_consumpties_, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
     row_menu_->ShowAt(LV_consumpties_->viewport()->mapToGlobal(place));
   });
   connect(LV_consumpties_, &FoodTable::PlusPressed, plus_action_, &QAction::trigger);
   connect(LV_consumpties_, &FoodTable::MinusPressed, minus_action_, &QAction::trigger);
   connect(LV_consumpties_, &FoodTable::DeletePressed, remove_action_, &QAction::trigger);
+  connect(LV_consumpties_, &FoodTable::EnterPressed, this, &ConsumptionWindow::ShowDetails);
+  connect(row_menu_, &RowMenu::DetailsAsked, this, &ConsumptionWindow::ShowDetails);
+  connect(row_menu_, &RowMenu::AmountAsked, this, &ConsumptionWindow::AskAmount);
+  connect(LV_consumpties_, &QAbstractItemView::doubleClicked, this,
+          &ConsumptionWindow::ShowDetails);
   const auto remember = [this](int row) {
     if (row >= 0 && !rebuilding_) {
       SelectName(program_, part_, (*rows_)[static_cast<std::size_t>(row)].product);
@@ -273,7 +298,10 @@ void ConsumptionWindow::KeepSelectedRowInView() {
 void ConsumptionWindow::Combine() {
   const CombineForm form{
       .name = Pic_SP_->Name(), .unit = Pic_SP_->Unit(), .var = Info_bar_->ShownValues()};
-  if (!CombineFoods(program_, part_, form)) return;
+  if (!CombineFoods(program_, part_, form)) {
+    if (const auto wrong = WrongBox(program_, form)) Pic_SP_->GoTo(*wrong);
+    return;
+  }
   Pic_SP_->Clear();
   ShowPanels({});
   LV_consumpties_->setFocus();
@@ -323,15 +351,44 @@ void ConsumptionWindow::SetColumnWidths() {
   FitHeadings();
 }
 
+// The cursor stays where the first of the rows was.
+void ConsumptionWindow::RemoveSelected() {
+  const auto selected = LV_consumpties_->SelectedRows();
+  const auto before = rows_;
+  Item_Verwijder(program_, part_, SelectedNames());
+  if (selected.empty() || rows_ == before) return;
+  const auto place = PlaceAfterDelete(*before, *rows_, selected.front());
+  if (place) LV_consumpties_->SelectRow(static_cast<int>(*place));
+}
+
+void ConsumptionWindow::ShowDetails() {
+  if (const ConsumptionRow* const row = CurrentRow()) ShowDetailsOf(program_, *row);
+}
+
+void ConsumptionWindow::AskAmount() {
+  const ConsumptionRow* const current = CurrentRow();
+  if (current == nullptr) return;
+  const ConsumptionRow row = *current;  // the rows are made anew by the change
+  const auto change = [this, &row](const Amount& amount) {
+    return ChangeAmount(program_, part_, row.line, amount).fault;
+  };
+  OtherAmountDialog(program_, row.product, AmountOfRow(row), change, this).exec();
+}
+
 TextList ConsumptionWindow::SelectedNames() const {
   TextList names;
   for (const std::size_t row : LV_consumpties_->SelectedRows()) names.Add((*rows_)[row].product);
   return names;
 }
 
-std::optional<Text> ConsumptionWindow::CurrentName() const {
+const ConsumptionRow* ConsumptionWindow::CurrentRow() const {
   const auto row = LV_consumpties_->RowInFocus();
-  return row ? std::optional((*rows_)[*row].product) : std::nullopt;
+  return row ? &(*rows_)[*row] : nullptr;
+}
+
+std::optional<Text> ConsumptionWindow::CurrentName() const {
+  const ConsumptionRow* const row = CurrentRow();
+  return row != nullptr ? std::optional(row->product) : std::nullopt;
 }
 
 }  // namespace kelvora

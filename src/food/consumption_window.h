@@ -1,9 +1,12 @@
 // One of the three consumption windows. A picture of one part of the day: it draws what the logic
 // gives it and passes clicks, keys and drops on.
 //
-// Keys in the list, all of them in the menu of a row too, but for the first line:
+// Keys in the list, all of them in the menu of a row too, but for the first line. Drops are taken
+// on the whole window, its frame included.
+//
 //   arrows, Shift, Ctrl+A     choose rows
-//   numeric +, numeric -      one portion of the row more or less
+//   +, -                      one portion of the row more or less
+//   F2, Enter                 another amount of the row; its details, as by a double click
 //   Delete, Shift+Delete      remove the rows entirely; take one portion of each out of the day
 //   Ctrl+1, Ctrl+2, Ctrl+3    move one portion of each row to morning, afternoon or evening
 //   Ctrl+X, Ctrl+V            the same by cutting here and pasting there
@@ -20,6 +23,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QStatusBar>
 #include <QWidget>
 
@@ -29,6 +33,7 @@
 #include "food/food_table_panel.h"
 #include "food/row_menu_panel.h"
 #include "food/totals_panel.h"
+#include "food/window_drops_panel.h"
 #include "platform/qt/tool_bar.h"
 
 namespace kelvora {
@@ -66,7 +71,12 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   void SelectRows(const std::vector<std::size_t>& rows);
   void KeepSelectedRowInView();
   void Combine();
+  void RemoveSelected();
+  void ShowDetails();
+  void AskAmount();
+  void FollowFrame();
   [[nodiscard]] TextList SelectedNames() const;
+  [[nodiscard]] const ConsumptionRow* CurrentRow() const;
   [[nodiscard]] std::optional<Text> CurrentName() const;
 
   Program& program_;
@@ -74,6 +84,7 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   OpenFlag<ConsumptionView> open_flag_;
   ShownPanels panels_shown_;
   std::shared_ptr<const std::vector<ConsumptionRow>> rows_;  // what the list shows
+  QMdiSubWindow* frame_ = nullptr;                           // around this window, once it is shown
   bool rebuilding_ = false;  // the current row changes, but nobody chose another one
   FoodTable* LV_consumpties_;
   ToolBar* Toolbar_;
@@ -84,6 +95,7 @@ class ConsumptionWindow : public QWidget, public ConsumptionView {
   QAction* minus_action_;
   QAction* remove_action_;
   RowMenu* row_menu_;
+  WindowDrops* drops_;
   TotalsPanel* Info_bar_;
   CombinePanel* Pic_SP_;
   QStatusBar* StatusBar_;

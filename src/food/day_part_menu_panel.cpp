@@ -10,11 +10,12 @@ struct DayPartItem {
   DayPart part;
   const char* name;  // of the icon too
   OwnText caption;
+  Qt::Key key;
 };
 constexpr std::array kItems = {
-    DayPartItem{DayPart::morning, "morning", OwnText::add_to_morning},
-    DayPartItem{DayPart::afternoon, "afternoon", OwnText::add_to_afternoon},
-    DayPartItem{DayPart::evening, "evening", OwnText::add_to_evening},
+    DayPartItem{DayPart::morning, "morning", OwnText::add_to_morning, Qt::Key_1},
+    DayPartItem{DayPart::afternoon, "afternoon", OwnText::add_to_afternoon, Qt::Key_2},
+    DayPartItem{DayPart::evening, "evening", OwnText::add_to_evening, Qt::Key_3},
 };
 
 }  // namespace
@@ -24,6 +25,9 @@ DayPartActions AddDayPartActions(QMenu* menu, std::function<void(DayPart)> chose
   for (std::size_t i = 0; i < kItems.size(); ++i) {
     QAction* const action = menu->addAction(IconNamed(kItems[i].name), QString());
     action->setObjectName(menu->objectName() + '_' + QLatin1String(kItems[i].name));
+    // Shown beside the entry; the food lists window has the keys.
+    action->setShortcut(QKeySequence(Qt::CTRL | kItems[i].key));
+    action->setShortcutContext(Qt::WidgetShortcut);
     QObject::connect(action, &QAction::triggered, menu,
                      [chosen, part = kItems[i].part] { chosen(part); });
     actions[i] = action;

@@ -1,10 +1,12 @@
 #include "food/food_list_commands.h"
 
+#include <algorithm>
 #include <array>
 #include <unordered_set>
 
 #include "food/consumption.h"
 #include "food/drag_text.h"
+#include "food/scaled_food.h"
 #include "internet/servers.h"
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
@@ -153,7 +155,7 @@ void AddNewFood(Program& program, FoodView view) {
 
 FoodMenu FoodMenuFor(const Program& program, FoodView view, std::size_t selected) {
   if (selected > 1) return {};
-  FoodMenu menu = selected == 0 ? RowOf(view).with_none : RowOf(view).with_one;
+  FoodMenu menu = FoodMenuOfRow(view, selected == 1);
   menu.day_parts = selected == 1 && program.store.DayIsOpen();
   menu.compare = selected == 1 && program.windows.comparison != nullptr;
   return menu;
@@ -168,17 +170,44 @@ void OpenFoodMenu(Program& program, FoodView view, std::size_t selected, ScreenP
   program.windows.core->PopUpFoodMenu(FoodMenuFor(program, view, selected), place);
 }
 
-bool MayAddToDay(Program& program, FoodLists& lists, FoodView view,
-                 const std::vector<std::size_t>& rows) {
-  if (!program.store.DayIsOpen() || rows.empty()) return false;
-  return !lists.DragPayload(view, rows).empty();
+AddedRows AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
+                       const std::vector<std::size_t>& rows, DayPart part, const Amount& amount) {
+  AddedRows result;
+  if (!program.store.DayIsOpen() || rows.empty()) return result;
+  if (lists.DragPayload(view, rows).empty()) return result;
+  program.Guard("#F11-7", [&] {
+    Text payload(kAddMarker);
+    for (const std::size_t row : rows) {
+      const auto made = LinesOfAmount(program.store, lists.LineAt(view, row), amount,
+                                      program.platform.locale.DecimalSeparator());
+      if (const auto* const fault = std::get_if<AmountFault>(&made)) {
+        result.fault = *fault;
+        return;
+      }
+      payload += PackBlock(std::get<TextList>(made));
+    }
+    result.added = DropOnDayPart(program, part, payload);
+    if (result.added) MakeActive(program, part);
+  });
+  return result;
 }
 
-void AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
-                  const std::vector<std::size_t>& rows, DayPart part) {
-  if (!program.store.DayIsOpen() || rows.empty()) return;
-  const Text payload = lists.DragPayload(view, rows);
-  if (!payload.empty()) DropOnDayPart(program, part, payload);
+std::optional<std::size_t> PlaceAfterDelete(const FoodLists& lists, FoodView view,
+                                            std::size_t first_deleted) {
+  const std::size_t left = lists.Count(view);
+  if (left == 0) return std::nullopt;
+  return std::min(first_deleted, left - 1);
+}
+
+FoodMenu FoodMenuOfRow(FoodView view, bool any_row) {
+  return any_row ? RowOf(view).with_one : RowOf(view).with_none;
+}
+
+Text ActivePartText(const Program& program) {
+  constexpr std::array kTexts = {OwnText::enter_adds_to_morning, OwnText::enter_adds_to_afternoon,
+                                 OwnText::enter_adds_to_evening};
+  if (!program.store.DayIsOpen()) return {};
+  return OwnTextOf(program.texts, kTexts[static_cast<std::size_t>(program.day.active_part)]);
 }
 
 void CompareRow(Program& program, FoodLists& lists, FoodView view, std::size_t row,

@@ -2,13 +2,15 @@
 // details, adding rows to a day part without a mouse, and the choice of the food server. Each takes
 // the view it acts on and rows of it.
 //
-// Enter on a list and the food menu add rows to the day by the same routine as a drop. Enter asks
-// first where to, with the day part used last under the cursor, so that a second Enter repeats it.
+// Enter on a list and the food menu add rows to the day by the same routine as a drop, Enter to the
+// part of the day that was active last.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
+#include "food/amount.h"
 #include "food/food_lists.h"
 
 namespace kelvora {
@@ -45,14 +47,28 @@ void AddNewFood(Program& program, FoodView view);
 // Opens the food menu, or warns that several rows are selected.
 void OpenFoodMenu(Program& program, FoodView view, std::size_t selected, ScreenPlace place);
 
-// True if the rows may go to a day part: a day is open and there are rows, but not too many, which
-// leads to the warning of a drag.
-[[nodiscard]] bool MayAddToDay(Program& program, FoodLists& lists, FoodView view,
-                               const std::vector<std::size_t>& rows);
+struct AddedRows {
+  bool added = false;
+  std::optional<AmountFault> fault;  // why nothing was, if it is the amount that is to blame
+};
 
-// Adds the lines of the rows to a day part, as a drop on its window does.
-void AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
-                  const std::vector<std::size_t>& rows, DayPart part);
+// Adds an amount of the food of each row to a day part, as a drop on its window does, and makes the
+// part the active one. Too many rows lead to the warning of a drag; of an amount that one of the
+// rows can't have, nothing is added. A failure shows "#F11-7".
+AddedRows AddRowsToDay(Program& program, FoodLists& lists, FoodView view,
+                       const std::vector<std::size_t>& rows, DayPart part,
+                       const Amount& amount = {});
+
+// The place of the cursor after rows were deleted: where the first of them was. Nothing while the
+// view has none.
+[[nodiscard]] std::optional<std::size_t> PlaceAfterDelete(const FoodLists& lists, FoodView view,
+                                                          std::size_t first_deleted);
+
+// What may be done with a row; what an entry of the menu would do nothing with, it may not.
+[[nodiscard]] FoodMenu FoodMenuOfRow(FoodView view, bool any_row);
+
+// What Enter adds to, for the third panel of the window; empty while no day is open.
+[[nodiscard]] Text ActivePartText(const Program& program);
 
 // Puts the food of a row into a box of the comparison, if that window is open.
 void CompareRow(Program& program, FoodLists& lists, FoodView view, std::size_t row, CompareBox box);

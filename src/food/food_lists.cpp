@@ -181,6 +181,10 @@ bool FoodLists::NothingOften() const {
   return often_ && often_->Empty();
 }
 
+bool FoodLists::NoNameBegins() const {
+  return last_search_ && last_search_->kind == SearchKind::at_front && temp_zoeken_.Empty();
+}
+
 Text FoodLists::AvailableText(FoodView view) const {
   const std::size_t count =
       view == FoodView::standard ? program_.store.Default_list.Count() : Count(view);

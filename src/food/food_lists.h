@@ -92,6 +92,9 @@ class FoodLists {
   // Searches as the last time, after the own list has changed. True if what is found has changed.
   bool SearchAgain();
 
+  // True while a search for names that begin with a text has found none.
+  [[nodiscard]] bool NoNameBegins() const;
+
   // The second panel of the status bar: how many a view has, and what a search found.
   [[nodiscard]] Text AvailableText(FoodView view) const;
   [[nodiscard]] Text ResultsText() const;

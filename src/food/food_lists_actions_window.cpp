@@ -4,6 +4,7 @@
 
 #include "food/food_list_commands.h"
 #include "food/food_lists_window.h"
+#include "platform/qt/text.h"
 
 namespace kelvora {
 namespace {
@@ -21,7 +22,7 @@ void FoodListsWindow::RememberRow(FoodView view, int row) {
 }
 
 void FoodListsWindow::DeleteSelected(FoodView view) {
-  DeleteRows(program_, lists_, view, TableOf(view).SelectedRows());
+  DeleteAndStay(view, TableOf(view).SelectedRows());
 }
 
 void FoodListsWindow::OpenMenu(FoodView view, QPoint place) {
@@ -44,21 +45,39 @@ void FoodListsWindow::CORE_New_Item() {
 
 void FoodListsWindow::CORE_Del_Item() {
   const auto row = TableOf(View()).RowInFocus();
-  if (row) DeleteRows(program_, lists_, View(), {*row});
+  if (row) DeleteAndStay(View(), {*row});
 }
 
-void FoodListsWindow::AskDayPart(FoodView view) {
-  FoodTable& table = TableOf(view);
-  if (!MayAddToDay(program_, lists_, view, table.SelectedRows())) return;
-  table.scrollTo(table.currentIndex());
-  const QRect row = table.visualRect(table.currentIndex());
-  day_part_menu_->popup(table.viewport()->mapToGlobal(row.bottomLeft()));
-  day_part_menu_->setActiveAction(day_part_actions_[static_cast<std::size_t>(last_day_part_)]);
+// The cursor stays where the first of the rows was.
+void FoodListsWindow::DeleteAndStay(FoodView view, const std::vector<std::size_t>& rows) {
+  const std::size_t before = lists_.Count(view);
+  DeleteRows(program_, lists_, view, rows);
+  if (lists_.Count(view) == before) return;
+  const auto place = PlaceAfterDelete(lists_, view, rows.front());
+  if (place) TableOf(view).SelectRow(static_cast<int>(*place));
 }
 
 void FoodListsWindow::AddSelectedToDay(DayPart part) {
-  last_day_part_ = part;
-  AddRowsToDay(program_, lists_, View(), TableOf(View()).SelectedRows(), part);
+  const auto amount = txt_amount_->Read();
+  if (!amount) return;
+  const auto rows = TableOf(View()).SelectedRows();
+  const AddedRows result = AddRowsToDay(program_, lists_, View(), rows, part, *amount);
+  if (result.fault) return txt_amount_->Refuse(*result.fault);
+  if (!result.added) return;
+  txt_amount_->clear();
+  FocusSearch();
+}
+
+void FoodListsWindow::ShowActivePart() {
+  panels_[2]->setText(ToQt(ActivePartText(program_)));
+}
+
+// The menu of the main window follows the row in focus.
+void FoodListsWindow::NoteRow() {
+  const FoodMenu menu = FoodMenuOfRow(View(), TableOf(View()).RowInFocus().has_value());
+  if (program_.windows.lists_menu == menu) return;
+  program_.windows.lists_menu = menu;
+  if (program_.windows.core != nullptr) program_.windows.core->UpdateCommands();
 }
 
 void FoodListsWindow::CompareSelected(CompareBox box) {

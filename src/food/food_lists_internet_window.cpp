@@ -7,7 +7,9 @@ namespace kelvora {
 
 void FoodListsWindow::BuildInternetSearch() {
   Pic_internet_ = new InternetSearchPanel(EntryContextOf(program_), this);
-  TextBox* const term = &Pic_internet_->Term();
+  SearchBox* const term = &Pic_internet_->Term();
+  term->go_to_found = [this] { return TableOf(FoodView::internet).GoToFirstRow(); };
+  term->empty = [term] { term->ShowText({}); };
   connect(term, &QLineEdit::returnPressed, this,
           [this, term] { search_.Zoek_Op_Internet(term->Entered()); });
   give_up_ = new QShortcut(QKeySequence(Qt::Key_Escape), this);

@@ -21,7 +21,8 @@ namespace {
 using namespace lists_text;
 
 constexpr int kProgressWidth = 90;
-constexpr int kLeastListHeight = 38;  // the headings and one row
+constexpr int kLeastListHeight = 38;   // the headings and one row
+constexpr int kListPanelWidth = 1800;  // twips, at the least
 
 // The four views, in the order of their buttons.
 struct ViewRow {
@@ -49,11 +50,13 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
       lists_(program),
       search_(program, lists_.temp_internet(), *this) {
   NameWidget(this, "KV_tb_lijsten");
+  program_.windows.lists_menu = {};
   BuildToolbar();
   BuildSearch();
   BuildInternetSearch();
   BuildViews();
   BuildFoodButtons();
+  BuildAmount();
   BuildStatusBar();
   LayOut();
   setFocusPolicy(Qt::ClickFocus);
@@ -64,6 +67,7 @@ FoodListsWindow::FoodListsWindow(Program& program, QWidget* parent)
 }
 
 void FoodListsWindow::closeEvent(QCloseEvent* event) {
+  program_.windows.lists_menu = {};
   open_flag_.Clear();
   search_.GiveUp();
   QWidget::closeEvent(event);
@@ -81,28 +85,6 @@ void FoodListsWindow::BuildToolbar() {
   });
 }
 
-void FoodListsWindow::BuildSearch() {
-  const EntryContext entry = EntryContextOf(program_);
-  Pic_zoek_ = new FoodSearchPanel(entry, this);
-  TextBox* const search = &Pic_zoek_->Search();
-  connect(&Pic_zoek_->Categories(), &QComboBox::textActivated, this,
-          [this, search](const QString& category) {
-            search->ShowText(lists_.ChooseCategory(FromQt(category)));
-            ShowResults();
-          });
-  connect(&Pic_zoek_->Often(), &QPushButton::clicked, this, &FoodListsWindow::ShowOften);
-  connect(&reading_often_, &QTimer::timeout, this, &FoodListsWindow::ReadOften);
-  connect(search, &QLineEdit::textEdited, this, [this, search] {
-    const Text text = search->Entered();
-    if (text.empty()) return Toon_Standaardlijst();
-    lists_.SearchPrefix(text);
-    ShowResults();
-  });
-  connect(search, &QLineEdit::returnPressed, this, [this, search] {
-    if (lists_.Zoek_In_Lijsten(search->Entered())) ShowResults();
-  });
-}
-
 void FoodListsWindow::BuildViews() {
   stack_ = new QStackedWidget(this);
   for (const FoodView view : kFoodViews) {
@@ -114,10 +96,6 @@ void FoodListsWindow::BuildViews() {
     tables_[static_cast<std::size_t>(view)] = table;
     ConnectView(view, table);
   }
-  day_part_menu_ = new QMenu(this);
-  day_part_menu_->setObjectName(QStringLiteral("mnu_day_parts"));
-  day_part_actions_ =
-      AddDayPartActions(day_part_menu_, [this](DayPart part) { AddSelectedToDay(part); });
 }
 
 void FoodListsWindow::ConnectView(FoodView view, FoodTable* table) {
@@ -138,7 +116,16 @@ void FoodListsWindow::ConnectView(FoodView view, FoodTable* table) {
     ShowDetails(program_, lists_, view, static_cast<std::size_t>(index.row()));
   });
   connect(table, &FoodTable::DeletePressed, this, [this, view] { DeleteSelected(view); });
-  connect(table, &FoodTable::EnterPressed, this, [this, view] { AskDayPart(view); });
+  connect(table, &FoodTable::EnterPressed, this,
+          [this] { AddSelectedToDay(program_.day.active_part); });
+  connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &FoodListsWindow::NoteRow);
+  table->on_escape = [this] { FocusSearch(); };
+  table->type_amount = [this](const QString& digit) {
+    txt_amount_->setFocus();
+    txt_amount_->clear();
+    txt_amount_->insert(digit);
+  };
   connect(table, &QWidget::customContextMenuRequested, this, [this, view, table](QPoint place) {
     OpenMenu(view, table->viewport()->mapToGlobal(place));
   });
@@ -164,11 +151,13 @@ void FoodListsWindow::BuildStatusBar() {
   StatusBar_ = new QStatusBar(this);
   NameWidget(StatusBar_, "StatusBar");
   StatusBar_->setSizeGripEnabled(false);
-  panels_ = {new LongLabel(StatusBar_, "StatusBar_1"), new LongLabel(StatusBar_, "StatusBar_2")};
-  for (QLabel* const panel : panels_) {
+  panels_ = {new LongLabel(StatusBar_, QStringLiteral("StatusBar_1")),
+             new LongLabel(StatusBar_, QStringLiteral("StatusBar_2")),
+             NewLabel(this, "StatusBar_3")};
+  for (QLabel* const panel : {panels_[0], panels_[1]}) {
     panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   }
-  panels_[0]->setMinimumWidth(PixelsOfTwips(1800));
+  panels_[0]->setMinimumWidth(PixelsOfTwips(kListPanelWidth));
   StatusBar_->addWidget(panels_[0]);
   StatusBar_->addWidget(panels_[1], 1);
   ProgressBar_ = new QProgressBar(StatusBar_);
@@ -197,13 +186,22 @@ void FoodListsWindow::LayOut() {
   layout->addLayout(list, 1);
   auto* const options = new QHBoxLayout;
   options->setContentsMargins(4, 2, 4, 2);
+  options->setSpacing(6);
+  options->addWidget(lbl_amount_);
+  options->addWidget(txt_amount_);
   options->addStretch();
   options->addWidget(Pic_opties_);
   layout->addLayout(options);
+  // The third panel has a line of its own: beside the two others its words find no room in Dutch.
+  auto* const target = new QHBoxLayout;
+  target->setContentsMargins(4, 0, 4, 2);
+  target->addWidget(panels_[2]);
+  layout->addLayout(target);
   layout->addWidget(StatusBar_);
   setTabOrder(Pic_toevoegen_, tables_.front());
   for (std::size_t i = 1; i < tables_.size(); ++i) setTabOrder(tables_[i - 1], tables_[i]);
-  setTabOrder(tables_.back(), Pic_opties_);
+  setTabOrder(tables_.back(), txt_amount_);
+  setTabOrder(txt_amount_, Pic_opties_);
 }
 
 void FoodListsWindow::CloseWindow() {
@@ -218,7 +216,8 @@ void FoodListsWindow::Set_Taal() {
   Pic_internet_->Set_Taal(texts);
   Pic_toevoegen_->setText(ToQt(texts[kAddPanel]));
   Pic_opties_->setText(ToQt(texts[kOptionsPanel]));
-  SetDayPartTexts(day_part_actions_, texts);
+  lbl_amount_->setText(ToQt(OwnTextOf(texts, OwnText::amount)));
+  txt_amount_->Set_Taal();
   ProgressBar_->setAccessibleName(ToQt(texts[kProgress]));
   StatusBar_->setAccessibleName(ToQt(texts[main_text::kStatusBarName]));
   for (const FoodView view : kFoodViews) {
@@ -228,6 +227,7 @@ void FoodListsWindow::Set_Taal() {
   }
   SetEmptyTexts();
   ShowServer();
+  ShowActivePart();
   ShowStatus();
 }
 
@@ -245,6 +245,7 @@ void FoodListsWindow::ShowView(FoodView view) {
   setFocusProxy(&KeyTaker());
   ShowStatus();
   SetColumnWidths(view);
+  NoteRow();
 }
 
 void FoodListsWindow::ChooseView(FoodView view) {
@@ -278,7 +279,9 @@ void FoodListsWindow::SetEmptyTexts() {
   const auto set = [this](FoodView view, OwnText text) {
     TableOf(view).SetEmptyText(ToQt(OwnTextOf(program_.texts, text)));
   };
-  set(FoodView::standard, lists_.NothingOften() ? OwnText::empty_often : OwnText::empty_results);
+  set(FoodView::standard, lists_.NothingOften()   ? OwnText::empty_often
+                          : lists_.NoNameBegins() ? OwnText::no_name_begins
+                                                  : OwnText::empty_results);
   set(FoodView::own, OwnText::empty_own_list);
   set(FoodView::favourites, OwnText::empty_favourites);
   set(FoodView::internet,
@@ -301,6 +304,7 @@ void FoodListsWindow::Populate(FoodView view, Scroll scroll) {
   ProgressBar_->setVisible(false);
   program_.platform.pointer.Restore();
   SetColumnWidths(view);
+  NoteRow();
 }
 
 // The same lines stay selected, wherever they stand now.
@@ -369,12 +373,14 @@ void FoodListsWindow::Toon_Standaardlijst() {
     Pic_zoek_->Search().ShowText(*searched);
     Pic_zoek_->Search().selectAll();
   }
+  SetEmptyTexts();
   Populate(FoodView::standard, Scroll::to_top);
   results_shown_ = false;
   ShowStatus();
 }
 
 void FoodListsWindow::ShowResults() {
+  SetEmptyTexts();
   Populate(FoodView::standard, Scroll::to_top);
   results_shown_ = true;
   ShowStatus();
@@ -386,6 +392,7 @@ void FoodListsWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   reading_often_.start(0);
   for (FoodTable* const table : tables_) LayFoodColumns(*table, stack_->width());
+  FollowFrame();
 }
 
 void FoodListsWindow::resizeEvent(QResizeEvent* event) {

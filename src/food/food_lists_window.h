@@ -2,15 +2,21 @@
 // food_lists.h fills; what is chosen, dropped or deleted goes to food_list_commands.h, and the
 // internet is searched by internet/search.h.
 //
-// Besides the mouse: Enter on a list asks which day part the selected rows go to, with the one used
-// last under the cursor, so that Enter twice repeats it; the menu of a row has the same entries.
+// Keys, besides those of any list and box:
+//   Down, Tab                 from the search box to the first row that was found
+//   Enter on a row            adds the amount of the box below the list to the part of the day that
+//                             stands below that box
+//   Ctrl+1, Ctrl+2, Ctrl+3    the same, to morning, afternoon or evening
+//   a digit on a row          begins the amount
+//   Escape                    empties a box; from a list, back to the search box
+// Whatever adds goes back to the search box, where the next word takes the place of the last one.
 #pragma once
 
 #include <array>
 #include <optional>
 
 #include <QLabel>
-#include <QMenu>
+#include <QMdiSubWindow>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
@@ -20,7 +26,7 @@
 #include <QWidget>
 
 #include "core/program.h"
-#include "food/day_part_menu_panel.h"
+#include "food/amount_box_panel.h"
 #include "food/food_lists.h"
 #include "food/food_lists_toolbar_panel.h"
 #include "food/food_search_panel.h"
@@ -50,6 +56,9 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   void ChooseView(FoodView view) override;
   void AddSelectedToDay(DayPart part) override;
   void CompareSelected(CompareBox box) override;
+  void AskAmount() override;
+  void FocusSearch() override;
+  void ShowActivePart() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -73,6 +82,9 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   void BuildViews();
   void ConnectView(FoodView view, FoodTable* table);
   void BuildFoodButtons();
+  void BuildAmount();
+  void FollowFrame();
+  void NoteRow();
   void BuildStatusBar();
   void LayOut();
   void ShowView(FoodView view);
@@ -92,7 +104,8 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   void ShowServer();
   void RememberRow(FoodView view, int row);
   void DeleteSelected(FoodView view);
-  void AskDayPart(FoodView view);
+  void DeleteAndStay(FoodView view, const std::vector<std::size_t>& rows);
+  void AddFromAmountBox();
   void OpenMenu(FoodView view, QPoint place);
   [[nodiscard]] FoodView View() const;
   [[nodiscard]] FoodTable& TableOf(FoodView view) {
@@ -108,7 +121,7 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   bool results_shown_ = false;  // the status tells how many were found, not how many there are
   bool nothing_found_ = false;  // the status tells so of the internet view
   bool term_had_focus_ = false;
-  DayPart last_day_part_ = DayPart::morning;
+  QMdiSubWindow* frame_ = nullptr;  // around this window, once it is shown
   FoodListsToolbar* Toolbar_;
   FoodSearchPanel* Pic_zoek_;
   InternetSearchPanel* Pic_internet_;
@@ -117,10 +130,10 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   QStackedWidget* stack_;
   std::array<FoodTable*, kFoodViews.size()> tables_;
   QShortcut* give_up_;
-  QMenu* day_part_menu_;
-  DayPartActions day_part_actions_;
+  QLabel* lbl_amount_;
+  AmountBox* txt_amount_;
   QStatusBar* StatusBar_;
-  std::array<QLabel*, 2> panels_;
+  std::array<QLabel*, 3> panels_;
   QProgressBar* ProgressBar_;
 };
 

@@ -2,11 +2,13 @@
 
 #include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/choice_list.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -20,21 +22,6 @@ using namespace lists_text;
 // it.
 constexpr QColor kSearchingGround(0xE0, 0xE0, 0xE0);
 constexpr QColor kSearchingLetters(0x40, 0x40, 0x40);
-
-// The box holds the name of the category most of the time: what is typed takes its place.
-class SearchBox : public TextBox {
- public:
-  using TextBox::TextBox;
-
- protected:
-  void focusInEvent(QFocusEvent* event) override {
-    TextBox::focusInEvent(event);
-    // A window that comes back to the front keeps what was being typed.
-    if (event->reason() != Qt::MouseFocusReason) return;
-    // After the click that brings the focus, which puts the cursor somewhere.
-    QTimer::singleShot(0, this, &QLineEdit::selectAll);
-  }
-};
 
 QVBoxLayout* NewPanelLayout(QWidget* panel) {
   auto* const layout = new QVBoxLayout(panel);
@@ -51,11 +38,41 @@ void SetCaption(QLabel* caption, QWidget* box, const Text& text) {
 
 }  // namespace
 
+void SearchBox::focusInEvent(QFocusEvent* event) {
+  TextBox::focusInEvent(event);
+  switch (event->reason()) {
+    // A window or a menu that is left goes back to what was being typed.
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+      return;
+    case Qt::MouseFocusReason:
+      // After the click that brings the focus, which puts the cursor somewhere.
+      QTimer::singleShot(0, this, &QLineEdit::selectAll);
+      return;
+    default:
+      selectAll();
+  }
+}
+
+void SearchBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Down && go_to_found) {
+    go_to_found();
+    return;
+  }
+  if (event->key() == Qt::Key_Escape && empty) return empty();
+  TextBox::keyPressEvent(event);
+}
+
+bool SearchBox::focusNextPrevChild(bool next) {
+  if (next && go_to_found && go_to_found()) return true;
+  return TextBox::focusNextPrevChild(next);
+}
+
 FoodSearchPanel::FoodSearchPanel(const EntryContext& entry, QWidget* parent) : QWidget(parent) {
   NameWidget(this, "Pic_zoek");
   txt_catuitleg_ = NewLabel(this, "txt_catuitleg");
-  combo_cat_ = new QComboBox(this);
-  NameWidget(combo_cat_, "combo_cat");
+  combo_cat_ = new DropDownList(this, "combo_cat");
   txt_zoekuitleg_ = new LongLabel(this, "txt_zoekuitleg");
   txt_zoeken_ = new SearchBox(this, QStringLiteral("txt_zoeken"), entry);
   txt_zoeken_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
@@ -93,7 +110,7 @@ InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* par
     : QWidget(parent) {
   NameWidget(this, "Pic_internet");
   txt_internetzoektext_ = new LongLabel(this, "txt_internetzoektext");
-  txt_internet_ = new TextBox(this, QStringLiteral("txt_internet"), entry);
+  txt_internet_ = new SearchBox(this, QStringLiteral("txt_internet"), entry);
   txt_internet_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_internetzoektext_->setBuddy(txt_internet_);
   txt_server_ = NewLabel(this, "txt_server");

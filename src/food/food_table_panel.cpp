@@ -106,14 +106,14 @@ void FoodTable::startDrag(Qt::DropActions) {
 }
 
 void FoodTable::dragEnterEvent(QDragEnterEvent* event) {
-  if (!drop || !Takes(event->mimeData())) return event->ignore();
+  if (!Takes(event->mimeData())) return event->ignore();
   event->acceptProposedAction();
   SetDropLight(true);
 }
 
 bool FoodTable::Takes(const QMimeData* data) const {
   // What text can't hold is no drag of this program, and would become something else here.
-  if (!data->hasText() || !TextHolds(data->text())) return false;
+  if (!drop || !data->hasText() || !TextHolds(data->text())) return false;
   const Text payload = FromQt(data->text());
   return takes ? takes(payload) : IsDragText(payload);
 }
@@ -129,18 +129,33 @@ void FoodTable::dragLeaveEvent(QDragLeaveEvent*) {
 }
 
 void FoodTable::dropEvent(QDropEvent* event) {
-  SetDropLight(false);
-  if (!drop) return;
   event->acceptProposedAction();
-  drop(FromQt(event->mimeData()->text()));
+  TakeDrop(event->mimeData());
+}
+
+void FoodTable::TakeDrop(const QMimeData* data) {
+  SetDropLight(false);
+  if (drop) drop(FromQt(data->text()));
+}
+
+bool FoodTable::GoToFirstRow() {
+  if (model_.rowCount() == 0) return false;
+  setFocus();
+  SelectRow(0);
+  return true;
 }
 
 void FoodTable::keyPressEvent(QKeyEvent* event) {
-  const bool numeric_pad = event->modifiers().testFlag(Qt::KeypadModifier);
+  // Plus and minus of the number pad and of the main keys alike; the latter may need Shift.
+  const bool commands = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   if (event->key() == Qt::Key_Delete) return emit DeletePressed();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return emit EnterPressed();
-  if (numeric_pad && event->key() == Qt::Key_Plus) return emit PlusPressed();
-  if (numeric_pad && event->key() == Qt::Key_Minus) return emit MinusPressed();
+  if (!commands && event->key() == Qt::Key_Plus) return emit PlusPressed();
+  if (!commands && event->key() == Qt::Key_Minus) return emit MinusPressed();
+  if (event->key() == Qt::Key_Escape && on_escape) return on_escape();
+  const QString typed = event->text();
+  const bool digit = typed.size() == 1 && typed.front() >= u'0' && typed.front() <= u'9';
+  if (!commands && digit && type_amount) return type_amount(typed);
   QTableView::keyPressEvent(event);
   // The focus makes the first row the current one without selecting it, and where there is no other
   // row the arrow keys lead nowhere.

@@ -27,6 +27,16 @@ class FoodTable : public QTableView {
   std::function<bool(const Text& payload)> takes;
   // Takes a payload that was dropped.
   std::function<void(const Text& payload)> drop;
+  // Takes a digit typed on the list, where digits begin an amount.
+  std::function<void(const QString& digit)> type_amount;
+  // What Escape does; nothing of its own while not set.
+  std::function<void()> on_escape;
+
+  // What a drag over the list does to it, for whoever stands around it: whether it is taken, the
+  // frame that says so, and the drop.
+  [[nodiscard]] bool Takes(const QMimeData* data) const;
+  void SetDropLight(bool on);
+  void TakeDrop(const QMimeData* data);
 
   [[nodiscard]] TextTableModel& Model() { return model_; }
   // What an empty list says, in grey, at that place.
@@ -34,6 +44,8 @@ class FoodTable : public QTableView {
   // The numbers of the selected rows, from first to last.
   [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
   void SelectRow(int row);
+  // Brings the focus to the list with the first row selected; false for an empty list.
+  bool GoToFirstRow();
   // Selects these rows, given from first to last, and nothing else; `focus` becomes the current one
   // and comes into view.
   void SelectRows(const std::vector<std::size_t>& rows, std::size_t focus);
@@ -59,8 +71,6 @@ class FoodTable : public QTableView {
 
  private:
   void BuildEmptyHint();
-  void SetDropLight(bool on);
-  [[nodiscard]] bool Takes(const QMimeData* data) const;
 
   TextTableModel model_;
   bool drop_light_ = false;

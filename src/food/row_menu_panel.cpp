@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QMimeData>
 
+#include "language/main_texts.h"
 #include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -60,6 +61,9 @@ RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selec
       rows_(std::move(rows)),
       list_(list) {
   NameWidget(this, "row_menu");
+  amount_ = AddEntry("mnu_amount", {}, Qt::Key_F2, [this] { emit AmountAsked(); });
+  // Enter on the list is that of the details, by whichever of its keys.
+  details_ = AddEntry("mnu_details", "item-info", Qt::Key_unknown, [this] { emit DetailsAsked(); });
   take_out_ = AddEntry("mnu_take_out", "item-delete", Qt::SHIFT | Qt::Key_Delete,
                        [this] { TakeOutOfDay(program_, part_, selected_()); });
   addSeparator();
@@ -95,7 +99,7 @@ QAction* RowMenu::AddEntry(const char* name, std::string_view icon, QKeyCombinat
   QAction* const action = addAction(QString());
   if (!icon.empty()) action->setIcon(IconNamed(icon));
   action->setObjectName(QLatin1String(name));
-  action->setShortcut(QKeySequence(keys));
+  if (keys.key() != Qt::Key_unknown) action->setShortcut(QKeySequence(keys));
   action->setShortcutContext(Qt::WidgetShortcut);
   list_->addAction(action);
   connect(action, &QAction::triggered, this, run);
@@ -103,6 +107,7 @@ QAction* RowMenu::AddEntry(const char* name, std::string_view icon, QKeyCombinat
 }
 
 void RowMenu::AddButtons(const QList<QAction*>& buttons) {
+  buttons_ = buttons;
   insertActions(actions().constFirst(), buttons);
 }
 
@@ -121,6 +126,8 @@ void RowMenu::SetTexts(std::string_view title) {
   set(take_over_, OwnText::take_over_from);
   set(undo_, OwnText::undo_foods);
   set(redo_, OwnText::redo_foods);
+  set(amount_, OwnText::other_amount);
+  SetActionTexts(details_, program_.texts[main_text::kFoodItemDetails], {});
   setAccessibleName(ToQt(title));
 }
 
@@ -133,7 +140,8 @@ void RowMenu::ShowAt(const QPoint& place) {
 }
 
 void RowMenu::EnableForRows(bool any) {
-  for (QAction* action : {take_out_, cut_, copy_, favourite_, moves_[0], moves_[1], moves_[2]}) {
+  for (QAction* action : buttons_ + QList<QAction*>{details_, amount_, take_out_, cut_, copy_,
+                                                    favourite_, moves_[0], moves_[1], moves_[2]}) {
     if (action != nullptr) action->setEnabled(any);
   }
 }

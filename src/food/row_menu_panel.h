@@ -27,6 +27,11 @@ class RowMenu : public QMenu {
   void SetTexts(std::string_view title);
   void ShowAt(const QPoint& place);
 
+ signals:
+  // What the window does with one row.
+  void DetailsAsked();
+  void AmountAsked();
+
  private:
   template <class Run>
   QAction* AddEntry(const char* name, std::string_view icon, QKeyCombination keys, Run run);
@@ -41,6 +46,9 @@ class RowMenu : public QMenu {
   const std::function<std::vector<std::size_t>()> rows_;
   QWidget* list_;
   std::array<QAction*, 3> moves_{};  // none to this window's own part
+  QList<QAction*> buttons_;
+  QAction* details_;
+  QAction* amount_;
   QAction* take_out_;
   QAction* cut_;
   QAction* copy_;

@@ -254,6 +254,8 @@ void CloseDay(Program& program) {
   for (const WindowId id : kDayWindows) {
     if (WindowView* const window = windows.Find(id)) window->CloseWindow();
   }
+  // Not before: a window that closes leaves another one chosen.
+  program.day.active_part = DayPart::morning;
 }
 
 bool MayDropDayForNewOne(Program& program) {

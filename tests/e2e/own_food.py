@@ -78,8 +78,7 @@ def make_food(desktop):
 def eat_a_portion(desktop):
     desktop.click(OWN_LIST)
     desktop.click(FIRST_OWN_ROW)
-    desktop.keys("Return")  # the menu of the day parts, the morning first
-    desktop.keys("Return")
+    desktop.keys("Return")  # the morning is the active part of a new day
 
 
 def change_protein(desktop):

@@ -12,6 +12,19 @@
 namespace kelvora {
 namespace {
 
+TEST(WrongBoxOfACombinedFood, IsTheOneThatIsToldOf) {
+  TestProgram test;
+  test.program.store.Custom_list.Add(LineOf({.product = "Lunch"}));
+  const auto wrong = [&](std::string_view name, std::string_view unit) {
+    return WrongBox(test.program, {.name = Text(name), .unit = Text(unit)});
+  };
+  EXPECT_EQ(wrong(" ", "1 plate"), CombineBox::name);
+  EXPECT_EQ(wrong("a\xBD", "\xBE"), CombineBox::name);
+  EXPECT_EQ(wrong("a", "\xBE"), CombineBox::unit);
+  EXPECT_EQ(wrong(" Lunch ", "1 plate"), CombineBox::name);
+  EXPECT_EQ(wrong("Dinner", ""), std::nullopt);
+}
+
 constexpr FoodLine kRice{.product = "Rice",
                          .unit = "1 dish",
                          .gram = "180",

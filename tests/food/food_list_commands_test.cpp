@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "food/consumption.h"
 #include "storage/folders.h"
 #include "storage/record_file.h"
 #include "support/test_program.h"
@@ -16,12 +17,13 @@ std::vector<Text> Lines(const TextList& list) {
 }
 
 struct NotedLists : FoodListsView {
-  int own = 0, favourites = 0;
+  int own = 0, favourites = 0, parts_shown = 0;
   void CloseWindow() override {}
   void Set_Taal() override {}
   void Toon_Standaardlijst() override {}
   void Populate_Food_List_Custom() override { ++own; }
   void Populate_Food_List_Favo() override { ++favourites; }
+  void ShowActivePart() override { ++parts_shown; }
 };
 
 class FoodListCommands : public testing::Test {
@@ -330,11 +332,72 @@ TEST_F(FoodListCommands, ANewFoodBelongsToTheOwnAndTheInternetList) {
 
 TEST_F(FoodListCommands, RowsGoToADayPartAsADropDoes) {
   AddOwn({"Soup", "Pie", "Stew"});
-  ASSERT_TRUE(MayAddToDay(program, lists, FoodView::own, {0, 2}));
-  AddRowsToDay(program, lists, FoodView::own, {0, 2}, DayPart::evening);
+  EXPECT_TRUE(AddRowsToDay(program, lists, FoodView::own, {0, 2}, DayPart::evening).added);
   EXPECT_EQ(Names(store.L_avond), "Soup Stew ");
   EXPECT_TRUE(program.day.FileChanged);
   EXPECT_EQ(store.L_avond[0], store.Custom_list[0]);
+}
+
+TEST_F(FoodListCommands, AnAmountGoesWithEachRow) {
+  AddOwn({"Soup", "Pie"});
+  AddRowsToDay(program, lists, FoodView::own, {0, 1}, DayPart::morning, {.value = 2});
+  EXPECT_EQ(Names(store.L_ochtend), "Soup Soup Pie Pie ");
+  AddRowsToDay(program, lists, FoodView::own, {1}, DayPart::morning, {.value = 0.5});
+  EXPECT_EQ(FieldOf(store.L_ochtend[4], FoodField::kProduct), "Pie, 0.5 x");
+}
+
+TEST_F(FoodListCommands, AnAmountThatOneRowCantHaveAddsNothing) {
+  store.Custom_list.Add(LineOf({.product = "Bread", .gram = "35"}));
+  AddOwn({"Soup"});
+  const Amount weight{Amount::Kind::grams, 150};
+  const AddedRows result =
+      AddRowsToDay(program, lists, FoodView::own, {0, 1}, DayPart::evening, weight);
+  EXPECT_FALSE(result.added);
+  EXPECT_EQ(result.fault, AmountFault::no_weight);
+  EXPECT_TRUE(store.L_avond.Empty());
+  EXPECT_FALSE(program.day.FileChanged);
+  EXPECT_EQ(program.day.active_part, DayPart::morning);
+  EXPECT_TRUE(AddRowsToDay(program, lists, FoodView::own, {0}, DayPart::evening, weight).added);
+  EXPECT_EQ(Names(store.L_avond), "Bread, 150 g ");
+}
+
+TEST_F(FoodListCommands, AValueBeyondAnyNumberShowsItsCodeAndAddsNothing) {
+  store.Custom_list.Add(LineOf({.product = "Much", .gram = "1", .kj = Text(400, '9')}));
+  EXPECT_FALSE(
+      AddRowsToDay(program, lists, FoodView::own, {0}, DayPart::morning, {.value = 0.5}).added);
+  ASSERT_EQ(test.boxes.shown.size(), 1u);
+  EXPECT_NE(test.boxes.shown[0].text.find("#F11-7"), Text::npos);
+  EXPECT_TRUE(store.L_ochtend.Empty());
+}
+
+TEST_F(FoodListCommands, ThePartThatWasAddedToIsTheActiveOne) {
+  AddOwn({"Soup"});
+  EXPECT_EQ(ActivePartText(program), "Enter adds to: morning");
+  AddRowsToDay(program, lists, FoodView::own, {0}, DayPart::evening);
+  EXPECT_EQ(ActivePartText(program), "Enter adds to: evening");
+  EXPECT_EQ(window.parts_shown, 1);
+  MakeActive(program, DayPart::afternoon);
+  EXPECT_EQ(ActivePartText(program), "Enter adds to: afternoon");
+  EXPECT_EQ(window.parts_shown, 2);
+  store.KV_bestand.clear();
+  EXPECT_EQ(ActivePartText(program), "");
+}
+
+TEST_F(FoodListCommands, TheCursorIsWhereTheFirstDeletedRowWasOrOnTheLast) {
+  AddOwn({"Soup", "Pie", "Stew"});
+  EXPECT_EQ(PlaceAfterDelete(lists, FoodView::own, 0), 0u);
+  EXPECT_EQ(PlaceAfterDelete(lists, FoodView::own, 2), 2u);
+  EXPECT_EQ(PlaceAfterDelete(lists, FoodView::own, 3), 2u);
+  EXPECT_EQ(PlaceAfterDelete(lists, FoodView::favourites, 0), std::nullopt);
+}
+
+TEST_F(FoodListCommands, ARowAllowsWhatDoesSomethingInItsView) {
+  EXPECT_EQ(FoodMenuOfRow(FoodView::standard, true), (FoodMenu{.info = true, .favourite = true}));
+  EXPECT_EQ(FoodMenuOfRow(FoodView::own, true),
+            (FoodMenu{.del = true, .add = true, .info = true, .favourite = true}));
+  EXPECT_EQ(FoodMenuOfRow(FoodView::favourites, true), (FoodMenu{.del = true, .info = true}));
+  EXPECT_EQ(FoodMenuOfRow(FoodView::internet, true), (FoodMenu{.add = true, .info = true}));
+  EXPECT_EQ(FoodMenuOfRow(FoodView::favourites, false), FoodMenu{});
 }
 
 TEST_F(FoodListCommands, AFullDayPartTakesNoMoreAndTellsSo) {
@@ -349,13 +412,11 @@ TEST_F(FoodListCommands, AFullDayPartTakesNoMoreAndTellsSo) {
 TEST_F(FoodListCommands, ElevenRowsWarnOnceAndWithoutADayOrRowsNothingIsAdded) {
   for (int i = 0; i < 11; ++i) AddOwn({"Soup"});
   std::vector<std::size_t> rows = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
-  EXPECT_FALSE(MayAddToDay(program, lists, FoodView::own, rows));
+  EXPECT_FALSE(AddRowsToDay(program, lists, FoodView::own, rows, DayPart::morning).added);
   EXPECT_EQ(test.boxes.shown.size(), 1u);
-  EXPECT_FALSE(MayAddToDay(program, lists, FoodView::own, {}));
-  AddRowsToDay(program, lists, FoodView::own, {}, DayPart::morning);
+  EXPECT_FALSE(AddRowsToDay(program, lists, FoodView::own, {}, DayPart::morning).added);
   store.KV_bestand.clear();
-  EXPECT_FALSE(MayAddToDay(program, lists, FoodView::own, {0}));
-  AddRowsToDay(program, lists, FoodView::own, {0}, DayPart::morning);
+  EXPECT_FALSE(AddRowsToDay(program, lists, FoodView::own, {0}, DayPart::morning).added);
   EXPECT_TRUE(store.L_ochtend.Empty());
   EXPECT_FALSE(program.day.FileChanged);
 }

@@ -200,6 +200,12 @@ TEST_F(ConsumptionWindows, ARefusalKeepsWhatWasTypedAndEscapeClosesThePanel) {
   EXPECT_EQ(test.boxes.shown.size(), 1u);
   EXPECT_EQ(name->text(), QStringLiteral("1\u00BD"));
   EXPECT_TRUE(Shown(part, "Pic_SP"));
+  EXPECT_EQ(name->selectedText(), QStringLiteral("1\u00BD"));  // the box that is wrong
+  auto* const unit = Find<QLineEdit>(part, "txt_nfo_7");
+  QTest::keyClicks(name, QStringLiteral("Lunch"));
+  QTest::keyClicks(unit, QStringLiteral("\u00BE"));
+  Click(part, "cmd_opslaan");
+  EXPECT_EQ(unit->selectedText(), QStringLiteral("\u00BE"));
   QTest::keyClick(name, Qt::Key_Escape);
   EXPECT_FALSE(Shown(part, "Pic_SP"));
   EXPECT_EQ(Products(part).size(), 2u);
@@ -338,7 +344,8 @@ TEST_F(ConsumptionWindows, TheMenuOfARowOffersWhatCanBeDone) {
     if (selected) list->SelectRow(0);
     emit list->customContextMenuRequested({5, 5});
     EXPECT_TRUE(menu->isVisible());
-    for (const char* name : {"mnu_move_1", "mnu_move_2", "mnu_cut", "mnu_take_out"}) {
+    for (const char* name : {"mnu_move_1", "mnu_move_2", "mnu_cut", "mnu_take_out", "mnu_details",
+                             "mnu_amount", "Toolbar_control_1_action"}) {
       EXPECT_EQ(Find<QAction>(DayPart::evening, name)->isEnabled(), selected) << name;
     }
     EXPECT_FALSE(Find<QAction>(DayPart::evening, "mnu_paste")->isEnabled());

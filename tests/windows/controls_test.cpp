@@ -21,6 +21,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
 #include "output/export_dialog.h"
@@ -115,6 +116,7 @@ LV_browse_eigen | My own list | Drop a consumption here to remove it from the da
 LV_browse_favo | Favourites list | Drop a consumption here to add it to the favourites list
 LV_browse_internet | Internet | Drop a consumption here to remove it from the day
 Pic_toevoegen | Add a new food item |
+txt_amount | Amount: | How much: 2, 1/2, 150 g or 5 oz. Nothing here means one portion.
 Pic_opties | Food item options |
 StatusBar | Status bar |
 ProgressBar | Filling the list |
@@ -279,6 +281,16 @@ chk_favo | Add to 'favourites list' | Tick the box to keep this food item in the
 cmd_bewerk | Edit (per 100 grams) | Change the description and the values per 100 grams
 cmd_opslaan | Save | Save the food item in 'my own list'
 cmd_annuleer | Cancel | Close this window without saving
+)");
+}
+
+TEST_F(Controls, OfAnotherAmount) {
+  const OtherAmountDialog dialog(program, "Bread", "1", {}, nullptr);
+  ExpectControls(dialog, R"(
+other_amount | Other amount ... |
+txt_amount | Amount: | How much: 2, 1/2, 150 g or 5 oz. Nothing here means one portion.
+cmd_opslaan | Save |
+cmd_annuleer | Cancel |
 )");
 }
 

@@ -18,6 +18,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
 #include "keeping/restore_dialog.h"
@@ -72,8 +73,9 @@ TEST(EntryBoxes, OfTheMainWindowAndItsChildWindowsTakeTextOnly) {
   window.OpenWindow(WindowId::comparison);
   window.OpenWindow(WindowId::multi_day);
   QApplication::processEvents();
-  // Name and unit of a combined food in three windows; two searches in the food lists; the diary.
-  ExpectTextOnly(window, 3 * 2 + 2 + 1);
+  // Name and unit of a combined food in three windows; two searches and an amount in the food
+  // lists; the diary.
+  ExpectTextOnly(window, 3 * 2 + 3 + 1);
 }
 
 TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
@@ -101,6 +103,7 @@ TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
       4 + 2 + 14);
   // Name and unit, two weights in two units, and seven values twice.
   ExpectTextOnly(NewFoodDialog(program, nullptr), 2 + 4 + 14);
+  ExpectTextOnly(OtherAmountDialog(program, "Bread", "1", {}, nullptr), 1);
 }
 
 // A box of another kind is what these tests are there to find.

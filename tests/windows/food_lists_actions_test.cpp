@@ -69,7 +69,7 @@ TEST_F(FoodListsWindowTest, DeleteTakesTheSelectedRowsOfTheOwnListAndCountsAnew)
 
 TEST_F(FoodListsWindowTest, TheFoodMenuFollowsTheTableWhileItIsUp) {
   Open();
-  EXPECT_EQ(Enabled(), "1111");
+  EXPECT_EQ(Enabled(), "0100");
   Press(2);
   RightClick(List(2), 0);
   EXPECT_TRUE(FoodMenuWidget()->isVisible());
@@ -84,7 +84,7 @@ TEST_F(FoodListsWindowTest, TheFoodMenuFollowsTheTableWhileItIsUp) {
   EXPECT_EQ(Enabled(), "0011");
   FoodMenuWidget()->close();
   QApplication::processEvents();
-  EXPECT_EQ(Enabled(), "1111");
+  EXPECT_EQ(Enabled(), "0111");
 }
 
 TEST_F(FoodListsWindowTest, TheOptionsButtonActsForThePressedView) {
@@ -144,33 +144,7 @@ TEST_F(FoodListsWindowTest, FromTheMenuBarTheCommandsActOnTheRowInFocusOnly) {
   EXPECT_EQ(Names(List(3)), "Rye");
 }
 
-TEST_F(FoodListsWindowTest, EnterAsksForTheDayPartAndRepeatsTheLastOne) {
-  Open();
-  FoodTable* const list = List(1);
-  Click(list, 0);
-  auto* const menu = In<QMenu>("mnu_day_parts");
-  const auto enter_twice = [&] {
-    QTest::keyClick(list, Qt::Key_Return);
-    EXPECT_TRUE(menu->isVisible());
-    QTest::keyClick(menu, Qt::Key_Return);
-    EXPECT_FALSE(menu->isVisible());
-  };
-  enter_twice();
-  EXPECT_EQ(store.L_ochtend.Count(), 1u);
-  QTest::keyClick(list, Qt::Key_Enter, Qt::KeypadModifier);
-  QTest::keyClick(menu, Qt::Key_Down);
-  QTest::keyClick(menu, Qt::Key_Down);
-  QTest::keyClick(menu, Qt::Key_Return);
-  EXPECT_EQ(store.L_avond.Count(), 1u);
-  enter_twice();
-  EXPECT_EQ(store.L_avond.Count(), 2u);
-  EXPECT_TRUE(program.day.FileChanged);
-  list->clearSelection();
-  QTest::keyClick(list, Qt::Key_Return);
-  EXPECT_FALSE(menu->isVisible());
-}
-
-TEST_F(FoodListsWindowTest, EnterWithElevenRowsWarnsInsteadOfAsking) {
+TEST_F(FoodListsWindowTest, EnterWithElevenRowsWarns) {
   for (int i = 0; i < 8; ++i) store.Custom_list.Add(LineOf({.product = "x"}));
   Open();
   Press(2);
@@ -179,7 +153,42 @@ TEST_F(FoodListsWindowTest, EnterWithElevenRowsWarnsInsteadOfAsking) {
   EXPECT_EQ(test.boxes.shown.size(), 1u);
   QTest::keyClick(List(2), Qt::Key_Return);
   EXPECT_EQ(test.boxes.shown.size(), 2u);
-  EXPECT_FALSE(In<QMenu>("mnu_day_parts")->isVisible());
+  EXPECT_TRUE(store.L_ochtend.Empty());
+}
+
+TEST_F(FoodListsWindowTest, TheItemsOfTheOptionsMenuFollowTheRowInFocus) {
+  Open();
+  EXPECT_EQ(Enabled(), "0100");  // delete, add, info, favourite
+  Click(List(1), 0);
+  EXPECT_EQ(Enabled(), "0111");
+  Press(2);
+  EXPECT_EQ(Enabled(), "0100");
+  QTest::keyClick(List(2), Qt::Key_Down);
+  EXPECT_EQ(Enabled(), "1111");
+  QTest::keyClick(List(2), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(List(2), Qt::Key_Delete);
+  EXPECT_EQ(Enabled(), "0100");
+  Press(1);
+  Click(List(1), 0);
+  lists->parentWidget()->close();
+  QApplication::processEvents();
+  EXPECT_EQ(Enabled(), "0100");
+}
+
+TEST_F(FoodListsWindowTest, AfterADeleteTheCursorStaysInItsPlace) {
+  Open();
+  Press(2);
+  Click(List(2), 1);
+  QTest::keyClick(List(2), Qt::Key_Delete);
+  EXPECT_EQ(Names(List(2)), "Soup Stew");
+  EXPECT_EQ(List(2)->RowInFocus(), 1u);
+  EXPECT_EQ(List(2)->SelectedRows(), std::vector<std::size_t>{1});
+  QTest::keyClick(List(2), Qt::Key_Delete);
+  EXPECT_EQ(Names(List(2)), "Soup");
+  EXPECT_EQ(List(2)->RowInFocus(), 0u);
+  RunCommand(program, Command::mnu_item_del);
+  EXPECT_EQ(Names(List(2)), "");
+  EXPECT_EQ(List(2)->RowInFocus(), std::nullopt);
 }
 
 TEST_F(FoodListsWindowTest, DropsAreTakenOnlyWhereTheyDoSomething) {

@@ -46,6 +46,7 @@ class FoodListsWindowTest : public testing::Test {
     ApplyChosenArrangement(program);
     window.UpdateCommands();
     QApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // of closed windows
     lists = window.findChild<QWidget*>(QStringLiteral("KV_tb_lijsten"));
     ASSERT_NE(lists, nullptr);
   }

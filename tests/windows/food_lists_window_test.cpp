@@ -270,7 +270,8 @@ TEST_F(FoodListsWindowTest, TipsNamesAndHeadingsComeInBothLanguages) {
   EXPECT_EQ(In<QLabel>("txt_server")->text(), "[Nederlandse database]");
   EXPECT_EQ(heading(Qt::ToolTipRole), QStringLiteral("Kilocalorieën van de portie"));
   EXPECT_EQ(Status(2), "4 voedingsmiddelen beschikbaar");
-  EXPECT_EQ(In<QMenu>("mnu_day_parts")->actions()[0]->text(), "Toevoegen aan de ochtend");
+  EXPECT_EQ(Status(3), "Enter voegt toe aan: ochtend");
+  EXPECT_EQ(In<QLabel>("lbl_amount")->text(), "Hoeveelheid:");
 }
 
 TEST_F(FoodListsWindowTest, NumbersStandOnTheRightAndTheNumberOfTheLineIsHidden) {

@@ -16,6 +16,7 @@
 #include "days/day_settings_dialog.h"
 #include "days/take_over_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
 #include "output/export_dialog.h"
@@ -182,6 +183,9 @@ TEST_F(HugeTexts, AreDrawnInPartByTheDetailsOfAFoodWhichCantBeEdited) {
   details.show();
   QApplication::processEvents();
   ExpectBounded(details, 0);
+  OtherAmountDialog amount(test.program, Text(1'000'000, 'x'), "1", {}, nullptr);
+  amount.show();
+  ExpectBounded(amount, 0);
 }
 
 TEST_F(HugeTexts, AreDrawnInPartByAMessage) {

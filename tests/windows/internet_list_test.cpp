@@ -185,9 +185,6 @@ TEST_F(InternetList, TheOnlyHitIsAddedToTheDayByTheKeyboardAlone) {
   ASSERT_TRUE(List(4)->hasFocus());
   QTest::keyClick(List(4), Qt::Key_Down);
   QTest::keyClick(List(4), Qt::Key_Return);
-  QMenu* const menu = lists->findChild<QMenu*>(QStringLiteral("mnu_day_parts"));
-  ASSERT_TRUE(menu->isVisible());
-  QTest::keyClick(menu, Qt::Key_Return);
   ASSERT_EQ(store.L_ochtend.Count(), 1u);
   EXPECT_EQ(store.L_ochtend[0], LineOf({.product = "Apple", .kcal = "52"}));
 }

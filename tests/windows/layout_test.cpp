@@ -32,6 +32,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
 #include "language/built_in_texts.h"
@@ -374,6 +375,8 @@ TEST_F(WindowLayout, OfTheFoods) {
     Look(details, 40);
     NewFoodDialog new_food(program, nullptr);
     Look(new_food, 40);
+    OtherAmountDialog amount(program, "Bread", "1", {}, nullptr);
+    Look(amount, 7);
   });
 }
 

@@ -17,6 +17,7 @@
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
 #include "food/new_food_dialog.h"
+#include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
 #include "language/choose_language.h"
@@ -195,6 +196,8 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(about, kSquare), 8u);
   const NewFoodDialog new_food(program, nullptr);
   EXPECT_GT(ExpectFromTables(new_food, kSquare), 80u);
+  const OtherAmountDialog amount(program, "1", "2", {}, nullptr);
+  EXPECT_GT(ExpectFromTables(amount, kSquare), 6u);
   const UpdateWindow update(program, UpdateMode::shown, nullptr);
   EXPECT_GT(ExpectFromTables(update, kSquare), 7u);
 }

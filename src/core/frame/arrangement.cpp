@@ -17,6 +17,19 @@ void Open(Program& program, std::initializer_list<WindowId> ids) {
   for (const WindowId id : ids) program.windows.core->OpenWindow(id);
 }
 
+// Runs the steps of an arrangement. None of its windows was chosen by anybody, so the active part
+// of the day stays what it is; and whoever wants to enter food finds the keys in the search box.
+template <class Steps>
+void Arrange(Program& program, Steps steps) {
+  const DayPart active = program.day.active_part;
+  steps();
+  program.day.active_part = active;
+  FoodListsView* const lists = program.windows.lists;
+  if (lists == nullptr) return;
+  lists->ShowActivePart();
+  lists->FocusSearch();
+}
+
 }  // namespace
 
 void ComputeDefaultGeometry(Program& program) {
@@ -26,17 +39,21 @@ void ComputeDefaultGeometry(Program& program) {
 }
 
 void ShowDefaultScreens(Program& program) {
-  ResetScreens(program);
-  Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists});
+  Arrange(program, [&program] {
+    ResetScreens(program);
+    Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists});
+  });
 }
 
 void ShowScreensWithSummary(Program& program) {
-  CloseAllWindows(program);
-  if (program.windows.core == nullptr) return;
-  const MainWindowSize size = program.windows.core->Size();
-  program.windows.geometry = Fitted(GeometryWithSummary(size), size);
-  Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists,
-                 WindowId::day_summary});
+  Arrange(program, [&program] {
+    CloseAllWindows(program);
+    if (program.windows.core == nullptr) return;
+    const MainWindowSize size = program.windows.core->Size();
+    program.windows.geometry = Fitted(GeometryWithSummary(size), size);
+    Open(program, {WindowId::morning, WindowId::afternoon, WindowId::evening, WindowId::lists,
+                   WindowId::day_summary});
+  });
 }
 
 void ApplyChosenArrangement(Program& program) {

@@ -120,19 +120,24 @@ bool Satisfied(const Program& program, Needs needs) {
   return false;
 }
 
-// While the food menu stands open for a row of a food list, its entries follow that row.
+// The entries for a food follow the row in focus of the food lists; without one they would do
+// nothing. A food can always be added, but while the menu stands open for a row, which tells all
+// four.
 bool FoodMenuAllows(const Program& program, Command command) {
-  const auto& menu = program.windows.food_menu;
-  if (!menu) return true;
+  const OpenWindows& windows = program.windows;
+  FoodMenu menu;
+  if (windows.lists != nullptr) menu = windows.lists_menu;
+  menu.add = true;
+  if (windows.food_menu) menu = *windows.food_menu;
   switch (command) {
     case Command::mnu_item_info:
-      return menu->info;
+      return menu.info;
     case Command::mnu_item_voegtoe:
-      return menu->add;
+      return menu.add;
     case Command::mnu_item_del:
-      return menu->del;
+      return menu.del;
     case Command::mnu_item_favo:
-      return menu->favourite;
+      return menu.favourite;
     default:
       return true;
   }

@@ -122,6 +122,11 @@ void MainWindow::BuildFoodMenu() {
   day_part_actions_ = AddDayPartActions(mnu_opties_, [this](DayPart part) {
     if (program_.windows.lists != nullptr) program_.windows.lists->AddSelectedToDay(part);
   });
+  amount_action_ = mnu_opties_->addAction(QString());
+  amount_action_->setObjectName(QStringLiteral("mnu_opties_amount"));
+  connect(amount_action_, &QAction::triggered, this, [this] {
+    if (program_.windows.lists != nullptr) program_.windows.lists->AskAmount();
+  });
   mnu_opties_->addSeparator();
   for (const CompareBox box : kCompareBoxes) {
     QAction* const action = mnu_opties_->addAction(IconNamed("compare"), QString());
@@ -146,10 +151,12 @@ void MainWindow::BuildFoodMenu() {
 
 void MainWindow::ShowRowItems() {
   const auto& menu = program_.windows.food_menu;
-  for (QAction* const action : day_part_actions_) {
+  const auto of_row = [&menu](QAction* action) {
     action->setVisible(menu.has_value());
     action->setEnabled(menu && menu->day_parts);
-  }
+  };
+  for (QAction* const action : day_part_actions_) of_row(action);
+  of_row(amount_action_);
   for (QAction* const action : compare_actions_) action->setVisible(menu && menu->compare);
 }
 
@@ -215,7 +222,8 @@ void MainWindow::BuildStatusBar() {
 void MainWindow::LayStatusBar() {
   const auto widths = StatusPanelWidths(TwipsOfPixels(width()));
   QLabel* const reminder = panels_.back();
-  const int reminder_width = reminder->text().isEmpty() ? 0 : reminder->sizeHint().width() + kPanelIndent;
+  const int reminder_width =
+      reminder->text().isEmpty() ? 0 : reminder->sizeHint().width() + kPanelIndent;
   int left = 0;
   for (std::size_t i = 0; i < widths.size(); ++i) {
     // The reminder takes its room from the third panel, which has no words.
@@ -260,6 +268,7 @@ void MainWindow::Set_Taal() {
     SetActionTexts(entry.action, texts[entry.row->caption], {});
   }
   SetDayPartTexts(day_part_actions_, texts);
+  SetActionTexts(amount_action_, OwnTextOf(texts, OwnText::other_amount), {});
   SetActionTexts(compare_actions_[0], OwnTextOf(texts, OwnText::compare_as_food_1), {});
   SetActionTexts(compare_actions_[1], OwnTextOf(texts, OwnText::compare_as_food_2), {});
   const QString more = ToQt(OwnTextOf(texts, OwnText::more_buttons));

@@ -106,6 +106,7 @@ class MainWindow : public QMainWindow, public CoreView {
   QMenu* mnu_opties_ = nullptr;
   // Entries of mnu_opties that are there only while it stands open for a row of a food list.
   std::array<QAction*, 3> day_part_actions_{};
+  QAction* amount_action_ = nullptr;
   std::array<QAction*, kCompareBoxes.size()> compare_actions_{};
   std::vector<ItemAction> item_actions_;
   std::vector<ButtonAction> button_actions_;

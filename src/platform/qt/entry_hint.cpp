@@ -56,6 +56,11 @@ void EntryHint::Tell(QWidget& box, LeftOut left_out, const TextTables& texts) {
   new EntryHint(box, words, std::move(left_out.characters));  // its window owns it
 }
 
+void EntryHint::Say(QWidget& box, const QString& words) {
+  delete box.window()->findChild<EntryHint*>(QString(), Qt::FindDirectChildrenOnly);
+  new EntryHint(box, words, {});  // its window owns it
+}
+
 EntryHint::EntryHint(QWidget& box, const QString& words, std::u32string characters)
     : QLabel(box.window()),
       box_(&box),

@@ -17,6 +17,8 @@ class EntryHint : public QLabel {
   // above the box, where nobody is going to type next, or below it where there is no room. Takes
   // the place of a hint that stands in the same window.
   static void Tell(QWidget& box, LeftOut left_out, const TextTables& texts);
+  // Says these words of a box, in the same way.
+  static void Say(QWidget& box, const QString& words);
   ~EntryHint() override;
 
  protected:

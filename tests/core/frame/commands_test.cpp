@@ -96,10 +96,23 @@ constexpr std::array kEnableRows = {
 
 static_assert(kEnableRows.size() == static_cast<std::size_t>(Command::quick_reset));
 
+// Lists with a row in focus that allows all there is.
+struct ListsWithARow : FoodListsView {
+  void CloseWindow() override {}
+  void Set_Taal() override {}
+  void Toon_Standaardlijst() override {}
+  void Populate_Food_List_Custom() override {}
+  void Populate_Food_List_Favo() override {}
+  static constexpr FoodMenu kMenu{.del = true, .info = true, .favourite = true};
+};
+
 TEST(Commands, EachIsEnabledFromItsStateOn) {
   for (const State state : kStates) {
     TestProgram test;
     Enter(test, state);
+    ListsWithARow lists;
+    test.program.windows.lists = &lists;
+    test.program.windows.lists_menu = ListsWithARow::kMenu;
     for (const EnableRow& row : kEnableRows) {
       const auto where = [&] {
         return "command " + std::to_string(static_cast<int>(row.command)) + ", state " +
@@ -111,6 +124,32 @@ TEST(Commands, EachIsEnabledFromItsStateOn) {
     EXPECT_FALSE(CommandEnabled(test.program, Command::none));
     EXPECT_FALSE(ButtonEnabled(test.program, Command::none));
   }
+}
+
+TEST(Commands, WithoutARowTheItemsOfFoodsWouldDoNothingButAdding) {
+  TestProgram test;
+  test.OpenDay("Anna");
+  const auto enabled = [&] {
+    Text which;
+    for (const Command command : {Command::mnu_item_del, Command::mnu_item_voegtoe,
+                                  Command::mnu_item_info, Command::mnu_item_favo}) {
+      which += CommandEnabled(test.program, command) ? '1' : '0';
+    }
+    return which;
+  };
+  EXPECT_EQ(enabled(), "0100");
+  ListsWithARow lists;
+  FoodMenu& menu = test.program.windows.lists_menu;
+  test.program.windows.lists = &lists;
+  menu = ListsWithARow::kMenu;
+  EXPECT_EQ(enabled(), "1111");
+  menu = {.info = true};
+  EXPECT_EQ(enabled(), "0110");
+  menu = {};
+  EXPECT_EQ(enabled(), "0100");
+  menu = ListsWithARow::kMenu;
+  test.program.windows.lists = nullptr;
+  EXPECT_EQ(enabled(), "0100");
 }
 
 // The food menu that stands open for a row decides for its four items and for nothing else.
@@ -129,7 +168,8 @@ TEST(Commands, TheOpenFoodMenuDecidesForItsItems) {
   EXPECT_FALSE(enabled(Command::mnu_item_info));
   EXPECT_FALSE(enabled(Command::mnu_item_voegtoe));
   test.program.windows.food_menu.reset();
-  EXPECT_TRUE(enabled(Command::mnu_item_favo));
+  EXPECT_FALSE(enabled(Command::mnu_item_favo));
+  EXPECT_TRUE(enabled(Command::mnu_item_voegtoe));
 }
 
 TEST(Commands, TheInternetListIsForThoseWhoUseTheInternet) {
@@ -142,13 +182,8 @@ TEST(Commands, TheInternetListIsForThoseWhoUseTheInternet) {
   }
 }
 
-struct NotedLists : FoodListsView {
+struct NotedLists : ListsWithARow {
   Text given;
-  void CloseWindow() override {}
-  void Set_Taal() override {}
-  void Toon_Standaardlijst() override {}
-  void Populate_Food_List_Custom() override {}
-  void Populate_Food_List_Favo() override {}
   void CORE_Del_Item() override { given += "del "; }
   void CORE_Add_To_Favo() override { given += "favo "; }
   void ChooseView(FoodView view) override {
@@ -162,6 +197,7 @@ TEST(Commands, TheItemsOfFoodsGoToTheOpenFoodLists) {
   NotedLists lists;
   RunCommand(test.program, Command::mnu_item_del);
   test.program.windows.lists = &lists;
+  test.program.windows.lists_menu = ListsWithARow::kMenu;
   RunCommand(test.program, Command::mnu_item_del);
   RunCommand(test.program, Command::mnu_item_favo);
   EXPECT_EQ(lists.given, "del favo ");
