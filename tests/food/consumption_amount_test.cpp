@@ -122,7 +122,7 @@ TEST(PlaceAfterDelete, IsWhereTheFirstDeletedRowWas) {
   EXPECT_EQ(PlaceAfterDelete(before, RowsOf({"a", "b", "c"}), 3), 2u);
   EXPECT_EQ(PlaceAfterDelete(before, RowsOf({}), 0), std::nullopt);
   // A row above of the same name went too.
-  EXPECT_EQ(PlaceAfterDelete(before, RowsOf({"b", "d"}), 2), 1u);
+  EXPECT_EQ(PlaceAfterDelete(RowsOf({"a", "b", "c", "d", "e"}), RowsOf({"b", "d", "e"}), 2), 1u);
 }
 
 TEST(ActivePart, IsTheMorningOfANewDayAndStaysWithItsWindow) {
