@@ -13,7 +13,7 @@ from one_day import DEFAULT_SCREENS, MORNING, end, make_user_and_day, row
 
 # Places on a screen of 1024 x 768 with the main window maximised and the default screens open.
 SETTINGS_BUTTON, PROFILE_BUTTON = (688, 60), (215, 60)
-OUNCES, KILOJOULES = (222, 536), (181, 254)
+OUNCES, KILOJOULES = (222, 536), (215, 254)
 DAY_SETTINGS = "^Change settings for this day$"
 WEIGHT_HEADING, NUTRIENT_HEADING = (250, 281, 314, 298), (315, 281, 382, 298)
 EATEN_WEIGHT, EATEN_NUTRIENT = (891, 148, 932, 163), (934, 148, 994, 163)
