@@ -109,7 +109,8 @@ void FoodSearchPanel::Set_Taal(const TextTables& texts) {
 InternetSearchPanel::InternetSearchPanel(const EntryContext& entry, QWidget* parent)
     : QWidget(parent) {
   NameWidget(this, "Pic_internet");
-  txt_internetzoektext_ = new LongLabel(this, "txt_internetzoektext");
+  txt_internetzoektext_ = NewLabel(this, "txt_internetzoektext");
+  txt_internetzoektext_->setWordWrap(true);
   txt_internet_ = new SearchBox(this, QStringLiteral("txt_internet"), entry);
   txt_internet_->addAction(IconNamed("search"), QLineEdit::LeadingPosition);
   txt_internetzoektext_->setBuddy(txt_internet_);
