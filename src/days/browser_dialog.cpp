@@ -253,7 +253,7 @@ void BrowserDialog::DeleteSelectedDay() {
 void BrowserDialog::TakeOverFromSelectedDay() {
   lst_users_->TellNow();
   const DayTable& list = *LV_browse_files_;
-  const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow());
+  const auto row = RowToOpen(list.SelectedRows(), list.FocusedRow(), true);
   if (!row || program_.windows.core == nullptr) return;
   // The list may change while the other dialog stands over it.
   const std::string path = list.Rows()[*row].path;
