@@ -19,7 +19,7 @@ FORMS = {
     5: "KV_export_html", 6: "KV_foodpopup", 8: "KV_properties", 9: "KV_tb_daguittreksel",
     10: "KV_tb_internet_update", 11: "KV_tb_lijsten", 12: "KV_tb_meerdaags", 13: "KV_tb_notities",
     14: "KV_tb_vmiddag, KV_tb_vavond", 15: "KV_tb_vochtend", 16: "KV_tb_weegschaal",
-    17: "KV_backup", 18: "KV_restore", 20: "KV_take_over",
+    17: "KV_backup", 18: "KV_restore", 20: "KV_take_over", 28: "KV_import_foods",
 }
 MODULES = {
     1: "Declarations_Bestanden", 2: "Declarations_Controle", 3: "Declarations_DatumFix",

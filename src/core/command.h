@@ -36,6 +36,7 @@ enum class Command {
   mnu_diagnose,
   mnu_backup,
   mnu_restore,
+  mnu_import_foods,
   mnu_help_index,
   mnu_about,
   mnu_website,

@@ -36,7 +36,7 @@ std::vector<WindowView*> OpenWindows::AllOpen() const {
   std::vector<WindowView*> open;
   for (std::size_t i = 0; i < kWindowCount; ++i) open.push_back(Find(static_cast<WindowId>(i)));
   open.insert(open.end(),
-              {properties, export_html, take_over, backup, restore, new_food, update});
+              {properties, export_html, take_over, backup, restore, new_food, food_import, update});
   std::erase(open, nullptr);
   return open;
 }

@@ -191,6 +191,8 @@ struct CoreView {
   // Shows the dialog modally that takes over what was eaten on another day, with the foods of one
   // part ticked or all of them; it begins with the day of that path, or the day before.
   virtual void OpenTakeOver(std::optional<DayPart> part, const std::string& path) = 0;
+  // Shows the dialog that brings in tables of foods, modally; returns when it is gone.
+  virtual void OpenFoodImport() = 0;
   // Opens the food menu beside a row of a food list, with these entries enabled; returns at once.
   virtual void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) = 0;
   // Show the dialogs for making and for bringing back a backup modally; return when they are gone.
@@ -223,7 +225,8 @@ struct OpenWindows {
   WindowView* backup = nullptr;
   WindowView* restore = nullptr;
   WindowView* new_food = nullptr;  // the dialog for a new food
-  UpdateView* update = nullptr;    // hidden while its check runs in the background
+  WindowView* food_import = nullptr;
+  UpdateView* update = nullptr;  // hidden while its check runs in the background
   GeometryRecords geometry;
   // ToonInfo of each consumption window: whether its totals panel is shown. Survives the window.
   std::array<bool, 3> totals_shown{};

@@ -158,6 +158,7 @@ struct RecordingCore : CoreView {
   int exports_opened = 0;
   int backups_opened = 0;
   int restores_opened = 0;
+  int imports_opened = 0;
   std::vector<std::pair<Text, Text>> items_shown;  // tag and line
   std::vector<std::pair<std::optional<DayPart>, std::string>> take_overs;
   std::vector<FoodMenu> food_menus;
@@ -187,6 +188,7 @@ struct RecordingCore : CoreView {
   }
   void OpenBackup() override { ++backups_opened; }
   void OpenRestore() override { ++restores_opened; }
+  void OpenFoodImport() override { ++imports_opened; }
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace) override {
     food_menus.push_back(enabled);
   }

@@ -17,6 +17,7 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
@@ -104,6 +105,8 @@ TEST(EntryBoxes, OfTheDialogsTakeTextOnly) {
   // Name and unit, two weights in two units, and seven values twice.
   ExpectTextOnly(NewFoodDialog(program, nullptr), 2 + 4 + 14);
   ExpectTextOnly(OtherAmountDialog(program, "Bread", "1", {}, nullptr), 1);
+  // A country and the name of a table.
+  ExpectTextOnly(FoodImportDialog(program, nullptr), 2);
 }
 
 // A box of another kind is what these tests are there to find.

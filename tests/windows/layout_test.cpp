@@ -31,6 +31,7 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
@@ -377,6 +378,8 @@ TEST_F(WindowLayout, OfTheFoods) {
     Look(new_food, 40);
     OtherAmountDialog amount(program, "Bread", "1", {}, nullptr);
     Look(amount, 7);
+    FoodImportDialog food_import(program, nullptr);
+    Look(food_import, 15);
   });
 }
 

@@ -16,6 +16,7 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
@@ -198,6 +199,8 @@ TEST_F(WindowTexts, TheDialogsShowNothingOfTheirOwn) {
   EXPECT_GT(ExpectFromTables(new_food, kSquare), 80u);
   const OtherAmountDialog amount(program, "1", "2", {}, nullptr);
   EXPECT_GT(ExpectFromTables(amount, kSquare), 6u);
+  const FoodImportDialog food_import(program, nullptr);
+  EXPECT_GT(ExpectFromTables(food_import, kSquare), 60u);
   const UpdateWindow update(program, UpdateMode::shown, nullptr);
   EXPECT_GT(ExpectFromTables(update, kSquare), 7u);
 }

@@ -111,6 +111,7 @@ constexpr std::array kMenu = {
     MenuRow{item, "mnu_quick_reset", kQuickReset, Command::quick_reset, "screens-reset", "Alt+9"},
     OwnItem("mnu_backup", OwnText::menu_backup, Command::mnu_backup, "backup"),
     OwnItem("mnu_restore", OwnText::menu_restore, Command::mnu_restore, "restore"),
+    OwnItem("mnu_import_foods", OwnText::menu_import, Command::mnu_import_foods, "list-standard"),
     kEnd,
 
     MenuRow{menu, "mnu_informatie", kInformation},

@@ -60,6 +60,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::mnu_diagnose, Needs::nothing},
     CommandRow{Command::mnu_backup, Needs::nothing},
     CommandRow{Command::mnu_restore, Needs::nothing},
+    CommandRow{Command::mnu_import_foods, Needs::nothing},
     CommandRow{Command::mnu_help_index, Needs::nothing},
     CommandRow{Command::mnu_about, Needs::nothing},
     CommandRow{Command::mnu_website, Needs::nothing},
@@ -261,6 +262,8 @@ void RunCommand(Program& program, Command command) {
       return program.windows.core->OpenBackup();
     case Command::mnu_restore:
       return program.windows.core->OpenRestore();
+    case Command::mnu_import_foods:
+      return program.windows.core->OpenFoodImport();
     case Command::mnu_help_index:
       return OpenHelp(program);
     case Command::mnu_about:

@@ -14,6 +14,7 @@
 #include "food/consumption_window.h"
 #include "food/food_details_dialog.h"
 #include "food/food_lists_window.h"
+#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
@@ -94,6 +95,10 @@ void MainWindow::OpenBackup() {
 
 void MainWindow::OpenRestore() {
   if (program_.windows.restore == nullptr) ShowRestoreDialog(program_, this);
+}
+
+void MainWindow::OpenFoodImport() {
+  if (program_.windows.food_import == nullptr) ShowFoodImportDialog(program_, this);
 }
 
 void MainWindow::ShowSplash() {

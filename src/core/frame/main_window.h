@@ -45,6 +45,7 @@ class MainWindow : public QMainWindow, public CoreView {
   void OpenTakeOver(std::optional<DayPart> part, const std::string& path) override;
   void OpenBackup() override;
   void OpenRestore() override;
+  void OpenFoodImport() override;
   void PopUpFoodMenu(const FoodMenu& enabled, ScreenPlace place) override;
   void ShowSplash() override;
   void ShowAbout() override;

@@ -61,6 +61,7 @@ TEST(CommandTables, TheMenuHasItsItemsAndSeparatorsInOrder) {
                                                   "mnu_quick_reset",
                                                   "mnu_backup",
                                                   "mnu_restore",
+                                                  "mnu_import_foods",
                                                   "mnu_informatie",
                                                   "mnu_help_index",
                                                   "mnu_about",

@@ -79,6 +79,7 @@ constexpr std::array kEnableRows = {
     EnableRow{Command::mnu_diagnose, State::empty, State::empty},
     EnableRow{Command::mnu_backup, State::empty, State::empty},
     EnableRow{Command::mnu_restore, State::empty, State::empty},
+    EnableRow{Command::mnu_import_foods, State::empty, State::empty},
     EnableRow{Command::mnu_help_index, State::empty, State::empty},
     EnableRow{Command::mnu_about, State::empty, State::empty},
     EnableRow{Command::mnu_website, State::empty, State::empty},
