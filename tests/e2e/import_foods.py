@@ -3,10 +3,9 @@
 
 Chooses a table in the form of Ciqual, imports it, finds "camembert" in the standard list and drags it
 into the morning; begins to import a long table and stops in the middle, which leaves nothing; removes
-the set, and the day keeps what was eaten. What lies on the disk is read from outside. The argument is
-the built program.
+the set, and the day keeps what was eaten; finds a product by its barcode, as a scanner types it. What
+lies on the disk is read from outside. The argument is the built program.
 """
-import struct
 import sys
 from pathlib import Path
 
@@ -29,13 +28,20 @@ CAMEMBERT = "produits laitiers;Camembert, au lait cru;1130;272;20,4;< 0,5;21;14,
 # 5.4 + 0.6 grams of unsaturated fat.
 LINE = ("Camembert, au lait cru½100 gram½100½1130½272½20.4½6½14.1½0½0.62½produits laitiers½½"
         "Ciqual: produits laitiers.dat½")
-LONG_ROWS = 400_000
+LONG_ROWS = 150_000
+PRODUCTS = ("code\tproduct_name\tbrands\tpnns_groups_1\tenergy-kcal_100g\tproteins_100g\n"
+            "3017620422003\tHazelnut spread\tFerrara\tSpreads\t500\t6.3\n"
+            "3017620422010\tRusk\t\tCereals\t400\t12\n")
+# 500 kilocalories are 2100 kilojoules.
+PRODUCT = ("Hazelnut spread, Ferrara½100 gram½100½2100½500½6.3½0½0½0½0½Spreads½3017620422003½"
+           "Open Food Facts: Spreads.dat½")
 
 
 def write_tables(home):
     folder = Path(home, "tables")
     folder.mkdir()
     (folder / "ciqual.csv").write_bytes((HEADER + CAMEMBERT).encode("cp1252"))
+    (folder / "products.csv").write_text(PRODUCTS, encoding="utf-8")
     with open(folder / "long.csv", "wb") as file:
         file.write(HEADER.encode("cp1252"))
         for number in range(LONG_ROWS):
@@ -135,6 +141,22 @@ def remove_the_set(desktop):
     assert saved_morning(desktop) == [LINE], saved_morning(desktop)
 
 
+def scan_a_barcode(desktop, table):
+    """A scanner types the digits and Enter."""
+    open_import(desktop)
+    choose(desktop, table)
+    desktop.click(IMPORT_BUTTON)
+    answer(desktop, "alt+y")
+    answer(desktop, "Return")
+    close(desktop)
+    desktop.click(SEARCH)
+    desktop.keys("ctrl+a")
+    desktop.type("3017620422003")
+    desktop.keys("Return")
+    desktop.drag(row(0), MORNING)
+    assert saved_morning(desktop) == [LINE, PRODUCT], saved_morning(desktop)
+
+
 def main():
     program = Path(sys.argv[1]).resolve()
     with Desktop() as desktop:
@@ -144,6 +166,7 @@ def main():
         import_and_eat(desktop, tables / "ciqual.csv")
         stop_in_the_middle(desktop, tables / "long.csv")
         remove_the_set(desktop)
+        scan_a_barcode(desktop, tables / "products.csv")
         end(desktop, process)
     print("imported foods: as they must be")
 

@@ -47,7 +47,7 @@ TEST_F(FoodImport, AtFirstThereIsNothingToImport) {
 
 TEST_F(FoodImport, AKnownTableIsCountedAndItsGroupsStandThereTicked) {
   dialog.Choose(table);
-  EXPECT_EQ(Label("lbl_taken"), "This is the table of USDA SR.");
+  EXPECT_EQ(Label("lbl_taken"), "This is the table of USDA SR. (UTF-8, \"TAB\")");
   EXPECT_EQ(Label("lbl_summary"), "Food items: 2");
   auto* const groups = Find<QListWidget>("list_groups");
   ASSERT_EQ(groups->count(), 2);
@@ -135,7 +135,7 @@ TEST_F(FoodImport, FollowsTheLanguage) {
   dialog.Set_Taal();
   EXPECT_EQ(dialog.windowTitle(), "Voedingsmiddelen importeren");
   EXPECT_EQ(Find<QPushButton>("cmd_import")->text(), "Importeren");
-  EXPECT_EQ(Label("lbl_taken"), "Dit is de tabel van USDA SR.");
+  EXPECT_EQ(Label("lbl_taken"), "Dit is de tabel van USDA SR. (UTF-8, \"TAB\")");
 }
 
 }  // namespace

@@ -162,6 +162,7 @@ class ImportRun {
     for (const GroupCount& group : counts->groups) {
       result_.out += std::to_string(group.foods) + "\t" + Utf8FromText(group.name) + "\n";
     }
+    Say(DescriptionOf(table.form) + "\n");
     Summarize(table, counts->foods, counts->groups.size(), *counts);
     if (counts->foods == 0) result_.status = kNotDone;
   }

@@ -25,6 +25,9 @@ struct DelimitedForm {
   std::size_t mark = 0;  // bytes of a byte order mark in front
 };
 
+// The form as anybody can check it: Windows-1252, ";"
+[[nodiscard]] std::string DescriptionOf(const DelimitedForm& form);
+
 // Why something is no table.
 enum class NoTable { empty, compressed, utf16, binary, one_column };
 

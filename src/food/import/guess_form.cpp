@@ -99,6 +99,12 @@ bool IsQuoted(std::string_view header, char delimiter) {
 
 }  // namespace
 
+std::string DescriptionOf(const DelimitedForm& form) {
+  const std::string encoding = form.encoding == Encoding::utf8 ? "UTF-8" : "Windows-1252";
+  const std::string delimiter = form.delimiter == '\t' ? "TAB" : std::string(1, form.delimiter);
+  return encoding + ", \"" + delimiter + "\"" + (form.quoted ? ", \"...\"" : "");
+}
+
 std::variant<DelimitedForm, NoTable> GuessForm(std::string_view sample) {
   if (IsCompressed(sample)) return NoTable::compressed;
   if (IsUtf16(sample)) return NoTable::utf16;

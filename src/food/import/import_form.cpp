@@ -163,8 +163,10 @@ void ImportForm::ShowFoodsAgain(const std::vector<std::string>& gone) {
 
 Text ImportForm::TakenFor() const {
   if (!table) return OwnTextOf(program_.texts, OwnText::import_nothing_chosen);
-  if (!table->known) return OwnTextOf(program_.texts, OwnText::import_unknown_table);
-  return OwnTextWith(program_.texts, OwnText::import_taken_for, FactsOf(*table->known).name);
+  const Text what = table->known ? OwnTextWith(program_.texts, OwnText::import_taken_for,
+                                               FactsOf(*table->known).name)
+                                 : OwnTextOf(program_.texts, OwnText::import_unknown_table);
+  return what + " (" + DescriptionOf(table->form) + ")";
 }
 
 std::vector<Text> ImportForm::Summary() const {

@@ -37,7 +37,7 @@ class ImportForm {
   [[nodiscard]] bool IsReady() const;
   [[nodiscard]] bool IsBusy() const { return busy_; }
 
-  [[nodiscard]] Text TakenFor() const;              // what the table is
+  [[nodiscard]] Text TakenFor() const;              // what the table is, and its form
   [[nodiscard]] std::vector<Text> Summary() const;  // what it gives, line by line
   [[nodiscard]] Text LicenceText() const;           // of a known table; empty for others
 

@@ -44,6 +44,8 @@ TEST_F(ImportCommand, ADryRunCountsAndWritesNothing) {
     const CommandResult result = Run({table, option});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.out, "1\tFruit\n1\tBread\n");
+    EXPECT_TRUE(result.errors.starts_with("UTF-8, \"TAB\"\nUSDA SR: 2 foods in 2 categories\n"))
+        << result.errors;
     EXPECT_TRUE(Names().empty());
   }
 }

@@ -76,6 +76,11 @@ TEST(GuessForm, TellsTheEncodingByMarkAndBytes) {
   EXPECT_EQ(FormOf(sample + '\xC3').encoding, Encoding::utf8);
 }
 
+TEST(GuessForm, CanBeShown) {
+  EXPECT_EQ(DescriptionOf(FormOf("a\tb\n1\t2\n")), "UTF-8, \"TAB\"");
+  EXPECT_EQ(DescriptionOf(FormOf("a;cr\xE8me\n1;2\n")), "Windows-1252, \";\", \"...\"");
+}
+
 TEST(GuessForm, TellsLineEnds) {
   EXPECT_EQ(FormOf("a,b\r\n1,2\r\n").line_end, '\n');
   EXPECT_EQ(FormOf("a,b\r1,2\r").line_end, '\r');

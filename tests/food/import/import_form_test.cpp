@@ -54,7 +54,7 @@ TEST_F(ImportForms, CountAndSayWhatATableGives) {
   EXPECT_FALSE(form.IsReady());
   EXPECT_EQ(form.TakenFor(), "Choose a table of foods that you have downloaded or made yourself.");
   ASSERT_TRUE(form.Choose(table));
-  EXPECT_EQ(form.TakenFor(), "This is the table of USDA SR.");
+  EXPECT_EQ(form.TakenFor(), "This is the table of USDA SR. (UTF-8, \"TAB\")");
   EXPECT_TRUE(form.IsReady());
   EXPECT_TRUE(form.Summary().empty());
   form.Count();
@@ -145,7 +145,7 @@ TEST_F(ImportForms, WhatIsNoTableIsToldAndTheTableBeforeStays) {
   ASSERT_EQ(test.boxes.shown.size(), 2u);
   EXPECT_TRUE(test.boxes.shown[0].text.starts_with("This is an archive or a workbook"));
   EXPECT_TRUE(test.boxes.shown[1].text.ends_with("#F28-0"));
-  EXPECT_EQ(form.TakenFor(), "This is the table of USDA SR.");
+  EXPECT_EQ(form.TakenFor(), "This is the table of USDA SR. (UTF-8, \"TAB\")");
 }
 
 TEST_F(ImportForms, AFailedImportSaysSoAndChangesNothing) {
