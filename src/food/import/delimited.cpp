@@ -7,7 +7,7 @@
 namespace kelvora {
 namespace {
 
-constexpr std::size_t kChunk = 1 << 20;
+constexpr std::size_t kFirstBuffer = 64 << 10;  // grows where a row needs more
 
 // The bytes of a word that equal the one that `pattern` repeats: their highest bits.
 std::uint64_t EqualBytes(std::uint64_t word, std::uint64_t pattern) {
@@ -31,7 +31,7 @@ std::uint64_t WithoutFirst(std::uint64_t marks) {
 }  // namespace
 
 DelimitedReader::DelimitedReader(Source source, const DelimitedForm& form)
-    : source_(std::move(source)), form_(form), buffer_(2 * kChunk) {
+    : source_(std::move(source)), form_(form), buffer_(kFirstBuffer) {
   while (end_ < form_.mark && Refill()) {
   }
   Take(std::min(form_.mark, end_));
@@ -44,8 +44,8 @@ bool DelimitedReader::Refill() {
     end_ -= begin_;
     begin_ = 0;
   }
-  if (buffer_.size() - end_ < kChunk) buffer_.resize(end_ + kChunk);
-  const std::size_t size = source_(buffer_.data() + end_, kChunk);
+  if (end_ > buffer_.size() / 2) buffer_.resize(buffer_.size() * 2);
+  const std::size_t size = source_(buffer_.data() + end_, buffer_.size() - end_);
   end_ += size;
   source_ended_ = size == 0;
   return !source_ended_;
