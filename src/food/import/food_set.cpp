@@ -295,7 +295,8 @@ FoodSet FoodSetWriter::Commit(const FoodSet& facts) {
   const std::string report = Utf8FromText(set_.name).append(kReportEnding);
   const std::string description = Utf8FromText(set_.name).append(kSetEnding);
   if (set_.skipped > 0) FinishFile(Made(report), {});
-  WriteFileAnew(Made(description), DescriptionOf(set_));
+  AppendToFile(Made(description), DescriptionOf(set_));
+  FinishFile(Made(description), {});
 
   const std::string old_in = made_in_ + std::string(kOld);
   fs::create_directory(old_in);

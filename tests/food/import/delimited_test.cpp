@@ -170,8 +170,13 @@ TEST(DelimitedReader, PassesOverALineOfAHundredMegabytesWithoutHoldingIt) {
     std::size_t long_line = 100'000'000;
     std::size_t given_before = 0;
     std::size_t given_after = 0;
+    const DelimitedReader* reading = nullptr;
+    std::size_t given_of_line = 0;
     DelimitedReader reader(
         [&](char* to, std::size_t size) {
+          if (reading != nullptr) {
+            EXPECT_LT(given_of_line, reading->BytesTaken() + (4 << 20));
+          }
           if (given_before < before.size()) {
             return given_before += before.copy(to, size);
           }
@@ -179,6 +184,7 @@ TEST(DelimitedReader, PassesOverALineOfAHundredMegabytesWithoutHoldingIt) {
             const std::size_t given = std::min(size, long_line);
             std::fill(to, to + given, 'x');
             long_line -= given;
+            given_of_line += given;
             return given;
           }
           const std::size_t given = after.substr(given_after).copy(to, size);
@@ -186,6 +192,7 @@ TEST(DelimitedReader, PassesOverALineOfAHundredMegabytesWithoutHoldingIt) {
           return given;
         },
         {',', quoted});
+    reading = &reader;
     TableRow row;
     ASSERT_TRUE(reader.Next(row));
     ASSERT_TRUE(reader.Next(row));

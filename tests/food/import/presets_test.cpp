@@ -39,7 +39,8 @@ constexpr std::string_view kCiqual =
     "Protéines, N x facteur de Jones (g/100 g);Glucides (g/100 g);Lipides (g/100 g);"
     "AG saturés (g/100 g);AG monoinsaturés (g/100 g);AG polyinsaturés (g/100 g);"
     "Sel chlorure de sodium (g/100 g);Sodium (mg/100 g)\r\n"
-    "fruits, légumes;\"Crème; épaisse\";-;;1250;;2,5;< 0,5;30;20,1;8;-;1,5;-\r\n"_w;
+    "fruits, légumes;\"Crème; épaisse\";-;;1250;;2,5;< 0,5;30;20,1;8;-;1,5;-\r\n"
+    "sel;Bouillon;40;10;;;0;1;0;0;0;0;1,5;100\r\n"_w;
 constexpr std::string_view kCream = "Crème; épaisse"_w;
 constexpr std::string_view kFruit = "fruits, légumes"_w;
 
@@ -53,6 +54,8 @@ TEST_F(KnownTables, CiqualIsReadInItsCodePageWithItsCommasAndItsWordsForNothing)
   EXPECT_EQ(OnlyLine("Ciqual: fruits, légumes.dat"),
             (Fields{Text(kCream), "100 gram", "100", "1250", "297.619", "2.5", "9.9", "20.1", "0",
                     "0.6", Text(kFruit), ""}));
+  // Sodium itself goes before salt.
+  EXPECT_EQ(OnlyLine("Ciqual: sel.dat")[FoodField::kSodium], "0.1");
   EXPECT_EQ(set->licence, "Licence Ouverte / Open Licence 2.0");
   EXPECT_EQ(set->unknown, 0u);
 }
