@@ -38,7 +38,9 @@ PRODUCT = ("Hazelnut spread, Ferrara½100 gram½100½2100½500½6.3½0½0½0½0�
 
 
 def write_tables(home):
-    folder = Path(home, "tables")
+    """Where the list of files opens. In the home itself lies the file of the screen, which changes all
+    the time, and the list with it."""
+    folder = Path(home, "Downloads")
     folder.mkdir()
     (folder / "ciqual.csv").write_bytes((HEADER + CAMEMBERT).encode("cp1252"))
     (folder / "products.csv").write_text(PRODUCTS, encoding="utf-8")
@@ -79,7 +81,7 @@ def choose(desktop, table):
     desktop.click(FILE)
     desktop.wait_for("the list of files", lambda: windows(desktop, IMPORT) == 2)
     desktop.settle()
-    desktop.type(str(table))
+    desktop.type(table.name)
     desktop.keys("Return")
     desktop.wait_for("the end of the list of files", lambda: windows(desktop, IMPORT) == 1)
     desktop.settle()
