@@ -17,7 +17,7 @@ constexpr int kWidthInLetters = 8;
 AmountBox::AmountBox(QWidget* parent, const EntryContext& entry)
     : TextBox(parent, QStringLiteral("txt_amount"), entry, {.limit = kLongest}), entry_(entry) {
   setAlignment(Qt::AlignRight);
-  setFixedWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * (kWidthInLetters + 3));
+  setFixedWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * (kWidthInLetters + 1));
 }
 
 void AmountBox::Set_Taal() {

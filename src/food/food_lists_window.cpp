@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "core/small_geometry.h"
 #include "food/food_list_commands.h"
 #include "food/food_rows_panel.h"
 #include "language/lists_texts.h"
@@ -153,7 +154,7 @@ void FoodListsWindow::BuildStatusBar() {
   StatusBar_->setSizeGripEnabled(false);
   panels_ = {new LongLabel(StatusBar_, QStringLiteral("StatusBar_1")),
              new LongLabel(StatusBar_, QStringLiteral("StatusBar_2")),
-             NewLabel(this, "StatusBar_3")};
+             new LongLabel(this, QStringLiteral("StatusBar_3"))};
   for (QLabel* const panel : {panels_[0], panels_[1]}) {
     panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   }
@@ -186,17 +187,23 @@ void FoodListsWindow::LayOut() {
   layout->addLayout(list, 1);
   auto* const options = new QHBoxLayout;
   options->setContentsMargins(4, 2, 4, 2);
-  options->setSpacing(6);
+  options->setSpacing(4);
   options->addWidget(lbl_amount_);
   options->addWidget(txt_amount_);
-  options->addStretch();
-  options->addWidget(Pic_opties_);
   layout->addLayout(options);
-  // The third panel has a line of its own: beside the two others its words find no room in Dutch.
-  auto* const target = new QHBoxLayout;
-  target->setContentsMargins(4, 0, 4, 2);
-  target->addWidget(panels_[2]);
-  layout->addLayout(target);
+  // The third panel has a line of its own: beside the two others its words find no room in Dutch. A
+  // low main window has no room for one more line; there it stands beside the amount.
+  const CoreView* const core = program_.windows.core;
+  if (core != nullptr && IsSmall(core->Size())) {
+    options->addWidget(panels_[2], 1);
+  } else {
+    options->addStretch();
+    auto* const target = new QHBoxLayout;
+    target->setContentsMargins(4, 0, 4, 2);
+    target->addWidget(panels_[2]);
+    layout->addLayout(target);
+  }
+  options->addWidget(Pic_opties_);
   layout->addWidget(StatusBar_);
   setTabOrder(Pic_toevoegen_, tables_.front());
   for (std::size_t i = 1; i < tables_.size(); ++i) setTabOrder(tables_[i - 1], tables_[i]);

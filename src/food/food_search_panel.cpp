@@ -92,6 +92,9 @@ FoodSearchPanel::FoodSearchPanel(const EntryContext& entry, QWidget* parent) : Q
   line->addWidget(txt_zoeken_, 1);
   line->addWidget(cmd_often_);
   layout->addLayout(line);
+  // Tab goes from the search straight to what it found.
+  setTabOrder(combo_cat_, cmd_often_);
+  setTabOrder(cmd_often_, txt_zoeken_);
 }
 
 void FoodSearchPanel::Set_Taal(const TextTables& texts) {

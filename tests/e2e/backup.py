@@ -16,8 +16,8 @@ from desktop import Desktop, region
 from one_day import (CONSUMPTION_WINDOWS, DEFAULT_SCREENS, drag_foods, end, make_user_and_day,
                      open_first_day)
 
-# Entries of the menu Extra, counted from its top; without a user it has the same.
-BACKUP, RESTORE = 4, 5
+# Entries of Extra, counted from its end.
+BACKUP, RESTORE = 3, 2
 UTF8_NAME = 0x800
 
 
@@ -31,7 +31,7 @@ def files_below(folder):
 
 
 def give_extra(desktop, entry, menus_right):
-    desktop.keys("F10", "Down", *["Right"] * menus_right, *["Down"] * entry, "Return")
+    desktop.keys("F10", "Down", *["Right"] * menus_right, *["Up"] * entry, "Return")
 
 
 def main():

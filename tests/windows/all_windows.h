@@ -121,6 +121,7 @@ class AllWindows {
     SaveDay(program);
     Save_Profile(program, ProfileFile(program.paths, "Anna"));
     WriteDays(program, 2);
+    ComputeDefaultGeometry(program);  // as an arrangement does, which comes with every day
     window.UpdateCommands();
   }
 

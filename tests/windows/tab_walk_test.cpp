@@ -71,7 +71,8 @@ const std::vector<DialogWalk> kDialogWalks = {
     {"KV_bestand", 2,
      "tabs type_prioriteit_0 Slider_kj Slider_ovet Slider_vvet Slider_nat Slider_ew Slider_kdr "
      "Combo_default chk_apply cmd_opslaan cmd_annuleer"},
-    {"KV_browsefiles", -1, "lst_users LV_browse_files chk_profiel cmd_openen cmd_annuleer"},
+    {"KV_browsefiles", -1,
+     "lst_users LV_browse_files chk_profiel cmd_take_over cmd_openen cmd_annuleer"},
     {"KV_export_html", -1,
      "opt_soort_0 opt_seletie_1 chk_grafieken chk_notities chk_close LV_user_files cmd_export "
      "cmd_annuleer"},
@@ -126,11 +127,12 @@ struct ChildWalk {
 };
 
 const std::vector<ChildWalk> kChildWalks = {
-    {WindowId::lists, "", "Toolbar_1 combo_cat txt_zoeken LV_browse_zoeken Pic_opties"},
-    {WindowId::lists, "Toolbar_2", "Toolbar_1 Pic_toevoegen LV_browse_eigen Pic_opties"},
-    {WindowId::lists, "Toolbar_3", "Toolbar_1 LV_browse_favo Pic_opties"},
+    {WindowId::lists, "",
+     "Toolbar_1 combo_cat cmd_often txt_zoeken LV_browse_zoeken txt_amount Pic_opties"},
+    {WindowId::lists, "Toolbar_2", "Toolbar_1 Pic_toevoegen LV_browse_eigen txt_amount Pic_opties"},
+    {WindowId::lists, "Toolbar_3", "Toolbar_1 LV_browse_favo txt_amount Pic_opties"},
     {WindowId::lists, "Toolbar_4",
-     "Toolbar_1 txt_internet Pic_toevoegen LV_browse_internet Pic_opties"},
+     "Toolbar_1 txt_internet Pic_toevoegen LV_browse_internet txt_amount Pic_opties"},
     {WindowId::morning, "", "Toolbar_1 Toolbar_control_1 LV_consumpties"},
     {WindowId::afternoon, "Toolbar_1", "Toolbar_1 Toolbar_control_1 LV_consumpties"},
     {WindowId::evening, "Toolbar_2",

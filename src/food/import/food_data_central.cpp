@@ -288,7 +288,7 @@ class CentralReader {
       if (std::isnan(value) || value > most) return std::nullopt;
       return value;
     };
-    const auto grams = [&](Nutrient nutrient) { return within(nutrient, kMostGrams); };
+    const auto grams = [&](Nutrient nutrient) { return within(nutrient, kMostPortionGrams); };
     KnownAmounts known;
     known.kj = within(kKj, kMostKj);
     for (const Nutrient kcal : {kKcal, kKcalGeneral, kKcalSpecific}) {

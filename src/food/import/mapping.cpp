@@ -57,7 +57,7 @@ Text HeaderKey(std::string_view header) {
 
 bool CompleteAmounts(const KnownAmounts& known, double factor, TableFood& food) {
   if (!known.kj && !known.kcal) return false;
-  const auto set = [&](Amount amount, std::optional<double> value) {
+  const auto set = [&](TableAmount amount, std::optional<double> value) {
     food.amounts[static_cast<std::size_t>(amount)] = value.value_or(0) * factor;
     if (!value) ++food.unknown;
   };
@@ -67,13 +67,13 @@ bool CompleteAmounts(const KnownAmounts& known, double factor, TableFood& food) 
   auto sodium = known.sodium;
   if (!sodium && known.salt) sodium = *known.salt * kSodiumOfSalt;
   food.unknown = 0;
-  set(Amount::kj, known.kj ? *known.kj : *known.kcal * kKjOfKcal);
-  set(Amount::kcal, known.kcal ? *known.kcal : *known.kj / kKjOfKcal);
-  set(Amount::protein, known.protein);
-  set(Amount::fat_u, fat_u);
-  set(Amount::fat_s, known.fat_s);
-  set(Amount::carbs, known.carbs);
-  set(Amount::sodium, sodium);
+  set(TableAmount::kj, known.kj ? *known.kj : *known.kcal * kKjOfKcal);
+  set(TableAmount::kcal, known.kcal ? *known.kcal : *known.kj / kKjOfKcal);
+  set(TableAmount::protein, known.protein);
+  set(TableAmount::fat_u, fat_u);
+  set(TableAmount::fat_s, known.fat_s);
+  set(TableAmount::carbs, known.carbs);
+  set(TableAmount::sodium, sodium);
   return true;
 }
 
@@ -185,7 +185,7 @@ double RowMapper::ReadPortion(const TableRow& row, TableFood& food) const {
 }
 
 bool RowMapper::ReadAmounts(const TableRow& row, double factor, TableFood& food) const {
-  const auto amount = [&](TableField field) { return AmountOf(row, field, kMostGrams); };
+  const auto amount = [&](TableField field) { return AmountOf(row, field, kMostPortionGrams); };
   KnownAmounts known;
   known.kj = AmountOf(row, TableField::kj, kMostKj);
   known.kcal = AmountOf(row, TableField::kcal, kMostKcal);

@@ -54,7 +54,7 @@ struct TableMapping {
 };
 
 // The parts of a food line that hold amounts, in their order there.
-enum class Amount { kj, kcal, protein, fat_u, fat_s, carbs, sodium };
+enum class TableAmount { kj, kcal, protein, fat_u, fat_s, carbs, sodium };
 inline constexpr std::size_t kAmountCount = 7;
 
 struct TableFood {
@@ -130,7 +130,7 @@ class RowMapper {
 
 // What an amount in 100 grams is at most; pure fat has 900 kilocalories.
 inline constexpr double kKjOfKcal = 4.2;
-inline constexpr double kMostGrams = 100;
+inline constexpr double kMostPortionGrams = 100;
 inline constexpr double kMostKcal = 1000;
 inline constexpr double kMostKj = kMostKcal * kKjOfKcal;
 
