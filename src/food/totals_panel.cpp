@@ -3,8 +3,8 @@
 #include <QGridLayout>
 
 #include "language/consumption_texts.h"
-#include "platform/qt/long_label.h"
 #include "platform/qt/accessibility.h"
+#include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
