@@ -12,10 +12,11 @@ list(REMOVE_ITEM logic_sources ${qt_platform_sources} ${window_sources})
 
 # What tests run through for seconds is optimized a little in their builds too; all else is compiled
 # faster than it would run. The precompiled headers are made for code that is not.
-set(hot_sources exchange_sort store text text_list text_search)
-list(TRANSFORM hot_sources PREPEND ${CMAKE_SOURCE_DIR}/src/core/)
+set(hot_sources core/exchange_sort core/store core/text core/text_list core/text_search
+                food/import/cell_amount food/import/cell_text food/import/delimited
+                food/import/food_line food/import/mapping language/language_file)
+list(TRANSFORM hot_sources PREPEND ${CMAKE_SOURCE_DIR}/src/)
 list(TRANSFORM hot_sources APPEND .cpp)
-list(APPEND hot_sources ${CMAKE_SOURCE_DIR}/src/language/language_file.cpp)
 if(CMAKE_BUILD_TYPE STREQUAL Debug)
   set_source_files_properties(${hot_sources} PROPERTIES COMPILE_OPTIONS -O1
                                                         SKIP_PRECOMPILE_HEADERS ON)

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "days/day_dialogs.h"
@@ -22,6 +23,9 @@ constexpr int kInitialWidth = 760;
 constexpr int kInitialHeight = 480;
 constexpr int kSpacing = 12;
 constexpr int kDaysWidth = 300;
+constexpr int kUnitWidth = 110;
+constexpr int kEnergyWidth = 56;
+constexpr int kLeastFoodWidth = 140;
 constexpr int kCellRoom = 18;  // beside the words of a column of numbers
 // As long as nobody notices that the days are read before the window stands; then a little at a
 // time.
@@ -66,8 +70,6 @@ void TakeOverDialog::Build() {
   tree_foods_->header()->setStretchLastSection(false);
   tree_foods_->header()->setSectionsMovable(false);
   tree_foods_->header()->setSectionResizeMode(kFood, QHeaderView::Stretch);
-  tree_foods_->header()->setSectionResizeMode(kUnit, QHeaderView::ResizeToContents);
-  tree_foods_->header()->setSectionResizeMode(kEnergy, QHeaderView::ResizeToContents);
   lbl_foods_->setBuddy(tree_foods_);
 
   const auto new_button = [this](const char* name) {
@@ -142,6 +144,7 @@ void TakeOverDialog::Set_Taal() {
                                 text(consumption_text::kColumnUnit),
                                 ToQt(Trimmed(EnergyHeading(program_)))});
   tree_foods_->headerItem()->setTextAlignment(kEnergy, Qt::AlignRight);
+  SetFoodColumns();
   ShowDays();
 }
 
@@ -190,6 +193,20 @@ void TakeOverDialog::SetDayColumns() {
                                              fontMetrics().horizontalAdvance("00000") + kCellRoom));
 }
 
+void TakeOverDialog::SetFoodColumns() {
+  QHeaderView* const header = tree_foods_->header();
+  const auto least = [header](int column, int given) {
+    return std::max(header->sectionSizeHint(column), given);
+  };
+  const int unit = least(kUnit, kUnitWidth);
+  const int energy = least(kEnergy, kEnergyWidth);
+  header->resizeSection(kUnit, unit);
+  header->resizeSection(kEnergy, energy);
+  const int scroll_bar = tree_foods_->verticalScrollBar()->sizeHint().width();
+  tree_foods_->setMinimumWidth(least(kFood, kLeastFoodWidth) + unit + energy + scroll_bar +
+                               2 * tree_foods_->frameWidth());
+}
+
 void TakeOverDialog::ShowFoods() {
   foods_ = path_.empty() ? DayFoods() : FoodsOfDay(program_, path_);
   const QSignalBlocker blocker(tree_foods_);
@@ -199,6 +216,10 @@ void TakeOverDialog::ShowFoods() {
     auto* const group = new QTreeWidgetItem(tree_foods_);
     group->setSizeHint(kFood, {0, RowHeight(*tree_foods_)});
     group->setText(kFood, ToQt(program_.texts[{RowOf(part).texts, consumption_text::kStatus}]));
+    // Its empty cells are read as the part that they stand in.
+    for (const int column : {kUnit, kEnergy}) {
+      group->setData(column, Qt::AccessibleTextRole, group->text(kFood));
+    }
     if (foods.empty()) {
       group->setDisabled(true);
       continue;

@@ -39,6 +39,7 @@ class TakeOverDialog : public QDialog, public WindowView {
   void ShowDays();
   void ShowFoods();
   void SetDayColumns();
+  void SetFoodColumns();
   void EnableButtons();
   void TakeTicked();
   void TakeWholeDay();

@@ -99,6 +99,8 @@ void BackupDialog::Set_Taal() {
   SetCaption(cmd_backup_, OwnTextOf(texts, OwnText::backup_start));
   chk_reminder_->setChecked(RemindsOfBackup(program_));
   ShowState();
+  // As high as the lines of its words at its least width.
+  setMinimumHeight(layout()->minimumHeightForWidth(kWidth));
 }
 
 void BackupDialog::FollowSettings() {

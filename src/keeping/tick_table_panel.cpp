@@ -42,7 +42,15 @@ TickTable::TickTable(QWidget* parent, const char* object_name) : QTableView(pare
   MakeRowList(this);
   setTabKeyNavigation(false);
   horizontalHeader()->setSectionsClickable(false);
-  horizontalHeader()->setStretchLastSection(true);
+  // The first column takes what the others, which are short, leave over.
+  connect(&model_, &QAbstractItemModel::modelReset, this, [this] {
+    QHeaderView* const header = horizontalHeader();
+    for (int column = 0; column < header->count(); ++column) {
+      header->setSectionResizeMode(
+          column, column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    }
+    setMinimumWidth(WidthOfHeadings(*this) + 2 * frameWidth());
+  });
 }
 
 std::optional<std::size_t> TickTable::CurrentRow() const {

@@ -2,6 +2,7 @@
 """Shows that the check of the failure codes can fail: what it reads, and what it refuses."""
 import sys
 import unittest
+from collections import defaultdict
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
@@ -39,18 +40,20 @@ class FailureCodes(unittest.TestCase):
         self.assertEqual(wrongly_shared(pair + [(code, "Other", "u")]), [code])
 
     def test_the_given_codes_belong_to_their_routines(self):
-        routines = {code: function for code, function, _ in all_rows()}
+        routines = defaultdict(set)
+        for code, function, _ in all_rows():
+            routines[code].add(function)
         for number, name in enumerate([
                 "Save_Settings", "Load_Databases", "Load_Custom", "Load_Favorites",
                 "Save_Favorites", "Save_Custom", "Load_Profile", "Save_Profile", "LoadDay",
                 "SaveDay"]):
-            self.assertEqual(routines["FF", 1, number], name)
+            self.assertIn(name, routines["FF", 1, number])
         for number, name in {0: "Refresh_Totalen", 2: "Kg_To_Stones", 3: "Gram_To_Oz",
                              4: "Oz_To_Gram", 5: "Meter_To_Feet_Inch", 6: "Feet_Inch_To_Meter",
                              7: "Bereken_BMI", 8: "Format_Datum", 9: "Dagen_Tussen"}.items():
-            self.assertEqual(routines["FF", 11, number], name)
-        self.assertEqual(routines["FF", 8, 13], "Check_Language_Files")
-        self.assertEqual(routines["F", 15, 7], "DropOnDayPart")
+            self.assertIn(name, routines["FF", 11, number])
+        self.assertEqual(routines["FF", 8, 13], {"Check_Language_Files"})
+        self.assertEqual(routines["F", 15, 7], {"DropOnDayPart"})
 
     def test_the_page_has_a_row_for_each(self):
         rows = all_rows()

@@ -174,9 +174,10 @@ class Desktop:
                 return True
         return False
 
-    def settle(self):
-        """Waits until the screen has stood still, and nobody has been at work, for a moment."""
-        end = time.monotonic() + 30
+    def settle(self, seconds=30):
+        """Waits until the screen has stood still, and nobody has been at work, for a moment; for long
+        work more than the usual seconds."""
+        end = time.monotonic() + seconds
         before, since = self.screen(), time.monotonic()
         while time.monotonic() < end:
             time.sleep(0.04)

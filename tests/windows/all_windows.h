@@ -19,14 +19,19 @@
 #include "days/day_settings_dialog.h"
 #include "days/popup_window.h"
 #include "days/settings_dialog.h"
+#include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
+#include "food/other_amount_dialog.h"
+#include "keeping/backup_dialog.h"
 #include "output/export_dialog.h"
 #include "storage/day_file.h"
 #include "storage/folders.h"
 #include "storage/profile_file.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 #include "windows/find_in.h"
 #include "windows/written_days.h"
@@ -76,6 +81,28 @@ inline const std::vector<DialogKind>& EveryDialog() {
       {"KV_add_voedingsmiddel",
        [shown](Program& program) {
          return shown(std::make_unique<NewFoodDialog>(program, nullptr));
+       }},
+      {"KV_take_over",
+       [shown](Program& program) {
+         return shown(
+             std::make_unique<TakeOverDialog>(program, std::nullopt, std::string(), nullptr));
+       }},
+      {"KV_backup",
+       [shown](Program& program) {
+         return shown(std::make_unique<BackupDialog>(program, nullptr));
+       }},
+      {"KV_restore",
+       [shown](Program& program) {
+         return shown(ReadBackupWindow(program, BackupOfAll(program)));
+       }},
+      {"KV_import_foods",
+       [shown](Program& program) {
+         return shown(std::make_unique<FoodImportDialog>(program, nullptr));
+       }},
+      {"other_amount",
+       [shown](Program& program) {
+         return shown(std::make_unique<OtherAmountDialog>(program, "Bread", "1",
+                                                          OtherAmountDialog::Change(), nullptr));
        }},
       {"KV_popup",
        [shown](Program& program) {

@@ -94,6 +94,11 @@ const std::vector<DialogWalk> kDialogWalks = {
      "txt_sGram txt_sOz txt_s_0 txt_s_1 chk_kj txt_s_2 txt_s_3 txt_s_4 txt_s_5 txt_s_6 txt_dNaam "
      "combo_dEenheid txt_dGram txt_dOz txt_d_0 txt_d_1 txt_d_2 txt_d_3 txt_d_4 txt_d_5 txt_d_6 "
      "cmd_opslaan cmd_annuleer"},
+    {"KV_take_over", -1, "LV_other_days tree_foods cmd_take_over cmd_whole_day cmd_annuleer"},
+    {"KV_backup", -1, "cmb_users chk_reminder cmd_backup cmd_annuleer"},
+    {"KV_restore", -1, "LV_users LV_files opt_differs_0 cmd_restore cmd_annuleer"},
+    {"KV_import_foods", 0, "cmd_file cmd_folder tabs list_groups combo_portions cmd_close"},
+    {"other_amount", -1, "txt_amount cmd_opslaan cmd_annuleer"},
     {"KV_popup", -1, "cmd_annuleer"},
     {"KV_data", -1, "lst_members lst_lines"},
 };
