@@ -20,7 +20,6 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
-#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
@@ -31,7 +30,6 @@
 #include "storage/record_file.h"
 #include "support/pseudo_language.h"
 #include "support/test_program.h"
-#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 #include "windows/written_days.h"
 
@@ -142,15 +140,10 @@ class EveryWindow : public testing::Test {
     LookAt(new_food, look);
     OtherAmountDialog amount(program, "Bread, brown", "150 g", {}, nullptr);
     LookAt(amount, look);
-    FoodImportDialog food_import(program, nullptr);
-    LookAt(food_import, look);
     TakeOverDialog other_days(program, DayPart::morning, {}, nullptr);
     LookAt(other_days, look);
     BackupDialog backup(program, nullptr);
     LookAt(backup, look);
-    WriteRecord(ProfileFile(program.paths, "Anna"), program.profile);
-    const auto restore = ReadBackupWindow(program, BackupOfAll(program));
-    LookAt(*restore, look);
     UpdateWindow update(program, UpdateMode::shown, nullptr);
     LookAt(update, look);
     test.transfers.Complete({"3.00\xBD"});
