@@ -103,7 +103,6 @@ void FoodListsWindow::ShowOften() {
   TextBox& search = Pic_zoek_->Search();
   search.ShowText({});
   lists_.ShowOften(often_ ? often_->Foods(PartOfTime(program_.platform.clock.Now())) : TextList());
-  SetEmptyTexts();
   ShowResults();
   search.setFocus();
 }

@@ -1,5 +1,5 @@
-// Entering foods by the keyboard in the food lists window: the search box, the box of the amount,
-// and where the focus goes.
+// Entering foods by the keyboard in the food lists window: the search box and what it finds, the
+// box of the amount, and where the focus goes.
 #include <QApplication>
 #include <QMdiArea>
 
@@ -36,6 +36,30 @@ void FoodListsWindow::BuildSearch() {
     if (lists_.Zoek_In_Lijsten(search->Entered())) ShowResults();
     search->selectAll();
   });
+}
+
+void FoodListsWindow::Toon_Standaardlijst() {
+  const TextList categories = lists_.Categories();
+  const auto searched = lists_.Toon_Standaardlijst();
+  QComboBox& shown = Pic_zoek_->Categories();
+  shown.clear();
+  if (searched) {
+    for (const std::string_view category : categories) shown.addItem(ToQt(category));
+    shown.setCurrentIndex(0);
+    Pic_zoek_->Search().ShowText(*searched);
+    Pic_zoek_->Search().selectAll();
+  }
+  SetEmptyTexts();
+  Populate(FoodView::standard, Scroll::to_top);
+  results_shown_ = false;
+  ShowStatus();
+}
+
+void FoodListsWindow::ShowResults() {
+  SetEmptyTexts();
+  Populate(FoodView::standard, Scroll::to_top);
+  results_shown_ = true;
+  ShowStatus();
 }
 
 void FoodListsWindow::BuildAmount() {

@@ -369,30 +369,6 @@ void FoodListsWindow::Populate_Food_List_Internet() {
   if (View() == FoodView::internet) ShowStatus();
 }
 
-void FoodListsWindow::Toon_Standaardlijst() {
-  const TextList categories = lists_.Categories();
-  const auto searched = lists_.Toon_Standaardlijst();
-  QComboBox& shown = Pic_zoek_->Categories();
-  shown.clear();
-  if (searched) {
-    for (const std::string_view category : categories) shown.addItem(ToQt(category));
-    shown.setCurrentIndex(0);
-    Pic_zoek_->Search().ShowText(*searched);
-    Pic_zoek_->Search().selectAll();
-  }
-  SetEmptyTexts();
-  Populate(FoodView::standard, Scroll::to_top);
-  results_shown_ = false;
-  ShowStatus();
-}
-
-void FoodListsWindow::ShowResults() {
-  SetEmptyTexts();
-  Populate(FoodView::standard, Scroll::to_top);
-  results_shown_ = true;
-  ShowStatus();
-}
-
 // Before there is any row the columns are laid out once; after that they follow the list only while
 // it has rows.
 void FoodListsWindow::showEvent(QShowEvent* event) {
