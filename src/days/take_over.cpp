@@ -20,10 +20,6 @@ namespace {
 constexpr std::size_t kTrendKj = 1;
 constexpr std::size_t kTrendKcal = 2;
 
-Priority EnergyOf(const Program& program) {
-  return PriorityOfUser(program) == Priority::kcal ? Priority::kcal : Priority::kj;
-}
-
 double DateOf(std::string_view stored_date) {
   return ReadStoredNumber(DateKeyOf(stored_date));
 }
@@ -68,7 +64,7 @@ void OtherDays::Finish() {
 OtherDay OtherDays::RowOf(const StoredDay& day) const {
   if (!day.has_record)
     return {.path = day.file.path, .date = day.file.name, .weekday = {}, .energy = {}};
-  const Priority energy = EnergyOf(program_);
+  const Priority energy = EnergyOfUser(program_);
   const std::size_t field = energy == Priority::kcal ? kTrendKcal : kTrendKj;
   return {.path = day.file.path,
           .date = Format_Datum(day.date, program_.settings[Setting::opt_system], UnitsOf(program_)),
@@ -79,7 +75,7 @@ OtherDay OtherDays::RowOf(const StoredDay& day) const {
 
 const Text& EnergyHeading(const Program& program) {
   using namespace browse_text;
-  return program.texts[EnergyOf(program) == Priority::kcal ? kColumnKcal : kColumnKj];
+  return program.texts[EnergyOfUser(program) == Priority::kcal ? kColumnKcal : kColumnKj];
 }
 
 DayFoods FoodsOfDay(Program& program, const std::string& path) {
@@ -101,7 +97,7 @@ DayFoods FoodsOfDay(Program& program, const std::string& path) {
         read[part].push_back({Text(line), static_cast<std::size_t>(count),
                               Text(FieldOf(line, FoodField::kProduct)),
                               Text(FieldOf(line, FoodField::kUnit)),
-                              NutrientCell(program, line, count, EnergyOf(program))});
+                              NutrientCell(program, line, count, EnergyOfUser(program))});
       }
     }
     foods = std::move(read);

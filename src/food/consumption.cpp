@@ -94,6 +94,10 @@ const Text& CellOf(const ConsumptionRow& row, std::size_t column) {
   return row.*kCells[column];
 }
 
+Priority EnergyOfUser(const Program& program) {
+  return PriorityOfUser(program) == Priority::kcal ? Priority::kcal : Priority::kj;
+}
+
 Text NutrientCell(Program& program, std::string_view line, double portions, Priority nutrient) {
   return PrintedOrNothing([&] {
     return FormatNumber(ReadStoredNumber(FieldOf(line, FoodFieldOf(nutrient))) * portions,

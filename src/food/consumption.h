@@ -34,6 +34,10 @@ inline constexpr std::size_t kConsumptionColumns = 6;
 // that no number can hold has an empty cell.
 [[nodiscard]] std::vector<ConsumptionRow> ConsumptionRows(Program& program, DayPart part);
 
+// The energy that lists show beside foods and days: kilocalories for whoever gives them priority,
+// else kilojoules.
+[[nodiscard]] Priority EnergyOfUser(const Program& program);
+
 // The amount of a nutrient in so many portions of a food, as its column shows it, and the heading
 // of that column.
 [[nodiscard]] Text NutrientCell(Program& program, std::string_view line, double portions,

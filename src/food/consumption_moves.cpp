@@ -41,8 +41,7 @@ std::size_t LinesOf(const Program& program, const ClipboardFoods& foods) {
 Text TableOf(Program& program, DayPart part, const std::vector<std::size_t>& rows) {
   const auto shown = ConsumptionRows(program, part);
   const auto headings = ConsumptionHeadings(program, part);
-  const bool kcal = PriorityOfUser(program) == Priority::kcal;
-  const Priority energy = kcal ? Priority::kcal : Priority::kj;
+  const Priority energy = EnergyOfUser(program);
   Text table;
   const auto add_row = [&](const auto& cell, std::string_view last) {
     for (std::size_t column = 1; column < kConsumptionColumns - 1; ++column) {
