@@ -27,10 +27,6 @@ class FoodLists {
   [[nodiscard]] std::size_t Count(FoodView view) const { return SourceOf(view).Count(); }
   // The line of a row; "" beyond the end.
   [[nodiscard]] std::string_view LineAt(FoodView view, std::size_t row) const;
-  // A line by its number, counted from 0, as the source list stands now.
-  [[nodiscard]] std::string_view LineOfNumber(FoodView view, std::size_t number) const {
-    return SourceOf(view)[number];
-  }
 
   // The foods of the internet view, which a search fills.
   [[nodiscard]] TextList& temp_internet() { return temp_internet_; }

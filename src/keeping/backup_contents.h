@@ -51,7 +51,6 @@ class BackupContents {
   // Does the next step; false once there is none. Throws std::system_error for a file that can't be
   // read or holds nothing of a backup.
   bool Work();
-  [[nodiscard]] std::size_t EntriesRead() const { return entries_; }
 
   [[nodiscard]] const std::string& Path() const { return path_; }
   [[nodiscard]] std::vector<BackupUser>& Users() { return users_; }

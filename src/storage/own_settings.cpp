@@ -4,6 +4,7 @@
 #include <system_error>
 #include <vector>
 
+#include "core/web_address.h"
 #include "storage/record_file.h"
 
 namespace kelvora {
@@ -11,13 +12,6 @@ namespace {
 
 std::string FileOf(const Paths& paths) {
   return paths.SettingsFile.substr(0, paths.SettingsFile.rfind('/') + 1) + "own.conf";
-}
-
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 struct Line {
@@ -33,8 +27,8 @@ std::vector<Line> LinesOf(std::string_view file) {
     file.remove_prefix(std::min(file.size(), line.whole.size() + 1));
     const std::size_t mark = line.whole.find('=');
     if (mark != line.whole.npos && !line.whole.starts_with('#')) {
-      line.key = Trimmed(line.whole.substr(0, mark));
-      line.value = Trimmed(line.whole.substr(mark + 1));
+      line.key = TrimmedLine(line.whole.substr(0, mark));
+      line.value = TrimmedLine(line.whole.substr(mark + 1));
     }
     lines.push_back(line);
   }
