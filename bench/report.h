@@ -33,7 +33,7 @@ struct Reach {
 enum class Plan {
   many,  // repetitions of as many iterations as fill 50 ms
   few,   // repetitions of a few iterations, for what leaves traces that slow down the next ones
-  one,   // repetitions of one iteration, for what needs fresh memory each time
+  one,   // repetitions of one iteration, for what needs fresh memory each time or takes seconds
 };
 
 class Report {

@@ -11,9 +11,7 @@
 #include <thread>
 #include <unistd.h>
 
-#include "days/open_day.h"
-#include "keeping/recovery_offer.h"
-#include "storage/day_file.h"
+#include "keeping/numbered_edits.h"
 #include "storage/folders.h"
 #include "support/file_faults.h"
 #include "support/test_program.h"
@@ -22,7 +20,6 @@ namespace kelvora {
 namespace {
 
 constexpr int kKills = 500;
-constexpr const char* kName = "05032004140709.kvf";
 
 enum Step : int { editing, keeping, saving };
 
@@ -32,20 +29,10 @@ struct Told {
   volatile int kept = 0;  // the last edit after which the copy or the save was done
 };
 
-// Each edit takes a food out and puts one in, so that the day stays at twenty, and writes its
-// number into the diary.
-void Edit(Program& program, int number) {
-  TextList& foods = program.store.L_ochtend;
-  if (foods.Count() == 20) foods.Remove(0);
-  foods.Add(LineOf({.product = "food " + std::to_string(number)}));
-  program.store.txt_notities = "word " + std::to_string(number);
-  SetFileChanged(program, true);
-}
-
 [[noreturn]] void EditAndSaveForever(Program& program, Told& told, int first) {
   for (int number = first;; ++number) {
     told.step = editing;
-    Edit(program, number);
+    MakeEdit(program, number);
     if (number % 4 == 0) {
       told.step = keeping;
       BringRecoveryCopyUpToDate(program);
@@ -57,35 +44,16 @@ void Edit(Program& program, int number) {
   }
 }
 
-// The number of the last edit that the open day holds; fails if the day is not whole.
-int LastEditOf(const Program& program) {
-  const KV_data& store = program.store;
-  const std::string& words = store.txt_notities;
-  if (!words.starts_with("word ")) return -1;
-  const int last = std::stoi(words.substr(5));
-  for (std::size_t i = 0; i < store.L_ochtend.Count(); ++i) {
-    const int number = last + 1 - static_cast<int>(store.L_ochtend.Count() - i);
-    EXPECT_EQ(store.L_ochtend[i], LineOf({.product = "food " + std::to_string(number)}));
-  }
-  return last;
-}
-
-// A new start, where everything that is offered is taken; the number of the last edit that it
-// finds.
+// The number of the last edit that a new start finds.
 int StartAnew(TestProgram& test) {
-  const std::string folder = test.program.paths.UsersPath + "Anna/Files/";
   CloseDay(test.program);
   test.boxes.shown.clear();
-  test.boxes.answers = {BoxAnswer::yes};
-  OfferRecoveryCopies(test.program);
+  const std::optional<int> last = LastEditAfterNewStart(test);
   EXPECT_LE(test.boxes.shown.size(), 1u);
-  test.boxes.answers.clear();
-  if (!test.program.store.DayIsOpen()) LoadDay(test.program, folder, kName);
-  EXPECT_TRUE(test.program.store.DayIsOpen()) << "the day is lost";
-  const int last = test.program.store.DayIsOpen() ? LastEditOf(test.program) : -1;
+  EXPECT_TRUE(last.has_value()) << "the day is lost";
   EXPECT_TRUE(SaveDay(test.program));
   EXPECT_TRUE(std::filesystem::is_empty(test.program.paths.StatePath));
-  return last;
+  return last.value_or(-1);
 }
 
 // Before each single call that changes the disk, from the first one of the copy to the last one of
@@ -93,15 +61,15 @@ int StartAnew(TestProgram& test) {
 TEST(Kills, AtEachStepOfASaveNothingIsLost) {
   TestProgram test;
   test.OpenDay("Anna");
-  Edit(test.program, 1);
+  MakeEdit(test.program, 1);
   ASSERT_TRUE(SaveDay(test.program));
   int first = 2;
   for (std::size_t step = 0; !HasFailure(); ++step) {
     const pid_t child = fork();
     if (child == 0) {
-      Edit(test.program, first);
+      MakeEdit(test.program, first);
       BringRecoveryCopyUpToDate(test.program);
-      Edit(test.program, first + 1);
+      MakeEdit(test.program, first + 1);
       const InjectedFault fault({.killed_before_change = step});
       _exit(SaveDay(test.program) ? 0 : 1);
     }
