@@ -37,8 +37,9 @@ void TakeCaptionsInOrder(Program& program) {
 void TakeCaptionsEverywhere(Program& program) {
   OpenWindows& windows = program.windows;
   TakeCaptionsInOrder(program);
-  for (WindowView* const window : {windows.day_settings, windows.new_food, windows.export_html,
-                                   windows.take_over, windows.backup, windows.restore}) {
+  for (WindowView* const window :
+       {windows.day_settings, windows.new_food, windows.export_html, windows.take_over,
+        windows.backup, windows.restore, windows.food_import}) {
     TakeCaptions(window);
   }
 }

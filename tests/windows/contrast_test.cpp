@@ -177,6 +177,7 @@ class TextPlaces {
 
   void Add(const QWidget& widget, const QRect& place, const QString& words,
            double least = kOfText) {
+    if (!widget.visibleRegion().boundingRect().contains(place)) return;  // scrolled away
     found_.push_back({widget.objectName().toStdString() + " \"" + words.toStdString() + "\"",
                       QRect(widget.mapTo(&root_, place.topLeft()), place.size()), least});
   }

@@ -20,6 +20,7 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
 #include "food/new_food_dialog.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
@@ -447,6 +448,49 @@ chk_reminder | Remind me after 30 days without a backup |
 ProgressBar | Progress |
 cmd_backup | Back up |
 cmd_annuleer | Close |
+)");
+}
+
+TEST_F(Controls, OfTablesOfFoods) {
+  ExpectControls(FoodImportDialog(program, nullptr), R"(
+KV_import_foods | Import foods |
+cmd_file | Choose a file ... |
+cmd_folder | Choose a folder ... |
+pages | Import foods |
+list_groups | Groups to import: |
+combo_portions | Portions: |
+txt_country | Sold in this country: |
+combo_completeness | At least so complete (%): |
+table_rows | First foods |
+txt_set_name | Name of the table: |
+chk_header | The first row holds the names of the columns |
+chk_of_portion | The amounts are those of the portion, not of 100 gram |
+chk_milligrams | Sodium in milligrams |
+area_fields |  |
+combo_name | Name |
+combo_brand | Brand |
+combo_group | Group |
+combo_remark | Remark |
+combo_portion | Portion in words |
+combo_portion_grams | Portion in gram |
+combo_kj | Kilojoules |
+combo_kcal | Kilocalories |
+combo_protein | Protein |
+combo_carbs | Carbohydrates |
+combo_fat | Fat |
+combo_fat_s | Saturated fat |
+combo_fat_u | Unsaturated fat |
+combo_fat_mono | Monounsaturated fat |
+combo_fat_poly | Polyunsaturated fat |
+combo_salt | Salt |
+combo_sodium | Sodium |
+list_sets | Tables that were imported: |
+cmd_remove | Remove |
+progress | Progress |
+cmd_count | Count |
+cmd_import | Import |
+cmd_stop | Stop |
+cmd_close | Close |
 )");
 }
 

@@ -20,6 +20,8 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
+#include "food/import/table_files.h"
 #include "food/new_food_dialog.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
@@ -30,6 +32,7 @@
 #include "storage/record_file.h"
 #include "support/pseudo_language.h"
 #include "support/test_program.h"
+#include "windows/carrying_windows.h"
 #include "windows/days_read.h"
 #include "windows/written_days.h"
 
@@ -120,6 +123,7 @@ class EveryWindow : public testing::Test {
     }
     program.settings[Setting::opt_system] = "0";
     MakeUserFolders(program.paths, "Anna");
+    WriteRecord(ProfileFile(program.paths, "Anna"), program.profile);
     BrowserDialog browser(program, nullptr);
     browser.Open();
     LookAt(browser, look);
@@ -144,6 +148,17 @@ class EveryWindow : public testing::Test {
     LookAt(other_days, look);
     BackupDialog backup(program, nullptr);
     LookAt(backup, look);
+    const auto restore = ReadBackupWindow(program, BackupOfAll(program));
+    LookAt(*restore, look);
+    FoodImportDialog food_import(program, nullptr);
+    LookAt(food_import, look);
+    const std::string table = test.folders.home.Path("table");
+    WriteFileAnew(table, std::string(kSrHeader) + SrRow("Bread", "Rye"));
+    food_import.Choose(table);
+    LookAt(food_import, look);
+    WriteFileAnew(table, "Product;Energy;Na\nMuesli;380;50\n");
+    food_import.Choose(table);
+    LookAt(food_import, look);
     UpdateWindow update(program, UpdateMode::shown, nullptr);
     LookAt(update, look);
     test.transfers.Complete({"3.00\xBD"});

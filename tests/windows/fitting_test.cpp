@@ -131,6 +131,8 @@ class Fitting {
       Need(header, words(section), needed(section), header.sectionSize(section),
            all_fit ? QString() : tip);
     }
+    // A table of somebody else's has as many columns as it has.
+    if (header.parentWidget()->objectName() == QLatin1String("table_rows")) return;
     Expect(header, "all headings", header.length() <= header.viewport()->width() + 1,
            "reach beyond the list");
   }

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QTabWidget>
 #include <QTableView>
@@ -25,6 +26,8 @@
 #include "days/take_over_dialog.h"
 #include "days/wizard_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
+#include "food/import/table_files.h"
 #include "food/new_food_dialog.h"
 #include "keeping/backup_dialog.h"
 #include "language/choose_language.h"
@@ -79,6 +82,9 @@ class Windows {
     take_over_->show();
     backup_ = std::make_unique<BackupDialog>(program, &main_);
     restore_ = ReadBackupWindow(program, BackupOfAll(program));
+    import_ = std::make_unique<FoodImportDialog>(program, &main_);
+    import_->Choose(Table(program));
+    import_->show();
     for (QWidget* const dialog :
          std::initializer_list<QWidget*>{wizard_.get(), details_.get(), new_food_.get()}) {
       dialog->show();
@@ -99,13 +105,20 @@ class Windows {
                                        {"export", export_.get()},
                                        {"take over", take_over_.get()},
                                        {"backup", backup_.get()},
-                                       {"restore", restore_.get()}}) {
+                                       {"restore", restore_.get()},
+                                       {"import", import_.get()}}) {
       Describe(QLatin1String(name), *window, shown);
     }
     return shown;
   }
 
  private:
+  // Of foods to bring in.
+  static std::string Table(const Program& program) {
+    std::string path = program.platform.folders.Documents() + "/table.tsv";
+    WriteFileAnew(path, std::string(kSrHeader) + SrRow("Bread", "Rye") + SrRow("", "Ham"));
+    return path;
+  }
   static void DescribeTable(const QString& name, const QTableView& table, QStringList& shown) {
     const QAbstractItemModel& model = *table.model();
     for (int column = 0; column < model.columnCount(); ++column) {
@@ -156,6 +169,9 @@ class Windows {
         DescribeTable(name, *table, shown);
       } else if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
         for (int tab = 0; tab < tabs->count(); ++tab) shown << name + ": " + tabs->tabText(tab);
+      } else if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
+        for (int row = 0; row < list->count(); ++row)
+          shown << name + ": " + list->item(row)->text();
       }
     }
     for (const QAction* action : window.findChildren<QAction*>()) {
@@ -176,6 +192,7 @@ class Windows {
   std::unique_ptr<TakeOverDialog> take_over_;
   std::unique_ptr<BackupDialog> backup_;
   std::unique_ptr<RestoreDialog> restore_;
+  std::unique_ptr<FoodImportDialog> import_;
 };
 
 class FollowingSettings : public testing::Test {

@@ -76,6 +76,18 @@ TEST_F(FoodImport, TheTickedGroupsAreImportedWithTheChosenPortions) {
   EXPECT_EQ(sets->count(), 0);
 }
 
+TEST_F(FoodImport, AGroupThatIsNotTickedStaysSoWhenTheTableIsCountedAgain) {
+  dialog.Choose(table);
+  auto* const groups = Find<QListWidget>("list_groups");
+  groups->item(0)->setCheckState(Qt::Unchecked);
+  Find<QPushButton>("cmd_count")->click();
+  EXPECT_EQ(groups->item(0)->text(), "Bread (1)");
+  EXPECT_EQ(groups->item(0)->checkState(), Qt::Unchecked);
+  EXPECT_EQ(groups->item(1)->checkState(), Qt::Checked);
+  dialog.Choose(table);
+  EXPECT_EQ(groups->item(0)->checkState(), Qt::Checked);
+}
+
 TEST_F(FoodImport, WithoutAGroupNothingIsImported) {
   dialog.Choose(table);
   for (int i = 0; i < 2; ++i) {

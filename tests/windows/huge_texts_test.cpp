@@ -16,6 +16,8 @@
 #include "days/day_settings_dialog.h"
 #include "days/take_over_dialog.h"
 #include "food/food_details_dialog.h"
+#include "food/import/food_import_dialog.h"
+#include "food/import/table_files.h"
 #include "food/other_amount_dialog.h"
 #include "internet/update_window.h"
 #include "keeping/backup_dialog.h"
@@ -176,6 +178,19 @@ TEST_F(HugeTexts, AreDrawnInPartByTheDialogs) {
   DataWindow data(test.program, nullptr);
   data.show();
   ExpectBounded(data, 20);
+}
+
+TEST_F(HugeTexts, AreDrawnInPartByTheDialogOfFoodTables) {
+  const std::string huge(1'000'000, 'x');
+  const std::string path = test.folders.home.Path("table");
+  FoodImportDialog dialog(test.program, nullptr);
+  dialog.show();
+  WriteFileAnew(path, std::string(kSrHeader) + SrRow(huge, "Rye") + SrRow("Bread", huge));
+  dialog.Choose(path);
+  ExpectBounded(dialog, 2);
+  WriteFileAnew(path, "Product;Energy" + huge + "\n" + huge + ";380\n");
+  dialog.Choose(path);
+  ExpectBounded(dialog, 2);
 }
 
 TEST_F(HugeTexts, AreDrawnInPartByTheDetailsOfAFoodWhichCantBeEdited) {

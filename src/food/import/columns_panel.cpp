@@ -17,6 +17,7 @@ namespace {
 constexpr double kMilligrams = 0.001;
 constexpr std::size_t kMostColumns = 300;  // that can be chosen from
 constexpr int kColumnWidth = 110;
+constexpr int kNameLength = 20;  // of a column, in letters, that has its room
 constexpr int kFieldColumns = 2;
 
 struct OfferedField {
@@ -73,7 +74,7 @@ ColumnsPanel::ColumnsPanel(Program& program, QWidget* parent) : QWidget(parent),
     auto* const label = NewLabel(fields, QStringLiteral("lbl_") + QLatin1String(offered.name));
     auto* const column = new ChoiceList(fields, offered.name);
     column->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    column->setMinimumContentsLength(8);
+    column->setMinimumContentsLength(kNameLength);
     label->setBuddy(column);
     const int place = static_cast<int>(fields_.size());
     grid->addWidget(label, place / kFieldColumns, place % kFieldColumns * 2);

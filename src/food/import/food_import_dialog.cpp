@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QSet>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
@@ -17,6 +18,7 @@ constexpr int kInitialHeight = 560;
 constexpr int kSpacing = 10;
 constexpr int kThousandths = 1000;
 constexpr int kPercentStep = 10;
+constexpr int kGroupRole = Qt::UserRole;  // the name of a group, as the table has it
 
 QPushButton* NewButton(QWidget* parent, const char* name) {
   auto* const button = new QPushButton(parent);
@@ -204,6 +206,7 @@ void FoodImportDialog::ChooseFolder() {
 
 void FoodImportDialog::Choose(const std::string& path) {
   if (running_ || !form_.Choose(path)) return;
+  list_groups_->clear();
   combo_portions_->setCurrentIndex(0);
   txt_country_->ShowText({});
   combo_complete_->setCurrentIndex(0);
@@ -231,7 +234,13 @@ void FoodImportDialog::ShowTable() {
   UpdateButtons();
 }
 
+// What was not ticked stays so: a table is counted again for another choice of rows.
 void FoodImportDialog::ShowGroups() {
+  QSet<QString> unticked;
+  for (int i = 0; i < list_groups_->count(); ++i) {
+    const QListWidgetItem& item = *list_groups_->item(i);
+    if (item.checkState() != Qt::Checked) unticked.insert(item.data(kGroupRole).toString());
+  }
   list_groups_->clear();
   lbl_summary_->setText(JoinedLines(form_.Summary()));
   lbl_summary_->setVisible(form_.counts.has_value());
@@ -242,7 +251,8 @@ void FoodImportDialog::ShowGroups() {
     auto* const item =
         new QListWidgetItem(ToQt(name + " (" + std::to_string(group.foods) + ")"), list_groups_);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setCheckState(Qt::Checked);
+    item->setData(kGroupRole, ToQt(group.name));
+    item->setCheckState(unticked.contains(ToQt(group.name)) ? Qt::Unchecked : Qt::Checked);
   }
 }
 
@@ -335,6 +345,10 @@ void FoodImportDialog::Set_Taal() {
   SetCaptions();
   ShowTable();
   ShowSets();
+}
+
+void FoodImportDialog::FollowSettings() {
+  Set_Taal();
 }
 
 void FoodImportDialog::done(int result) {

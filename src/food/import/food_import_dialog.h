@@ -33,6 +33,7 @@ class FoodImportDialog : public QDialog, public WindowView {
 
   void CloseWindow() override;
   void Set_Taal() override;
+  void FollowSettings() override;
   void done(int result) override;
 
  private:

@@ -47,11 +47,11 @@ QColor LettersOn(const QColor& ground) {
   return ContrastOf(white, ground) >= ContrastOf(black, ground) ? white : black;
 }
 
-QColor GroundUnder(const QColor& letters, const QColor& ground) {
+QColor GroundUnder(const QColor& letters, const QColor& ground, double contrast) {
   const QColor away = LettersOn(letters);
   for (int percent = 0; percent < 100; ++percent) {
     const QColor moved = Between(ground, away, percent);
-    if (ContrastOf(letters, moved) >= kLeastContrast) return moved;
+    if (ContrastOf(letters, moved) >= contrast) return moved;
   }
   return away;
 }

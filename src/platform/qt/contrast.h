@@ -25,6 +25,7 @@ inline constexpr double kLeastContrast = 4.5;
 [[nodiscard]] QColor LettersOn(const QColor& ground);
 
 // The ground, as far darker or lighter as `letters` need to be read on it.
-[[nodiscard]] QColor GroundUnder(const QColor& letters, const QColor& ground);
+[[nodiscard]] QColor GroundUnder(const QColor& letters, const QColor& ground,
+                                 double contrast = kLeastContrast);
 
 }  // namespace kelvora

@@ -15,6 +15,8 @@ namespace {
 // Styles shade the grounds of buttons and bars a little; what is grey on purpose keeps away from
 // the limit by that much.
 constexpr double kGreyContrast = 5.4;
+// The row in focus is drawn a little lighter than the ground of what is chosen.
+constexpr double kChosenContrast = 5.4;
 
 constexpr std::array kGroups = {QPalette::Active, QPalette::Inactive, QPalette::Disabled};
 
@@ -53,7 +55,7 @@ void MakeLettersReadable(QPalette& palette, QPalette::ColorGroup group) {
 void MakeChosenReadable(QPalette& palette, QPalette::ColorGroup group) {
   palette.setColor(group, QPalette::Highlight,
                    GroundUnder(palette.color(group, QPalette::HighlightedText),
-                               palette.color(group, QPalette::Highlight)));
+                               palette.color(group, QPalette::Highlight), kChosenContrast));
 }
 
 // The greys begin at the letters of what is not disabled, since a theme may have left the others
