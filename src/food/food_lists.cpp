@@ -110,6 +110,10 @@ TextList FoodLists::Categories() const {
   return categories;
 }
 
+Text FileOfCategory(std::string_view shown_name) {
+  return Text(shown_name).append(kExtension);
+}
+
 TextList FoodLists::Found(const Search& search) const {
   const CaselessFinder finder(search.text);
   TextList found;
@@ -156,7 +160,7 @@ std::optional<Text> FoodLists::Toon_Standaardlijst() {
 }
 
 Text FoodLists::ChooseCategory(std::string_view shown_name) {
-  const Text file = Text(shown_name).append(kExtension);
+  const Text file = FileOfCategory(shown_name);
   Zoek_In_Lijsten(file);
   return file;
 }

@@ -18,6 +18,9 @@ namespace kelvora {
 
 inline constexpr std::size_t kFoodColumns = 5;
 
+// The file of a category, by the name that is shown.
+[[nodiscard]] Text FileOfCategory(std::string_view shown_name);
+
 class FoodLists {
  public:
   explicit FoodLists(Program& program)

@@ -2,9 +2,12 @@
 // box of the amount, and where the focus goes.
 #include <QApplication>
 #include <QMdiArea>
+#include <QMenu>
 
 #include "food/food_list_commands.h"
 #include "food/food_lists_window.h"
+#include "food/import/set_removal.h"
+#include "language/own_texts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -24,6 +27,9 @@ void FoodListsWindow::BuildSearch() {
             search->ShowText(lists_.ChooseCategory(FromQt(category)));
             ShowResults();
           });
+  Pic_zoek_->Categories().setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&Pic_zoek_->Categories(), &QWidget::customContextMenuRequested, this,
+          &FoodListsWindow::PopUpCategoryMenu);
   connect(&Pic_zoek_->Often(), &QPushButton::clicked, this, &FoodListsWindow::ShowOften);
   connect(&reading_often_, &QTimer::timeout, this, &FoodListsWindow::ReadOften);
   connect(search, &QLineEdit::textEdited, this, [this, search] {
@@ -36,6 +42,25 @@ void FoodListsWindow::BuildSearch() {
     if (lists_.Zoek_In_Lijsten(search->Entered())) ShowResults();
     search->selectAll();
   });
+}
+
+// What can be done with the chosen category: its whole set goes, if it was imported with one.
+void FoodListsWindow::PopUpCategoryMenu(const QPoint& place) {
+  QComboBox& categories = Pic_zoek_->Categories();
+  auto* const menu = new QMenu(&categories);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  NameWidget(menu, "menu_categories");
+  const auto add = [&](const char* name, const Text& words, std::function<void()> run) {
+    QAction* const action = menu->addAction(CaptionFrom(words), this, std::move(run));
+    action->setObjectName(QLatin1String(name));
+  };
+  if (const auto set = SetOfCategory(program_, FileOfCategory(FromQt(categories.currentText())))) {
+    add("mnu_remove_set", OwnTextWith(program_.texts, OwnText::category_remove, set->name),
+        [this, set] { RemoveSetIfWanted(program_, *set); });
+  }
+  add("mnu_import", OwnTextOf(program_.texts, OwnText::menu_import),
+      [this] { program_.windows.core->GiveCommand(Command::mnu_import_foods); });
+  menu->popup(categories.mapToGlobal(place));
 }
 
 void FoodListsWindow::Toon_Standaardlijst() {

@@ -75,6 +75,7 @@ class FoodListsWindow : public QWidget, public FoodListsView, private InternetSe
   // Reads what was eaten often while nothing else is to do.
   void ReadOften();
   void ShowOften();
+  void PopUpCategoryMenu(const QPoint& place);
   void ShowSearching() override;
   void AllowSearching() override;
   void ShowFound() override;

@@ -392,6 +392,7 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::field_carbs, "Carbohydrates"_w, "Koolhydraten"_w},
     OwnTextRow{OwnText::field_sodium, "Sodium"_w, "Natrium"_w},
     OwnTextRow{OwnText::field_salt, "Salt"_w, "Zout"_w},
+    OwnTextRow{OwnText::category_remove, "Remove \"%1\" ..."_w, "\"%1\" verwijderen ..."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);
 static_assert(std::ranges::all_of(kRows, [](const OwnTextRow& row) {

@@ -262,6 +262,7 @@ enum class OwnText {
   field_carbs,
   field_sodium,
   field_salt,
+  category_remove,  // with the name of the imported set
 };
 
 [[nodiscard]] Text OwnTextOf(const TextTables& texts, OwnText id);
@@ -279,6 +280,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 219;
+inline constexpr int kOwnTextCount = 220;
 
 }  // namespace kelvora

@@ -4,6 +4,8 @@
 #include <QUrl>
 
 #include "core/frame/commands.h"
+#include "food/import/import_form.h"
+#include "food/import/table_files.h"
 #include "windows/food_lists_user.h"
 
 namespace kelvora {
@@ -215,6 +217,34 @@ TEST_F(FoodListsWindowTest, DropsAreTakenOnlyWhereTheyDoSomething) {
   EXPECT_TRUE(store.L_ochtend.Empty());
   EXPECT_TRUE(Drop(List(2), "NVITEM-" + LineOf({.product = "Cake"})));
   EXPECT_EQ(Names(List(2)), "Soup Pie Stew Cake");
+}
+
+TEST_F(FoodListsWindowTest, TheMenuOfTheCategoriesRemovesTheSetOfAnImportedOne) {
+  const std::string table = test.folders.home.Path("table");
+  WriteFileAnew(table, std::string(kSrHeader) + SrRow("Meat", "Ham"));
+  test.boxes.answers = {BoxAnswer::yes, BoxAnswer::ok};
+  ImportForm form(program);
+  ASSERT_TRUE(form.Choose(table) && form.Import());
+  Open();
+  auto* const categories = In<QComboBox>("combo_cat");
+  const auto menu_of = [&](const char* category) {
+    categories->setCurrentText(QLatin1String(category));
+    categories->setFocus();
+    const QPoint place = categories->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, categories->mapToGlobal(place));
+    QApplication::sendEvent(categories, &event);
+    return In<QMenu>("menu_categories");
+  };
+  QMenu* menu = menu_of("Bread");
+  ASSERT_EQ(menu->actions().size(), 1);
+  EXPECT_EQ(menu->actions().front()->text(), "Import foods ...");
+  delete menu;
+  menu = menu_of("USDA SR: Meat");
+  ASSERT_EQ(menu->actions().size(), 2);
+  EXPECT_EQ(menu->actions().front()->text(), "Remove \"USDA SR\" ...");
+  test.boxes.answers = {BoxAnswer::yes};
+  menu->actions().front()->trigger();
+  EXPECT_EQ(categories->findText("USDA SR: Meat"), -1);
 }
 
 }  // namespace

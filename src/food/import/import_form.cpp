@@ -6,6 +6,7 @@
 
 #include "core/common.h"
 #include "food/import/mapping_file.h"
+#include "food/import/set_removal.h"
 #include "language/own_texts.h"
 #include "storage/folders.h"
 #include "storage/food_files.h"
@@ -126,7 +127,8 @@ bool ImportForm::Import() {
   if (!ended || given_up_) return false;
   if (set) {
     done = true;
-    ShowFoodsAgain(gone);
+    ShowImportedFoodsAnew(program_, gone);
+    ReadSets();
     Tell(program_, BoxIcon::information,
          OwnTextWith(program_.texts, OwnText::import_foods_added, std::to_string(set->foods)));
   } else {
@@ -137,28 +139,8 @@ bool ImportForm::Import() {
 
 void ImportForm::RemoveSet(std::size_t index) {
   if (index >= sets.size() || busy_) return;
-  const FoodSet set = sets[index];
-  const Box box{.title = Text(AppTitle),
-                .text = OwnTextWith(program_.texts, OwnText::import_remove_question, set.name),
-                .icon = BoxIcon::question,
-                .buttons = BoxButtons::yes_no};
-  if (program_.platform.boxes.Show(box) != BoxAnswer::yes) return;
-  program_.Guard("#F28-3", [&] { RemoveFoodSet(program_.paths.UserDatabases, set); });
-  ShowFoodsAgain(set.files);
-}
-
-// Categories that are gone leave the list of categories too, which else only grows.
-void ImportForm::ShowFoodsAgain(const std::vector<std::string>& gone) {
-  TextList& categories = program_.store.lst_categorien;
-  for (const std::string& file : gone) {
-    const auto found = std::ranges::find(categories, TextFromUtf8(file));
-    if (found != categories.end()) {
-      categories.Remove(static_cast<std::size_t>(found - categories.begin()));
-    }
-  }
-  Load_Databases(program_);
+  RemoveSetIfWanted(program_, FoodSet(sets[index]));
   ReadSets();
-  if (program_.windows.lists != nullptr) program_.windows.lists->Toon_Standaardlijst();
 }
 
 Text ImportForm::TakenFor() const {

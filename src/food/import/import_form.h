@@ -26,7 +26,7 @@ class ImportForm {
   // Shows the licence of a known table, the first time that it is imported, and makes the set; then
   // the standard list has its foods. True if that is done; a box tells. A failure shows "#F28-2".
   bool Import();
-  // Asks, and removes the set with its foods. A failure shows "#F28-3".
+  // Asks, and removes the set with its foods; see set_removal.h.
   void RemoveSet(std::size_t index);
   // Ends Count or Import as soon as they look.
   void GiveUp() { given_up_ = true; }
@@ -50,7 +50,6 @@ class ImportForm {
  private:
   [[nodiscard]] ImportProgress Steps();
   void ReadSets();
-  void ShowFoodsAgain(const std::vector<std::string>& gone);
 
   Program& program_;
   bool given_up_ = false;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "food/import/mapping_file.h"
+#include "food/import/set_removal.h"
 #include "food/import/table_files.h"
 
 namespace kelvora {
@@ -109,6 +110,27 @@ TEST_F(ImportForms, ARemovedSetIsGoneFromTheLists) {
   EXPECT_EQ(Categories(), std::vector<Text>{"Fruit.dat"});
   EXPECT_EQ(lists.standard, 2);
   form.RemoveSet(7);
+}
+
+TEST_F(ImportForms, TheSetOfACategoryIsFoundAndRemoved) {
+  ImportForm form(program);
+  ASSERT_TRUE(form.Choose(table));
+  test.boxes.answers = {BoxAnswer::yes, BoxAnswer::ok};
+  ASSERT_TRUE(form.Import());
+  EXPECT_FALSE(SetOfCategory(program, "Fruit.dat"));
+  EXPECT_FALSE(SetOfCategory(program, "USDA SR: Meat"));
+  const auto set = SetOfCategory(program, "USDA SR: Meat.dat");
+  ASSERT_TRUE(set);
+  EXPECT_EQ(set->name, "USDA SR");
+  RemoveSetIfWanted(program, *set);
+  EXPECT_EQ(Categories().size(), 3u);
+  EXPECT_EQ(
+      test.boxes.shown.back().text,
+      "Remove all food items of \"USDA SR\" from the standard list? Your days keep what you ate.");
+  test.boxes.answers = {BoxAnswer::yes};
+  RemoveSetIfWanted(program, *set);
+  EXPECT_EQ(Categories(), std::vector<Text>{"Fruit.dat"});
+  EXPECT_FALSE(SetOfCategory(program, "USDA SR: Meat.dat"));
 }
 
 TEST_F(ImportForms, GivingUpInTheMiddleLeavesNothing) {
