@@ -6,6 +6,8 @@
 #include "core/drawn_text.h"
 #include "food/consumption.h"
 #include "food/drag_text.h"
+#include "food/scaled_food.h"
+#include "language/own_texts.h"
 #include "nutrition/numbers.h"
 #include "nutrition/totals.h"
 #include "storage/food_files.h"
@@ -79,10 +81,27 @@ void TakeOutOfDay(Program& program, DayPart from, const TextList& products) {
   });
 }
 
-void AddToFavourites(Program& program, const TextList& products) {
-  for (const std::string_view product : products) {
-    if (!product.empty()) Add_To_Favorites(program, KeyOf(product));
+// Of an amount of a food the food itself becomes the favourite. Empty if no list has it.
+Text FavouriteKeyOf(const KV_data& store, std::string_view product) {
+  for (const Text& key : {KeyOf(product), KeyOf(NameOfWholePortion(product))}) {
+    if (key.size() > 1 && CanBeFavourite(store, key)) return key;
   }
+  return {};
+}
+
+void AddToFavourites(Program& program, const TextList& products) {
+  Text unknown;
+  for (const std::string_view product : products) {
+    if (product.empty()) continue;
+    if (const Text key = FavouriteKeyOf(program.store, product); !key.empty()) {
+      Add_To_Favorites(program, key);
+    } else {
+      unknown.append(unknown.empty() ? "" : ", ").append(product);
+    }
+  }
+  if (unknown.empty()) return;
+  Tell(program, BoxIcon::information,
+       OwnTextWith(program.texts, OwnText::favourite_unknown, unknown));
 }
 
 FoodsToClipboard CopyFromDayPart(Program& program, DayPart part,

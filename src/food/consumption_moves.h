@@ -20,7 +20,8 @@ bool MoveToDayPart(Program& program, DayPart from, DayPart to, const TextList& p
 // marks the day as changed.
 void TakeOutOfDay(Program& program, DayPart from, const TextList& products);
 
-// Makes a favourite of each name that is not empty.
+// Makes a favourite of each name that is not empty, of an amount of a food the food itself; one box
+// tells those that no list has.
 void AddToFavourites(Program& program, const TextList& products);
 
 // Foods on the clipboard: the payload of a drag, beside it for foods that were cut the place that

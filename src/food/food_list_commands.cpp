@@ -70,8 +70,13 @@ void AddKeysToFavourites(Program& program, std::string_view keys) {
   // A text from elsewhere may hold any number of keys that no food has; those cost no search.
   const auto names = NamesOfFoods(program.store);
   for (const std::string_view key : PartsOf(keys)) {
-    if (!IsKey(key) || !names.contains(key.substr(0, key.find(kFieldEnd)))) continue;
-    Add_To_Favorites(program, key);
+    if (!IsKey(key)) continue;
+    const std::string_view name = key.substr(0, key.find(kFieldEnd));
+    if (names.contains(name)) {
+      Add_To_Favorites(program, key);
+    } else if (const Text food = NameOfWholePortion(name); names.contains(food)) {
+      Add_To_Favorites(program, KeyOf(food));
+    }
   }
 }
 

@@ -54,8 +54,8 @@ struct ScaledName {
 
 // Nothing for the name of any other food. The unit must be that of the amount as well, for a food
 // may be called "Soup, 300 g" by its maker.
-std::optional<ScaledName> ScaledNameOf(std::string_view line) {
-  const std::string_view name = FieldOf(line, FoodField::kProduct);
+// By the name alone.
+std::optional<ScaledName> SplitName(std::string_view name) {
   const std::size_t comma = name.rfind(kBetween);
   if (comma == name.npos || comma == 0) return std::nullopt;
   ScaledName scaled{.base = name.substr(0, comma), .told = name.substr(comma + kBetween.size())};
@@ -65,9 +65,15 @@ std::optional<ScaledName> ScaledNameOf(std::string_view line) {
   const auto read = ReadAmount(scaled.told);
   if (!std::holds_alternative<Amount>(read)) return std::nullopt;
   scaled.amount = std::get<Amount>(read);
+  return scaled;
+}
+
+std::optional<ScaledName> ScaledNameOf(std::string_view line) {
+  auto scaled = SplitName(FieldOf(line, FoodField::kProduct));
+  if (!scaled) return std::nullopt;
   const std::string_view unit = FieldOf(line, FoodField::kUnit);
   const std::string_view gram = FieldOf(line, FoodField::kGram);
-  const Text prefix = UnitText(scaled.amount, scaled.number, gram, {});
+  const Text prefix = UnitText(scaled->amount, scaled->number, gram, {});
   if (!unit.starts_with(prefix)) return std::nullopt;
   if (!prefix.ends_with(' ') && unit != prefix) return std::nullopt;
   return scaled;
@@ -183,6 +189,11 @@ std::variant<TextList, AmountFault> LinesOfAmount(const KV_data& store, std::str
 Text AmountInName(std::string_view line) {
   const auto scaled = ScaledNameOf(line);
   return scaled ? Text(scaled->told) : Text();
+}
+
+Text NameOfWholePortion(std::string_view name) {
+  const auto scaled = SplitName(name);
+  return scaled ? Text(scaled->base) : Text();
 }
 
 }  // namespace kelvora

@@ -25,4 +25,7 @@ namespace kelvora {
 // The amount that such a name tells: "150 g"; "" for the line of a whole portion.
 [[nodiscard]] Text AmountInName(std::string_view line);
 
+// The name of the food that a name tells an amount of, if it is one; else "".
+[[nodiscard]] Text NameOfWholePortion(std::string_view name);
+
 }  // namespace kelvora

@@ -392,6 +392,9 @@ constexpr std::array kRows = {
     OwnTextRow{OwnText::field_carbs, "Carbohydrates"_w, "Koolhydraten"_w},
     OwnTextRow{OwnText::field_sodium, "Sodium"_w, "Natrium"_w},
     OwnTextRow{OwnText::field_salt, "Salt"_w, "Zout"_w},
+    OwnTextRow{OwnText::favourite_unknown,
+               "None of your lists has \"%1\", so that it can't be a favourite."_w,
+               "Geen van je lijsten bevat \"%1\"; het kan dus geen favoriet worden."_w},
     OwnTextRow{OwnText::category_remove, "Remove \"%1\" ..."_w, "\"%1\" verwijderen ..."_w},
 };
 static_assert(kRows.size() == kOwnTextCount);

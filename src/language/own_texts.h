@@ -262,6 +262,7 @@ enum class OwnText {
   field_carbs,
   field_sodium,
   field_salt,
+  favourite_unknown,
   category_remove,  // with the name of the imported set
 };
 
@@ -280,6 +281,6 @@ enum class OwnText {
 // The text in one language, whatever is loaded.
 [[nodiscard]] Text OwnTextIn(Language language, OwnText id);
 
-inline constexpr int kOwnTextCount = 220;
+inline constexpr int kOwnTextCount = 221;
 
 }  // namespace kelvora

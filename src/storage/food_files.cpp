@@ -182,6 +182,10 @@ void Load_Favorites(Program& program, const std::string& path) {
                &FoodListsView::Populate_Food_List_Favo);
 }
 
+bool CanBeFavourite(const KV_data& store, std::string_view key) {
+  return CandidateOf(store, key).has_value();
+}
+
 void Add_To_Favorites(Program& program, std::string_view key) {
   using namespace common_text;
   program.Guard("#FF8-0", [&] {

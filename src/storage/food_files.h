@@ -30,6 +30,9 @@ bool Save_Favorites(Program& program, const std::string& path);
 // more field of every line.
 void AppendFoodLines(std::string_view file_bytes, std::string_view closing_field, TextList& lines);
 
+// True if a line of the standard or the own list begins with the key.
+[[nodiscard]] bool CanBeFavourite(const KV_data& store, std::string_view key);
+
 // Marks a food as favourite, saves the favourites of the current user and tells so. `key` is a name
 // and its closing kFieldEnd; the last line of the standard list that begins with it counts, but the
 // first one of the own list overrides it. A line that is a favourite already leads to a warning and

@@ -101,6 +101,26 @@ TEST_F(Moves, FavouritesAreTheFoodsOfTheListsAndStayInTheDay) {
   EXPECT_FALSE(test.program.day.FileChanged);
 }
 
+TEST_F(Moves, OfAnAmountOfAFoodTheFoodBecomesTheFavourite) {
+  store.Custom_list.Add(LineOf(kSoup));
+  AddToFavourites(test.program, Names({"Soup, 150 g", "Tea, 0.5 x", "Bagel"}));
+  EXPECT_EQ(Lines(store.Favorites_list), std::vector<Text>{LineOf(kSoup)});
+  ASSERT_EQ(test.boxes.shown.size(), 2u);
+  EXPECT_EQ(test.boxes.shown[0].text, "The food item has been added to the favourites list.");
+  EXPECT_EQ(test.boxes.shown[1].text,
+            "None of your lists has \"Tea, 0.5 x, Bagel\", so that it can't be a favourite.");
+}
+
+// A name that only looks like an amount of another is a name.
+TEST_F(Moves, AFoodThatIsNamedLikeAnAmountBecomesTheFavouriteItself) {
+  FoodLine cup = kSoup;
+  cup.product = "Soup, 150 g";
+  store.Custom_list.Add(LineOf(kSoup));
+  store.Custom_list.Add(LineOf(cup));
+  AddToFavourites(test.program, Names({"Soup, 150 g"}));
+  EXPECT_EQ(Lines(store.Favorites_list), std::vector<Text>{LineOf(cup)});
+}
+
 TEST_F(Moves, WhatIsCutStaysUntilItIsPasted) {
   const ClipboardFoods cut = CutFromDayPart(test.program, DayPart::morning, {0, 1}).foods;
   EXPECT_EQ(cut.payload, "kill-" + Packed("Tea|~Soup|~"));

@@ -84,6 +84,12 @@ TEST_F(FoodListCommands, AConsumptionDroppedOnTheFavouritesBecomesOneAndStaysInT
   EXPECT_EQ(test.boxes.shown[0].text, "The food item has been added to the favourites list.");
 }
 
+TEST_F(FoodListCommands, OfADroppedAmountOfAFoodTheFoodBecomesTheFavourite) {
+  store.Default_list.Add(LineOf({.product = "Porridge", .db = "Grain.dat"}));
+  DropOnFoodView(program, FoodView::favourites, Packed("kill-Porridge, 150 g|~"));
+  EXPECT_EQ(Names(store.Favorites_list), "Porridge ");
+}
+
 // The rest behind the marker must be longer than six characters: a name of four letters is not.
 TEST_F(FoodListCommands, AKeyOfSixCharactersIsTooShortForAFavourite) {
   for (const char* name : {"Beer", "Bread"}) store.Default_list.Add(LineOf({.product = name}));
