@@ -4,9 +4,10 @@
 Starts the program on a home with settings and the starter foods, without the wizard, under a
 virtual display with a window manager. Ctrl+O goes out again and again from the first moment on; the
 start is over when the window of the days is on the screen, so its own opening and the polling count
-as well. The splash is still playing then. Prints the times of all runs, in milliseconds.
+as well. The splash is still playing then. Prints the times of all runs, in milliseconds. With a
+number of foods, so many made-up ones are imported before, by the program that lies beside it.
 
-    bench/start.py <program> [runs]
+    bench/start.py <program> [runs [foods]]
 """
 import statistics
 import struct
@@ -28,6 +29,22 @@ def without_wizard(home):
     tick = 4 + 2 + language
     assert data[tick:tick + 3] == b"\x01\x001", "the settings hold no wizard"
     path.write_bytes(data[:tick + 2] + b"0" + data[tick + 3:])
+
+
+def import_foods(desktop, program, count):
+    """A table in the form of USDA SR, in twenty groups."""
+    table = Path(desktop.home.name, "table.tsv")
+    with open(table, "w", encoding="utf-8") as file:
+        file.write("ndb_no\tgroup\tname\tportion_description\tportion_grams\tkcal_100g\tkj_100g\t"
+                   "protein_100g\tfat_total_100g\tfat_saturated_100g\tfat_mono_100g\tfat_poly_100g\t"
+                   "carbs_100g\tsodium_mg_100g\n")
+        for i in range(count):
+            file.write(f"{i}\tGroup {i % 20}\tFood of a factory, number {i}\t1 piece\t50\t{i % 900}\t"
+                       f"{i % 3700}\t{i % 30}\t{i % 40}\t{i % 10}\t1\t1\t{i % 70}\t{i % 800}\n")
+    result = subprocess.run([program.with_name("kelvora-food-import"), "-d",
+                             Path(desktop.home.name, ".local/share/kelvora-food/Databases"), table],
+                            capture_output=True, text=True, check=True)
+    print(result.stderr.strip())
 
 
 def end(desktop, process):
@@ -60,6 +77,8 @@ def main():
     with Desktop() as desktop:
         end(desktop, desktop.start(program, first_run=True))
         without_wizard(desktop.home.name)
+        if len(sys.argv) > 3:
+            import_foods(desktop, program, int(sys.argv[3]))
         times = []
         for _ in range(runs):
             usable, splash = run(desktop, program)
