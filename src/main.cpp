@@ -2,10 +2,12 @@
 #include "core/frame/ending.h"
 #include "core/frame/main_window.h"
 #include "core/frame/net.h"
+#include "core/frame/outside_commands.h"
 #include "core/frame/startup.h"
 #include "platform/qt/ending_requests.h"
 #include "platform/qt/enter_key.h"
 #include "platform/qt/guarded_application.h"
+#include "platform/qt/help_key.h"
 #include "platform/qt/look.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
@@ -35,6 +37,9 @@ int main(int argc, char** argv) {
   application.on_escape = [&program](const std::exception_ptr& failure) {
     kelvora::TellEscaped(program, failure);
   };
+  kelvora::LetF1Ask(application, [&program](const std::vector<std::string>& names) {
+    kelvora::OpenHelp(program, kelvora::HelpPageOf(names));
+  });
   kelvora::MainWindow window(program);
   kelvora::EndingRequests requests;
   requests.on_signal = [&program] { kelvora::EndBySignal(program); };

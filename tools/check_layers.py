@@ -18,7 +18,7 @@ WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 # text, the store, records, and the text tables with the names of their entries. The frame is on top,
 # and nobody but main.cpp and itself includes it.
 DATA_OF_CORE = {"text", "text_list", "text_search", "store", "records", "geometry", "key_filter",
-                "command"}
+                "command", "keys"}
 RANK_OF_FOLDER = {
     "platform": 1, "core": 2, "nutrition": 3, "storage": 3,
     "food": 4, "days": 4, "analysis": 4, "output": 4, "language": 4, "internet": 4,

@@ -1,8 +1,8 @@
 #include "days/settings.h"
 
 #include <algorithm>
-#include <array>
 
+#include "days/settings_controls.h"
 #include "days/users_folder.h"
 #include "internet/servers.h"
 #include "internet/update.h"
@@ -16,35 +16,6 @@ namespace kelvora {
 namespace {
 
 using namespace properties_text;
-
-struct TickRow {
-  Setting setting;
-  bool SettingsForm::*tick;
-};
-constexpr std::array kTicks = {
-    TickRow{Setting::chk_wiz, &SettingsForm::chk_wiz},
-    TickRow{Setting::chk_profiel, &SettingsForm::chk_profiel},
-    TickRow{Setting::chk_map, &SettingsForm::chk_map},
-    TickRow{Setting::chk_apply, &SettingsForm::chk_apply},
-    TickRow{Setting::chk_export, &SettingsForm::chk_export},
-    TickRow{Setting::chk_all_screens, &SettingsForm::chk_all_screens},
-    TickRow{Setting::chk_internet, &SettingsForm::chk_internet},
-    TickRow{Setting::chk_addinternet, &SettingsForm::chk_addinternet},
-    TickRow{Setting::chk_help, &SettingsForm::chk_help},
-};
-
-struct TextSettingRow {
-  Setting setting;
-  Text SettingsForm::*text;
-};
-constexpr std::array kTexts = {
-    TextSettingRow{Setting::Combo_taal, &SettingsForm::Combo_taal},
-    TextSettingRow{Setting::opt_system, &SettingsForm::opt_system},
-    TextSettingRow{Setting::combo_printer, &SettingsForm::combo_printer},
-    TextSettingRow{Setting::opt_gramoz, &SettingsForm::opt_gramoz},
-    TextSettingRow{Setting::txt_map, &SettingsForm::txt_map},
-    TextSettingRow{Setting::opt_server, &SettingsForm::opt_server},
-};
 
 Text FlagOf(bool tick) {
   return tick ? "1" : "0";
@@ -75,16 +46,21 @@ std::string UsersPathOf(const Program& program, const SettingsForm& form) {
 }
 
 void CopyToSettings(const SettingsForm& form, Rec_Settings& settings) {
-  for (const auto& [setting, tick] : kTicks) settings[setting] = FlagOf(form.*tick);
-  for (const auto& [setting, text] : kTexts) settings[setting] = form.*text;
+  for (const SettingControl& control : SettingControls()) {
+    settings[control.setting] =
+        control.tick != nullptr ? FlagOf(form.*control.tick) : form.*control.value;
+  }
 }
 
 }  // namespace
 
 SettingsForm FormOfSettings(const Program& program) {
   SettingsForm form;
-  for (const auto& [setting, tick] : kTicks) form.*tick = program.settings[setting] == "1";
-  for (const auto& [setting, text] : kTexts) form.*text = program.settings[setting];
+  for (const SettingControl& control : SettingControls()) {
+    const Text& stored = program.settings[control.setting];
+    if (control.tick != nullptr) form.*control.tick = stored == "1";
+    if (control.value != nullptr) form.*control.value = stored;
+  }
   FollowInternet(form);
   return form;
 }

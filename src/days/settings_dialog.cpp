@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "days/day_dialogs.h"
+#include "days/settings_controls.h"
 #include "language/choose_language.h"
 #include "language/own_texts.h"
 #include "language/properties_texts.h"
@@ -92,13 +93,11 @@ void SettingsDialog::BuildTabs() {
 }
 
 void SettingsDialog::BuildStartup(QVBoxLayout* page) {
-  QGroupBox* const group = AddGroup(page, kGroupStartup);
-  AddTick(group, "chk_wiz", &SettingsForm::chk_wiz, kShowWizard, kTipShowWizard);
-  AddTick(group, "chk_profiel", &SettingsForm::chk_profiel, kShowProfile, kTipShowProfile);
+  AddGroup(page, SettingsGroup::startup);
 }
 
 void SettingsDialog::BuildLanguageAndPrinter(QVBoxLayout* page) {
-  QGroupBox* const group = AddGroup(page, kGroupLanguageAndPrinter);
+  QGroupBox* const group = AddGroup(page, SettingsGroup::language_and_printer);
   Combo_taal_ = new ChoiceList(group, "Combo_taal");
   QPushButton* const cmd_reset =
       MakeButton(group, "cmd_reset", kResetLanguageFiles, kTipResetLanguageFiles);
@@ -136,8 +135,7 @@ void SettingsDialog::BuildLanguageAndPrinter(QVBoxLayout* page) {
 }
 
 void SettingsDialog::BuildFolder(QVBoxLayout* page) {
-  QGroupBox* const group = AddGroup(page, kGroupFolder);
-  AddTick(group, "chk_map", &SettingsForm::chk_map, kOtherFolder, kTipOtherFolder);
+  QGroupBox* const group = AddGroup(page, SettingsGroup::folder);
   group->layout()->addWidget(MakeCaption(group, "lbl_folder", kFolder));
   txt_map_ = new TextBox(group, QStringLiteral("txt_map"), EntryContextOf(program_));
   txt_map_->setReadOnly(true);
@@ -158,32 +156,16 @@ void SettingsDialog::BuildFolder(QVBoxLayout* page) {
 }
 
 void SettingsDialog::BuildDisplay(QVBoxLayout* page) {
-  QGroupBox* group = AddGroup(page, kGroupDisplay);
-  AddTick(group, "chk_apply", &SettingsForm::chk_apply, kApplyProfile, kTipApplyProfile);
-  AddTick(group, "chk_export", &SettingsForm::chk_export, kCloseExport, kTipCloseExport);
-  AddTick(group, "chk_all_screens", &SettingsForm::chk_all_screens, kSummaryBelowList,
-          kTipSummaryBelowList);
-  AddTick(group, "chk_help", &SettingsForm::chk_help, kHelpButtons, kTipHelpButtons);
-  group = AddGroup(page, kGroupSystem);
-  AddOption(group, "opt_system", 0, &SettingsForm::opt_system, kMetric, kTipMetric);
-  AddOption(group, "opt_system", 1, &SettingsForm::opt_system, kImperialUs, kTipImperialUs);
-  AddOption(group, "opt_system", 2, &SettingsForm::opt_system, kImperialUk, kTipImperialUk);
-  AddNote(group, "lbl_system_note", kSystemNote);
-  group = AddGroup(page, kGroupFoodWeight);
-  AddOption(group, "opt_gramoz", 0, &SettingsForm::opt_gramoz, kGrams, kTipGrams);
-  AddOption(group, "opt_gramoz", 1, &SettingsForm::opt_gramoz, kOunces, kTipOunces);
+  AddGroup(page, SettingsGroup::display);
+  AddNote(AddGroup(page, SettingsGroup::system), "lbl_system_note", kSystemNote);
+  AddGroup(page, SettingsGroup::food_weight);
 }
 
 void SettingsDialog::BuildInternet(QVBoxLayout* page) {
-  QGroupBox* group = AddGroup(page, kGroupInternet);
-  AddTick(group, "chk_internet", &SettingsForm::chk_internet, kUseInternet, kTipUseInternet);
-  AddTick(group, "chk_addinternet", &SettingsForm::chk_addinternet, kAddToInternet,
-          kTipAddToInternet);
+  QGroupBox* const group = AddGroup(page, SettingsGroup::internet);
   AddNote(group, "lbl_addinternet_note", kAddToInternetNote);
   AddNote(group, "lbl_internet_note", kInternetNote);
-  group = AddGroup(page, kGroupServer);
-  AddOption(group, "opt_server", 0, &SettingsForm::opt_server, kServerEtenlijn, kTipServerEtenlijn);
-  AddOption(group, "opt_server", 1, &SettingsForm::opt_server, kServerBitewell, kTipServerBitewell);
+  AddGroup(page, SettingsGroup::server);
 }
 
 void SettingsDialog::BuildButtons(QVBoxLayout* layout) {
@@ -199,31 +181,37 @@ void SettingsDialog::BuildButtons(QVBoxLayout* layout) {
   layout->addLayout(buttons);
 }
 
-QGroupBox* SettingsDialog::AddGroup(QVBoxLayout* page, TextId title) {
+QGroupBox* SettingsDialog::AddGroup(QVBoxLayout* page, SettingsGroup id) {
   auto* const group = new QGroupBox(page->parentWidget());
   new QVBoxLayout(group);
+  const TextId title = SettingsGroups()[static_cast<std::size_t>(id)].title;
   captions_.push_back({group, "title", title, std::nullopt});
   page->addWidget(group);
+  for (const SettingControl& control : SettingControls()) {
+    if (control.group != id) continue;
+    if (control.tick != nullptr) AddTick(group, control);
+    if (control.option) AddOption(group, control);
+  }
   return group;
 }
 
-void SettingsDialog::AddTick(QGroupBox* group, const char* name, bool SettingsForm::*value,
-                             TextId text, TextId tip) {
+void SettingsDialog::AddTick(QGroupBox* group, const SettingControl& control) {
   auto* const box = new QCheckBox(group);
-  NameWidget(box, name);
+  NameWidget(box, control.name);
   group->layout()->addWidget(box);
-  captions_.push_back({box, "text", text, tip});
-  const Tick tick = ticks_.emplace_back(Tick{box, value});
+  captions_.push_back({box, "text", control.text, control.tip});
+  const Tick tick = ticks_.emplace_back(Tick{box, control.tick});
   connect(box, &QCheckBox::toggled, this, [this, tick](bool on) { TakeTick(tick, on); });
 }
 
-void SettingsDialog::AddOption(QGroupBox* group, const char* name, int index,
-                               Text SettingsForm::*value, TextId text, TextId tip) {
+void SettingsDialog::AddOption(QGroupBox* group, const SettingControl& control) {
   auto* const button = new QRadioButton(group);
-  button->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index));
+  button->setObjectName(
+      QStringLiteral("%1_%2").arg(QLatin1String(control.name)).arg(*control.option));
   group->layout()->addWidget(button);
-  captions_.push_back({button, "text", text, tip});
-  const Option option = options_.emplace_back(Option{button, value, std::to_string(index)});
+  captions_.push_back({button, "text", control.text, control.tip});
+  const Option option =
+      options_.emplace_back(Option{button, control.value, std::to_string(*control.option)});
   connect(button, &QRadioButton::toggled, this, [this, option](bool on) {
     if (on) form_.*option.value = option.number;
   });

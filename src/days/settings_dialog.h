@@ -14,7 +14,7 @@
 #include <QTabWidget>
 
 #include "core/views.h"
-#include "days/settings.h"
+#include "days/settings_controls.h"
 
 class QGroupBox;
 class QLabel;
@@ -59,11 +59,10 @@ class SettingsDialog : public QDialog, public WindowView {
   void BuildDisplay(QVBoxLayout* page);
   void BuildInternet(QVBoxLayout* page);
   void BuildButtons(QVBoxLayout* layout);
-  QGroupBox* AddGroup(QVBoxLayout* page, TextId title);
-  void AddTick(QGroupBox* group, const char* name, bool SettingsForm::*value, TextId text,
-               TextId tip);
-  void AddOption(QGroupBox* group, const char* name, int index, Text SettingsForm::*value,
-                 TextId text, TextId tip);
+  // A group with its ticks and options.
+  QGroupBox* AddGroup(QVBoxLayout* page, SettingsGroup id);
+  void AddTick(QGroupBox* group, const SettingControl& control);
+  void AddOption(QGroupBox* group, const SettingControl& control);
   void AddNote(QGroupBox* group, const char* name, TextId text);
   QLabel* MakeCaption(QWidget* parent, const char* name, TextId text);
   QPushButton* MakeButton(QWidget* parent, const char* name, TextId text,

@@ -1,6 +1,7 @@
 #include "food/day_part_menu_panel.h"
 
 #include "language/own_texts.h"
+#include "platform/qt/key_sequence.h"
 #include "platform/qt/look.h"
 
 namespace kelvora {
@@ -10,12 +11,13 @@ struct DayPartItem {
   DayPart part;
   const char* name;  // of the icon too
   OwnText caption;
-  Qt::Key key;
+  BoundKey key;
 };
 constexpr std::array kItems = {
-    DayPartItem{DayPart::morning, "morning", OwnText::add_to_morning, Qt::Key_1},
-    DayPartItem{DayPart::afternoon, "afternoon", OwnText::add_to_afternoon, Qt::Key_2},
-    DayPartItem{DayPart::evening, "evening", OwnText::add_to_evening, Qt::Key_3},
+    DayPartItem{DayPart::morning, "morning", OwnText::add_to_morning, BoundKey::add_to_morning},
+    DayPartItem{DayPart::afternoon, "afternoon", OwnText::add_to_afternoon,
+                BoundKey::add_to_afternoon},
+    DayPartItem{DayPart::evening, "evening", OwnText::add_to_evening, BoundKey::add_to_evening},
 };
 
 }  // namespace
@@ -26,7 +28,7 @@ DayPartActions AddDayPartActions(QMenu* menu, std::function<void(DayPart)> chose
     QAction* const action = menu->addAction(IconNamed(kItems[i].name), QString());
     action->setObjectName(menu->objectName() + '_' + QLatin1String(kItems[i].name));
     // Shown beside the entry; the food lists window has the keys.
-    action->setShortcut(QKeySequence(Qt::CTRL | kItems[i].key));
+    action->setShortcut(SequenceOf(kItems[i].key));
     action->setShortcutContext(Qt::WidgetShortcut);
     QObject::connect(action, &QAction::triggered, menu,
                      [chosen, part = kItems[i].part] { chosen(part); });

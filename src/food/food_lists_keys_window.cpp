@@ -8,6 +8,7 @@
 #include "food/food_lists_window.h"
 #include "food/import/set_removal.h"
 #include "language/own_texts.h"
+#include "platform/qt/key_sequence.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -93,9 +94,10 @@ void FoodListsWindow::BuildAmount() {
   lbl_amount_->setBuddy(txt_amount_);
   txt_amount_->on_escape = [this] { FocusSearch(); };
   connect(txt_amount_, &QLineEdit::returnPressed, this, &FoodListsWindow::AddFromAmountBox);
-  constexpr std::array kKeys = {Qt::Key_1, Qt::Key_2, Qt::Key_3};
+  constexpr std::array kKeys = {BoundKey::add_to_morning, BoundKey::add_to_afternoon,
+                                BoundKey::add_to_evening};
   for (const DayPart part : kDayParts) {
-    const QKeySequence keys(Qt::CTRL | kKeys[static_cast<std::size_t>(part)]);
+    const QKeySequence keys = SequenceOf(kKeys[static_cast<std::size_t>(part)]);
     auto* const shortcut = new QShortcut(keys, this);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, [this, part] { AddSelectedToDay(part); });

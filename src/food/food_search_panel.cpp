@@ -9,6 +9,7 @@
 #include "language/lists_texts.h"
 #include "language/own_texts.h"
 #include "platform/qt/choice_list.h"
+#include "platform/qt/key_sequence.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
@@ -86,7 +87,7 @@ FoodSearchPanel::FoodSearchPanel(const EntryContext& entry, QWidget* parent) : Q
   cmd_often_ = new QPushButton(this);
   NameWidget(cmd_often_, "cmd_often");
   cmd_often_->setAutoDefault(false);
-  cmd_often_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_5));
+  cmd_often_->setShortcut(SequenceOf(BoundKey::often));
   auto* const line = new QHBoxLayout;
   line->setSpacing(6);
   line->addWidget(txt_zoeken_, 1);

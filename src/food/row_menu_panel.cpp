@@ -6,6 +6,7 @@
 
 #include "language/main_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/key_sequence.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -22,12 +23,15 @@ struct MoveRow {
   const char* name;
   OwnText caption;
   std::string_view icon;
-  Qt::Key key;
+  BoundKey key;
 };
 constexpr std::array kMoves = {
-    MoveRow{DayPart::morning, "mnu_move_1", OwnText::move_to_morning, "morning", Qt::Key_1},
-    MoveRow{DayPart::afternoon, "mnu_move_2", OwnText::move_to_afternoon, "afternoon", Qt::Key_2},
-    MoveRow{DayPart::evening, "mnu_move_3", OwnText::move_to_evening, "evening", Qt::Key_3},
+    MoveRow{DayPart::morning, "mnu_move_1", OwnText::move_to_morning, "morning",
+            BoundKey::move_to_morning},
+    MoveRow{DayPart::afternoon, "mnu_move_2", OwnText::move_to_afternoon, "afternoon",
+            BoundKey::move_to_afternoon},
+    MoveRow{DayPart::evening, "mnu_move_3", OwnText::move_to_evening, "evening",
+            BoundKey::move_to_evening},
 };
 
 ClipboardFoods FoodsOnClipboard() {
@@ -61,32 +65,31 @@ RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selec
       rows_(std::move(rows)),
       list_(list) {
   NameWidget(this, "row_menu");
-  amount_ = AddEntry("mnu_amount", {}, Qt::Key_F2, [this] { emit AmountAsked(); });
+  amount_ = AddEntry("mnu_amount", {}, BoundKey::other_amount, [this] { emit AmountAsked(); });
   // Enter on the list is that of the details, by whichever of its keys.
-  details_ = AddEntry("mnu_details", "item-info", Qt::Key_unknown, [this] { emit DetailsAsked(); });
-  take_out_ = AddEntry("mnu_take_out", "item-delete", Qt::SHIFT | Qt::Key_Delete,
+  details_ = AddEntry("mnu_details", "item-info", std::nullopt, [this] { emit DetailsAsked(); });
+  take_out_ = AddEntry("mnu_take_out", "item-delete", BoundKey::take_portion_out,
                        [this] { TakeOutOfDay(program_, part_, selected_()); });
   addSeparator();
   for (const MoveRow& row : kMoves) {
     if (row.target == part_) continue;
     moves_[static_cast<std::size_t>(row.target)] = AddEntry(
-        row.name, row.icon, Qt::CTRL | row.key,
+        row.name, row.icon, row.key,
         [this, target = row.target] { MoveToDayPart(program_, part_, target, selected_()); });
   }
-  cut_ = AddEntry("mnu_cut", {}, Qt::CTRL | Qt::Key_X, [this] { Cut(); });
-  copy_ = AddEntry("mnu_copy", {}, Qt::CTRL | Qt::Key_C, [this] { Copy(); });
-  paste_ = AddEntry("mnu_paste", {}, Qt::CTRL | Qt::Key_V, [this] { Paste(); });
+  cut_ = AddEntry("mnu_cut", {}, BoundKey::cut, [this] { Cut(); });
+  copy_ = AddEntry("mnu_copy", {}, BoundKey::copy, [this] { Copy(); });
+  paste_ = AddEntry("mnu_paste", {}, BoundKey::paste, [this] { Paste(); });
   addSeparator();
-  favourite_ = AddEntry("mnu_favourite", "item-favourite", Qt::CTRL | Qt::Key_D,
+  favourite_ = AddEntry("mnu_favourite", "item-favourite", BoundKey::add_to_favourites,
                         [this] { AddToFavourites(program_, selected_()); });
   addSeparator();
-  take_over_ = AddEntry("mnu_take_over", {}, Qt::CTRL | Qt::Key_T, [this] {
+  take_over_ = AddEntry("mnu_take_over", {}, BoundKey::take_over, [this] {
     if (program_.windows.core != nullptr) program_.windows.core->OpenTakeOver(part_, {});
   });
   addSeparator();
-  undo_ = AddEntry("mnu_undo", {}, Qt::CTRL | Qt::Key_Z, [this] { UndoFoods(program_); });
-  redo_ =
-      AddEntry("mnu_redo", {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z, [this] { RedoFoods(program_); });
+  undo_ = AddEntry("mnu_undo", {}, BoundKey::undo, [this] { UndoFoods(program_); });
+  redo_ = AddEntry("mnu_redo", {}, BoundKey::redo, [this] { RedoFoods(program_); });
   // The shortcuts ask nobody whether something is selected; without a row they do nothing.
   connect(this, &QMenu::aboutToHide, this, [this] {
     EnableForRows(true);
@@ -95,11 +98,12 @@ RowMenu::RowMenu(Program& program, DayPart part, std::function<TextList()> selec
 }
 
 template <class Run>
-QAction* RowMenu::AddEntry(const char* name, std::string_view icon, QKeyCombination keys, Run run) {
+QAction* RowMenu::AddEntry(const char* name, std::string_view icon, std::optional<BoundKey> key,
+                           Run run) {
   QAction* const action = addAction(QString());
   if (!icon.empty()) action->setIcon(IconNamed(icon));
   action->setObjectName(QLatin1String(name));
-  if (keys.key() != Qt::Key_unknown) action->setShortcut(QKeySequence(keys));
+  if (key) action->setShortcut(SequenceOf(*key));
   action->setShortcutContext(Qt::WidgetShortcut);
   list_->addAction(action);
   connect(action, &QAction::triggered, this, run);

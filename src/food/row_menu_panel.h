@@ -5,9 +5,11 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 #include <QMenu>
 
+#include "core/keys.h"
 #include "core/program.h"
 #include "food/consumption_moves.h"
 
@@ -34,7 +36,7 @@ class RowMenu : public QMenu {
 
  private:
   template <class Run>
-  QAction* AddEntry(const char* name, std::string_view icon, QKeyCombination keys, Run run);
+  QAction* AddEntry(const char* name, std::string_view icon, std::optional<BoundKey> key, Run run);
   void Cut();
   void Copy();
   void Paste();

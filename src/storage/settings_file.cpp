@@ -1,5 +1,7 @@
 #include "storage/settings_file.h"
 
+#include <algorithm>
+
 #include "core/common.h"
 #include "storage/record_file.h"
 
@@ -60,6 +62,11 @@ void Apply_Default_Settings(Program& program) {
     if (settings[setting].empty()) settings[setting] = value;
   }
   FallBackOnDefaultLanguage(program);
+}
+
+Text DefaultOf(Setting setting) {
+  const auto row = std::ranges::find(kDefaults, setting, &SettingDefault::setting);
+  return row == kDefaults.end() ? Text() : Text(row->value);
 }
 
 void FallBackOnDefaultLanguage(Program& program) {

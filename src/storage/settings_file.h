@@ -9,6 +9,9 @@ namespace kelvora {
 // read.
 [[nodiscard]] bool ReadSettingsFile(Program& program);
 
+// What a setting is before anybody chooses; empty for most.
+[[nodiscard]] Text DefaultOf(Setting setting);
+
 // Gives each empty setting its default; a language file that is gone becomes "default.lsf".
 void Apply_Default_Settings(Program& program);
 

@@ -9,6 +9,7 @@
 
 #include "core/frame/child_area_panel.h"
 #include "core/frame/main_window.h"
+#include "platform/qt/key_sequence.h"
 
 namespace kelvora {
 namespace {
@@ -22,16 +23,16 @@ int Neighbour(int place, int count, bool next) {
 }  // namespace
 
 void MainWindow::BuildFocusKeys() {
-  const auto on = [this](const char* keys, auto run) {
-    auto* const shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+  const auto on = [this](BoundKey use, auto run) {
+    auto* const shortcut = new QShortcut(SequenceOf(use), this);
     connect(shortcut, &QShortcut::activated, this, run);
   };
-  on("F6", [this] { GoToPart(true, Qt::ShortcutFocusReason); });
-  on("Shift+F6", [this] { GoToPart(false, Qt::ShortcutFocusReason); });
-  on("Ctrl+Tab", [this] { GoToWindow(true); });
-  on("Ctrl+Shift+Tab", [this] { GoToWindow(false); });
+  on(BoundKey::next_part, [this] { GoToPart(true, Qt::ShortcutFocusReason); });
+  on(BoundKey::previous_part, [this] { GoToPart(false, Qt::ShortcutFocusReason); });
+  on(BoundKey::next_window, [this] { GoToWindow(true); });
+  on(BoundKey::previous_window, [this] { GoToWindow(false); });
   // The menu of a child window's frame, by which it is moved and sized without a mouse.
-  on("Alt+-", [this] {
+  on(BoundKey::window_menu, [this] {
     if (QMdiSubWindow* const frame = area_->activeSubWindow()) frame->showSystemMenu();
   });
 }

@@ -20,6 +20,7 @@
 #include "keeping/backup_reminder.h"
 #include "language/main_texts.h"
 #include "language/own_texts.h"
+#include "platform/qt/key_sequence.h"
 #include "platform/qt/long_label.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_letter.h"
@@ -62,7 +63,7 @@ MainWindow::MainWindow(Program& program) : program_(program) {
   Toolbar_quickscreens_->setIconSize({kQuickIconSize, kQuickIconSize});
   Toolbar_quickscreens_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   addToolBar(Qt::BottomToolBarArea, Toolbar_quickscreens_);
-  auto* const menu_key = new QShortcut(QKeySequence(Qt::Key_F10), this);
+  auto* const menu_key = new QShortcut(SequenceOf(BoundKey::menu), this);
   connect(menu_key, &QShortcut::activated, this, &MainWindow::OpenFirstMenu);
   BuildStatusBar();
   BuildFocusKeys();

@@ -51,10 +51,10 @@ void RunDiagnose(Program& program) {
   });
 }
 
-void OpenHelp(Program& program) {
+void OpenHelp(Program& program, std::string_view name) {
   program.Guard("#F4-2", [&] {
     const std::string folder = HelpFolder(program);
-    const std::string page = folder + "index.html";
+    const std::string page = folder + std::string(name) + ".html";
     if (FileExists(page)) return OpenFile(program, page, ExportDialog::stays);
     Tell(program, BoxIcon::warning,
          JoinLines(program.texts, {kHelpMissing, kHelpFolder}) + "\n" + TextFromUtf8(folder));

@@ -2,6 +2,7 @@
 // Each hands over and returns at once; what is missing is told in a box.
 #pragma once
 
+#include "core/frame/help_pages.h"
 #include "core/program.h"
 
 namespace kelvora {
@@ -18,8 +19,9 @@ void OpenFoodServerHomePage(Program& program);
 // that folder. A failure shows "#F4-1".
 void RunDiagnose(Program& program);
 
-// The contents page of the help in the language of the texts; missing pages are told with their
-// folder. A failure shows "#F4-2".
-void OpenHelp(Program& program);
+// A page of the help (help_pages.h), the first one without a name, in the language of the texts:
+// Dutch for Dutch, English for any other. A missing page is told with its folder. A failure shows
+// "#F4-2".
+void OpenHelp(Program& program, std::string_view page = kFirstHelpPage);
 
 }  // namespace kelvora

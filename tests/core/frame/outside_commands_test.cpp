@@ -94,6 +94,19 @@ TEST_F(OutsideCommands, TheHelpOpensInTheLanguageOfTheTexts) {
                                                           Folder() + "help/nl/index.html"}));
 }
 
+TEST_F(OutsideCommands, APageOfTheHelpOpensByItsName) {
+  Put("help/en/years.html", "");
+  OpenHelp(test.program, "years");
+  EXPECT_EQ(test.opener.opened, (std::vector<std::string>{Folder() + "help/en/years.html"}));
+}
+
+TEST_F(OutsideCommands, AMissingPageIsToldThoughOthersAreThere) {
+  Put("help/en/index.html", "");
+  OpenHelp(test.program, "years");
+  EXPECT_TRUE(test.opener.opened.empty());
+  EXPECT_TRUE(OnlyBox().ends_with("\n" + Folder() + "help/en/"));
+}
+
 TEST_F(OutsideCommands, MissingHelpPagesAreToldWithTheirFolder) {
   Put("help/nl/index.html", "");
   OpenHelp(test.program);
