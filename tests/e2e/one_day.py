@@ -59,12 +59,12 @@ def row(index):
     return FIRST_ROW[0], FIRST_ROW[1] + index * ROW_HEIGHT
 
 
-def make_user_and_day(desktop, title="Start a new day"):
+def make_user_and_day(desktop, title="Start a new day", weekday="Friday"):
     desktop.keys("ctrl+n")
-    fill_in_day(desktop, title)
+    fill_in_day(desktop, title, weekday)
 
 
-def fill_in_day(desktop, title):
+def fill_in_day(desktop, title, weekday="Friday"):
     """Fills in the dialog for a new day, which is opening, and starts the day."""
     desktop.window(f"^{title}$")
     desktop.settle()
@@ -81,7 +81,7 @@ def fill_in_day(desktop, title):
         desktop.type(part)
         desktop.keys("Tab")
     desktop.keys("ctrl+a")
-    desktop.type("Friday")
+    desktop.type(weekday)
     desktop.keys("Tab")
     desktop.type("80.5")
     desktop.keys("Return")
