@@ -1,7 +1,7 @@
 """Installs a build into a folder of its own and looks at it as a desktop would.
 
 Arguments: the build folder and the folder of the starter foods' tables. The list of files stands
-here by hand; only the databases follow the tables, one file for each.
+here by hand; only the databases follow the tables, one file for each, and the help its pages.
 """
 import gzip
 import os
@@ -46,10 +46,20 @@ class Installation(unittest.TestCase):
         return {f"usr/lib/kelvora-food/Databases/{table.stem}.dat"
                 for table in TABLES.glob("*.tsv")}
 
+    def help_files(self):
+        """The pages that are written and that of the search, the style, the script, the pictures."""
+        prose = SOURCE / "help"
+        names = {"style.css", "search.js"}
+        names |= {str(picture.relative_to(prose)) for picture in prose.glob("pictures/*/*.png")}
+        for language in ("en", "nl"):
+            names |= {f"{language}/{page.name}" for page in (prose / "en").glob("*.html")}
+            names.add(f"{language}/search.html")
+        return {f"usr/lib/kelvora-food/help/{name}" for name in names}
+
     def test_holds_the_listed_files_and_no_other(self):
         installed = {str(path.relative_to(self.root)) for path in self.root.rglob("*")
                      if path.is_symlink() or not path.is_dir()}
-        self.assertEqual(installed, FILES | self.databases())
+        self.assertEqual(installed, FILES | self.databases() | self.help_files())
 
     def test_no_database_is_empty(self):
         self.assertTrue(self.databases())
