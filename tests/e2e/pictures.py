@@ -94,6 +94,10 @@ def choose_language(desktop, program, language):
     process = desktop.start(program, first_run=True)
     desktop.keys("ctrl+q")
     process.wait(timeout=20)
+    name_language(desktop, language)
+
+
+def name_language(desktop, language):
     settings = Path(desktop.home.name, ".config", "Brelux", "kvfset.dat")
     data = settings.read_bytes()
     (length,) = struct.unpack_from("<H", data, 4)
