@@ -40,6 +40,14 @@ const std::vector<BoxHelp> kBoxes = {
      {"The favourites hold one food more, and are saved.",
       "De favorieten bevatten een voedingsmiddel meer en zijn opgeslagen."},
      {"Nothing.", "Niets."}},
+    {{OwnText::favourite_unknown},
+     {"A favourite is a copy of a line of the standard list or of your own. This food stands in "
+      "the "
+      "day alone: it was deleted, renamed or combined.",
+      "Een favoriet is een kopie van een regel van de standaardlijst of van je eigen lijst. Dit "
+      "voedingsmiddel staat alleen in de dag: het is verwijderd, hernoemd of samengesteld."},
+     {"Enter it as a new food of your own list, and make that a favourite.",
+      "Voer het in als nieuw voedingsmiddel van je eigen lijst en maak dat favoriet."}},
     {{new_food::kValuesMissing, new_food::kEnterValues},
      {"A box that is needed for a new food is empty or holds no number.",
       "Een vak dat voor een nieuw voedingsmiddel nodig is, is leeg of bevat geen getal."},
