@@ -21,13 +21,15 @@ bool StandsIn(std::string_view word, std::string_view text) {
 std::optional<Match> MatchOf(const FoldedTerm& term, const FoldedFood& food) {
   if (term.words.empty()) return std::nullopt;
   if (std::ranges::find(food.names, term.text) != food.names.end()) return Match::whole_name;
-  const auto all = [&](auto holds) {
-    return std::ranges::all_of(term.words,
-                               [&](const auto& word) { return holds(word, food.text); });
-  };
-  if (all(BeginsAWord)) return Match::word_beginning;
-  if (all(StandsIn)) return Match::anywhere;
+  const bool begin = std::ranges::all_of(
+      term.words, [&](const auto& word) { return BeginsAWord(word, food.text); });
+  if (begin) return Match::word_beginning;
+  if (StandsAnywhere(term, food.text)) return Match::anywhere;
   return std::nullopt;
+}
+
+bool StandsAnywhere(const FoldedTerm& term, std::string_view text) {
+  return std::ranges::all_of(term.words, [&](const auto& word) { return StandsIn(word, text); });
 }
 
 bool StandsBefore(std::string_view name, std::string_view line, std::string_view other_name,

@@ -27,6 +27,9 @@ enum class Match { whole_name, word_beginning, anywhere };
 // How the term stands in the food; nothing if it doesn't, or if it has no word.
 [[nodiscard]] std::optional<Match> MatchOf(const FoldedTerm& term, const FoldedFood& food);
 
+// Whether the words of the term stand in the folded text, in the third of these ways at least.
+[[nodiscard]] bool StandsAnywhere(const FoldedTerm& term, std::string_view text);
+
 // What orders foods of the same match; the same for every term, so that an index can be kept in it.
 [[nodiscard]] bool StandsBefore(std::string_view name, std::string_view line,
                                 std::string_view other_name, std::string_view other_line);

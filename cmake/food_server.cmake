@@ -1,0 +1,23 @@
+# The food server as a library. It never sees Qt.
+find_package(SQLite3 3.38 REQUIRED)
+find_package(Threads REQUIRED)
+find_path(MICROHTTPD_INCLUDE_DIR microhttpd.h REQUIRED)
+find_library(MICROHTTPD_LIBRARY microhttpd REQUIRED)
+
+file(GLOB food_server_sources CONFIGURE_DEPENDS tools/food_server/*.cpp)
+list(REMOVE_ITEM food_server_sources ${CMAKE_SOURCE_DIR}/tools/food_server/main.cpp)
+list(APPEND food_server_sources ${CMAKE_SOURCE_DIR}/tools/food_table.cpp)
+
+# Makes kelvora_food_server<suffix> over kelvora_logic<suffix>.
+function(add_food_server suffix)
+  add_library(kelvora_food_server${suffix} STATIC ${food_server_sources})
+  target_include_directories(kelvora_food_server${suffix}
+                             PUBLIC ${CMAKE_SOURCE_DIR}/tools
+                             PRIVATE ${MICROHTTPD_INCLUDE_DIR})
+  target_link_libraries(kelvora_food_server${suffix}
+                        PUBLIC kelvora_logic${suffix}
+                        PRIVATE SQLite::SQLite3 ${MICROHTTPD_LIBRARY} Threads::Threads)
+  target_compile_options(kelvora_food_server${suffix} PRIVATE ${ARGN})
+  target_compile_definitions(kelvora_food_server${suffix}
+                             PRIVATE KELVORA_VERSION="${PROJECT_VERSION}")
+endfunction()
