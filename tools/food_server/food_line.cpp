@@ -23,7 +23,7 @@ bool IsControl(char byte) {
 
 std::string CleanField(std::string_view field, bool breaks_stay) {
   std::string clean;
-  for (const char byte : Trimmed(field)) {
+  for (const char byte : field) {
     if (byte == kReplyEnd) {
       clean += "1/4";
     } else if (IsControl(byte) && !(breaks_stay && (byte == '\r' || byte == '\n'))) {
@@ -32,7 +32,7 @@ std::string CleanField(std::string_view field, bool breaks_stay) {
       clean += byte;
     }
   }
-  return clean;
+  return std::string(Trimmed(clean));
 }
 
 std::size_t LongestOf(std::size_t field) {

@@ -29,6 +29,7 @@ constexpr const char* kTables = R"(
     place INTEGER);
   CREATE INDEX submission_of_address ON submission (address, time);
   CREATE INDEX submission_of_state ON submission (state, number);
+  CREATE INDEX submission_of_place ON submission (place) WHERE place IS NOT NULL;
 )";
 
 // "detail=none": which foods, not where in them. Without their contents the indexes hold no second

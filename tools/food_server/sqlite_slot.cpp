@@ -24,6 +24,7 @@ SlotWriter::SlotWriter(Connection& connection, char slot)
           connection,
           ForSlot("SELECT place, line FROM food_$ WHERE place >= ?1 ORDER BY place LIMIT 1", slot)),
       last_(connection, ForSlot("SELECT max(place) FROM food_$", slot)),
+      move_submission_(connection, "UPDATE submission SET place = ?2 WHERE place = ?1"),
       remove_food_(connection, ForSlot("DELETE FROM food_$ WHERE place = ?1", slot)),
       remove_name_(connection, ForSlot("DELETE FROM name_$ WHERE name = ?1 AND place = ?2", slot)),
       remove_words_(
@@ -53,12 +54,8 @@ void SlotWriter::Add(std::int64_t place, std::string_view line, const FoldedFood
 }
 
 void SlotWriter::Remove(std::int64_t place) {
-  std::string line;
-  {
-    auto rows = line_of_.Query(place);
-    if (!rows.Next()) return;
-    line = rows.Bytes(0);
-  }
+  const std::string line = LineOf(place);
+  if (line.empty()) return;
   const FoldedFood food = FoldFood(line);
   remove_food_.Run(place);
   for (const std::string& name : food.names) remove_name_.Run(name, place);
@@ -66,9 +63,9 @@ void SlotWriter::Remove(std::int64_t place) {
   remove_grams_.Run(place, food.text);
 }
 
-bool SlotWriter::IsTaken(std::int64_t place) {
+std::string SlotWriter::LineOf(std::int64_t place) {
   auto rows = line_of_.Query(place);
-  return rows.Next();
+  return rows.Next() ? std::string(rows.Bytes(0)) : std::string();
 }
 
 std::int64_t SlotWriter::LastPlace() {
@@ -94,9 +91,20 @@ std::int64_t SlotWriter::PlaceFor(std::string_view line, const FoldedFood& food)
       end = middle;
     }
   }
-  std::int64_t place = before + (behind - before) / 2;
-  while (place <= before || IsTaken(place)) ++place;
-  return place;
+  if (behind - before > 1) return before + (behind - before) / 2;
+  GiveWay(behind);
+  return behind;
+}
+
+void SlotWriter::GiveWay(std::int64_t place) {
+  std::int64_t free = place;
+  while (!LineOf(free).empty()) ++free;
+  for (; free > place; --free) {
+    const std::string line = LineOf(free - 1);
+    Remove(free - 1);
+    Add(free, line, FoldFood(line));
+    move_submission_.Run(free - 1, free);
+  }
 }
 
 bool SlotWriter::Merge() {
