@@ -8,7 +8,7 @@ namespace kelvora::server {
 namespace {
 
 constexpr std::chrono::milliseconds kBetweenLooks(1000);
-constexpr std::chrono::seconds kAfterFailure(10);
+constexpr std::chrono::seconds kAfterFailure(10);  // of the same files
 
 }  // namespace
 
@@ -41,7 +41,6 @@ void FoodWatch::Run(const std::stop_token& stop) {
       Look(stop);
     } catch (const std::exception& failure) {
       Complain(failure.what());
-      not_before_ = std::chrono::steady_clock::now() + kAfterFailure;
     }
     Wait(stop);
   }
@@ -60,12 +59,15 @@ void FoodWatch::Look(const std::stop_token& stop) {
   }
   if (wished) {
     read_.clear();
-    not_before_ = {};
+    tried_.clear();
   }
   if (files == read_) last_problem_.clear();
   // A file that is being written is read when it is whole; at a wish it has had its time.
   if ((!settled && !wished) || files == read_) return;
-  if (std::chrono::steady_clock::now() < not_before_) return;
+  const auto now = std::chrono::steady_clock::now();
+  if (files == tried_ && now - tried_at_ < kAfterFailure) return;
+  tried_ = files;
+  tried_at_ = now;
   Read(files, stop);
   read_ = std::move(files);
   last_problem_.clear();

@@ -40,9 +40,9 @@ class FoodWatch {
   std::mutex mutex_;
   std::condition_variable_any wish_;
   bool wished_ = true;  // at the start
-  std::vector<SourceFile> seen_, read_;
+  std::vector<SourceFile> seen_, read_, tried_;
+  std::chrono::steady_clock::time_point tried_at_;
   std::string last_problem_;
-  std::chrono::steady_clock::time_point not_before_;  // after a failure
   std::jthread thread_;                               // last: it uses all the others
 };
 
