@@ -228,6 +228,28 @@ def delimited_tables():
     }
 
 
+def food_requests():
+    """Terms, queries of submissions, lines and configurations of the food server."""
+    query = ("naam=%s&kj=1500&kcal=357&vvet=2,50&ovet=5.50&kdr=60.00&ew=10.00&nat=0.200"
+             "&opmerking=Kelvora FOOD&gepost=anna")
+    return {
+        "word": b"rice", "two_words": b"ham egg", "short": b"ri", "percent": b"0%", "encoded": b"%20",
+        "accents": "Crème Brûlée".encode("cp1252"), "utf_8": "crème".encode(),
+        "combining": "cre\u0300me".encode(), "extended": "łosoś ĳs".encode(), "other_script": "рис".encode(),
+        "quoted": b'"rice" OR NEAR(ham egg) * ^', "sql": b"'; DROP TABLE food_a; --",
+        "separators": b"\xbc\xbd\xbe", "many_words": b"a b c d e f g h i j k l m n o p",
+        "long": b"r" * 300, "all_bytes": ALL_BYTES,
+        "submission": (query % "Muesli").encode(), "cut_name": (query % "M&M's").encode(),
+        "twice": (query % "a&kj=1").encode(), "comma": (query % "x").replace(".", ",").encode(),
+        "bare": b"naam=&kj=&kcal=&vvet=&ovet=&kdr=&ew=&nat=&gepost=",
+        "apple": APPLE, "bread": BREAD, "cafe": CAFE, "short_line": line(b"Rice"),
+        "quarter": line(b"\xbc melon", b"\x01"), "huge": HUGE,
+        "amount": b"12,5", "no_amount": b"1.2.3", "point": b".5",
+        "configuration": b"# food\nport = 80\nfoods = /a\nfoods = /b\nlog = debug\n",
+        "wrong_key": b"prot = 80\n", "wrong_value": b"port = 99999\n",
+    }
+
+
 def main():
     records = broken(record(b"one")) | {
         "six": record(*[b"%d" % i * i for i in range(6)]),
@@ -249,6 +271,7 @@ def main():
         "text_search": texts_to_search(),
         "reply": replies(),
         "delimited": delimited_tables(),
+        "food_request": food_requests(),
     }
     for target, seeds in targets.items():
         folder = CORPUS / target
