@@ -43,7 +43,7 @@ class FoodWatch {
   std::vector<SourceFile> seen_, read_, tried_;
   std::chrono::steady_clock::time_point tried_at_;
   std::string last_problem_;
-  std::jthread thread_;                               // last: it uses all the others
+  std::jthread thread_;  // last: it uses all the others
 };
 
 }  // namespace kelvora::server

@@ -12,7 +12,7 @@
 namespace kelvora::server {
 namespace {
 
-constexpr std::size_t kFoodsAtOnce = 1000;
+constexpr std::size_t kFoodsAtOnce = 4000;
 // Between two pieces of work others that write get their turn.
 constexpr std::chrono::milliseconds kPause(5);
 

@@ -38,7 +38,7 @@ constexpr std::string_view kTablesOfSlot = R"(
   CREATE TABLE food_$ (place INTEGER PRIMARY KEY, line BLOB NOT NULL, words TEXT NOT NULL);
   CREATE TABLE name_$ (name TEXT, place INTEGER, PRIMARY KEY (name, place)) WITHOUT ROWID;
   CREATE VIRTUAL TABLE word_$ USING fts5 (words, content='', columnsize=0, detail=none,
-    prefix='1 2 3 4 5 6 7 8', tokenize="ascii tokenchars '%'");
+    prefix='1 2 3 4 5 6 7 8 9 10 11 12', tokenize="ascii tokenchars '%'");
   CREATE VIRTUAL TABLE gram_$ USING fts5 (words, content='', columnsize=0, detail=none,
     tokenize='trigram');
 )";

@@ -7,7 +7,8 @@
 //
 //   food_a   place, line, words (folded text of all names)
 //   name_a   each folded name of a food, with its place
-//   word_a   FTS5: the words, and prefixes of them up to kLongestPrefix letters
+//   word_a   FTS5: the words, and their beginnings of up to twelve letters; longer ones are put
+//            together from all words that begin so
 //   gram_a   FTS5: every three letters that follow each other
 //
 //   submission   all that was submitted; an accepted one has its place in the current slot

@@ -44,6 +44,13 @@ void SlotWriter::Clear() {
                           "INSERT INTO gram_$ (gram_$) VALUES ('delete-all');",
                           slot_)
                       .c_str());
+  // Fewer and larger pieces while it is filled, which takes a third of the time.
+  connection_.Run(ForSlot("INSERT INTO word_$ (word_$, rank) VALUES ('hashsize', 16000000);"
+                          "INSERT INTO gram_$ (gram_$, rank) VALUES ('hashsize', 16000000);"
+                          "INSERT INTO word_$ (word_$, rank) VALUES ('automerge', 16);"
+                          "INSERT INTO gram_$ (gram_$, rank) VALUES ('automerge', 16);",
+                          slot_)
+                      .c_str());
 }
 
 void SlotWriter::Add(std::int64_t place, std::string_view line, const FoldedFood& food) {

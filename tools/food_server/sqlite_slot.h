@@ -10,6 +10,7 @@ class SlotWriter {
  public:
   SlotWriter(Connection& connection, char slot);
 
+  // Empties it, to be filled.
   void Clear();
   void Add(std::int64_t place, std::string_view line, const FoldedFood& food);
   void Remove(std::int64_t place);
