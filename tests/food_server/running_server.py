@@ -139,5 +139,6 @@ class FoodServer:
     def __enter__(self):
         return self
 
-    def __exit__(self, *_):
-        self.end()
+    def __exit__(self, failure, *_):
+        status = self.end()
+        assert failure or status == 0, f"the server ended with {status}: {self.log[-5:]}"

@@ -145,8 +145,8 @@ HttpServer::Running::Running(const Configuration& configuration, Service& servic
 }
 
 HttpServer::Running::~Running() {
+  // From here on the socket is ours; a thread of the library may be just about to look at it.
   const MHD_socket listener = MHD_quiesce_daemon(daemon_);
-  if (listener != MHD_INVALID_SOCKET) close(listener);
   const auto until = Clock::now() + kLongestEnding;
   while (connections_.CountBusy() > 0 && Clock::now() < until) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
@@ -155,6 +155,7 @@ HttpServer::Running::~Running() {
   queue_.reset();
   late_ = {};
   MHD_stop_daemon(daemon_);
+  if (listener != MHD_INVALID_SOCKET) close(listener);
 }
 
 void HttpServer::Running::EndWhatIsLate(const std::stop_token& stop) {
