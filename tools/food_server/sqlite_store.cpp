@@ -11,6 +11,9 @@ namespace {
 // Foods of an index that are looked at before a search ends with what it has.
 constexpr std::int64_t kMostCandidates = 4000;
 
+// Of one word; what stands behind them is looked for in the foods that are found.
+constexpr std::size_t kMostGrams = 16;
+
 // Each word of the term as the beginning of a word. Folded words are letters, digits and "%" only,
 // so that nothing of a term can be taken for a sign of the query's language.
 std::string BeginningsQuery(const FoldedTerm& term) {
@@ -22,18 +25,15 @@ std::string BeginningsQuery(const FoldedTerm& term) {
   return query;
 }
 
-// Enough of the three letters in each word that few foods hold them without the word.
+// Every three letters of each word that follow each other: a food that holds them all holds the
+// word nearly always, and the rarest of them makes the search short.
 std::string GramsQuery(const FoldedTerm& term) {
   std::string query;
-  const auto add = [&query](std::string_view gram) {
-    if (!query.empty()) query += " AND ";
-    query.append("\"").append(gram).append("\"");
-  };
   for (const std::string_view word : term.words) {
-    if (word.size() < kShortestAnywhere) continue;
-    const std::size_t last = word.size() - kShortestAnywhere;
-    for (std::size_t at = 0; at < last; at += kShortestAnywhere) add(word.substr(at, 3));
-    add(word.substr(last));
+    for (std::size_t at = 0; at + kShortestAnywhere <= word.size() && at < kMostGrams; ++at) {
+      if (!query.empty()) query += " AND ";
+      query.append("\"").append(word.substr(at, kShortestAnywhere)).append("\"");
+    }
   }
   return query;
 }
