@@ -1,5 +1,6 @@
 # The food server: a library of all but its main file, and the program over it. Neither sees Qt.
 find_package(SQLite3 3.38 REQUIRED)
+find_package(PostgreSQL 14 REQUIRED)
 find_package(Threads REQUIRED)
 find_path(MICROHTTPD_INCLUDE_DIR microhttpd.h REQUIRED)
 find_library(MICROHTTPD_LIBRARY microhttpd REQUIRED)
@@ -16,7 +17,7 @@ function(add_food_server suffix)
                              PRIVATE ${MICROHTTPD_INCLUDE_DIR})
   target_link_libraries(kelvora_food_server${suffix}
                         PUBLIC kelvora_logic${suffix}
-                        PRIVATE SQLite::SQLite3 ${MICROHTTPD_LIBRARY} Threads::Threads)
+                        PRIVATE SQLite::SQLite3 PostgreSQL::PostgreSQL ${MICROHTTPD_LIBRARY} Threads::Threads)
   target_compile_options(kelvora_food_server${suffix} PRIVATE ${ARGN})
 
   add_executable(kelvora-food-server${suffix} ${CMAKE_SOURCE_DIR}/tools/food_server/main.cpp)
