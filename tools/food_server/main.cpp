@@ -11,6 +11,7 @@
 #include "food_server/http_server.h"
 #include "food_server/listening.h"
 #include "food_server/log.h"
+#include "food_server/migrate.h"
 #include "food_server/review.h"
 #include "storage/disk.h"
 
@@ -29,7 +30,7 @@ std::string Help() {
          "Commands:\n"
          "  serve                          answer requests until SIGTERM (default);\n"
          "                                 SIGHUP reads the foods again\n" +
-         std::string(ReviewHelp()) +
+         std::string(ReviewHelp()) + std::string(MigrateHelp()) +
          "\nOptions:\n"
          "  --config FILE                  default: " +
          kDefaultConfiguration +
@@ -100,12 +101,15 @@ int Serve(const Configuration& configuration) {
   return 0;
 }
 
-int ReviewFor(const Configuration& configuration, std::span<const std::string> arguments) {
-  const auto store = OpenStore(configuration.store, OptionsOf(configuration));
-  const CommandResult result = Review(*store, arguments);
+int Say(const CommandResult& result) {
   std::fputs(result.errors.c_str(), stderr);
   std::fputs(result.out.c_str(), stdout);
   return std::fflush(stdout) == 0 ? result.status : kFailed;
+}
+
+int ReviewFor(const Configuration& configuration, std::span<const std::string> arguments) {
+  const auto store = OpenStore(configuration.store, OptionsOf(configuration));
+  return Say(Review(*store, arguments));
 }
 
 int Run(std::span<char* const> given) {
@@ -114,6 +118,7 @@ int Run(std::span<char* const> given) {
   if (arguments.version) return std::puts("kelvora-food-server " KELVORA_VERSION) < 0 ? kFailed : 0;
   const std::string command = arguments.command.empty() ? "serve" : arguments.command.front();
   const auto rest = std::span(arguments.command).subspan(arguments.command.empty() ? 0 : 1);
+  if (command == "migrate") return Say(RunMigrate(rest));
   if (command != "serve" && command != "review") {
     throw ConfigurationError("there is no command " + command + "; see --help");
   }
