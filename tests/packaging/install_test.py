@@ -39,7 +39,7 @@ class Installation(unittest.TestCase):
         folder = tempfile.TemporaryDirectory(prefix="kelvora-install-")
         cls.addClassCleanup(folder.cleanup)
         cls.root = Path(folder.name)
-        subprocess.run(["cmake", "--install", BUILD, "--prefix", "/usr"], check=True,
+        subprocess.run(["cmake", "--install", BUILD, "--component", "desktop", "--prefix", "/usr"], check=True,
                        env=os.environ | {"DESTDIR": folder.name}, stdout=subprocess.DEVNULL)
 
     def databases(self):

@@ -1,4 +1,4 @@
-"""Makes a Debian package of a build and shows it to Debian's own checker.
+"""Makes the Debian packages of a build and shows them to Debian's own checker.
 
 The argument is the build folder. What the checker remarks below a warning is left to it.
 """
@@ -29,10 +29,32 @@ class Package(unittest.TestCase):
         subprocess.run(["cpack", "--config", BUILD / "CPackConfig.cmake", "-B", cls.folder], check=True,
                        cwd=BUILD, stdout=subprocess.DEVNULL)
         os.umask(previous)
-        (cls.package,) = cls.folder.glob("*.deb")
+        (cls.package,) = cls.folder.glob("kelvora-food_*.deb")
+        (cls.server,) = cls.folder.glob("kelvora-food-server_*.deb")
 
     def test_has_no_error_and_no_warning(self):
         self.assertEqual(lint(self.package), [])
+
+    def test_that_of_the_food_server_has_no_error_and_no_warning(self):
+        self.assertEqual(lint(self.server), [])
+
+    def test_neither_package_needs_the_other_or_has_a_file_of_it(self):
+        def field(package, name):
+            return subprocess.run(["dpkg-deb", "--field", package, name], check=True, text=True,
+                                  capture_output=True).stdout
+
+        def files(package):
+            lines = subprocess.run(["dpkg-deb", "--contents", package], check=True, text=True,
+                                   capture_output=True).stdout.splitlines()
+            return {line.split(maxsplit=5)[5] for line in lines if not line.endswith("/")}
+
+        for package in (self.package, self.server):
+            for name in ("Pre-Depends", "Depends", "Recommends"):
+                self.assertNotIn("kelvora", field(package, name))
+        self.assertNotIn("qt", field(self.server, "Depends").lower())
+        self.assertIn("./usr/bin/kelvora-food-server", files(self.server))
+        self.assertEqual(files(self.package) & files(self.server), set())
+        self.assertEqual([name for name in files(self.package) if "server" in name], [])
 
     def test_the_checker_sees_what_is_missing(self):
         """The same package without its manual page and its list of changes."""
