@@ -16,8 +16,8 @@ from one_day import MORNING, end, make_user_and_day, row
 IMPORT, MAIN = "^Import foods$", "^Kelvora FOOD$"
 # Places on a screen of 1024 x 768.
 SEARCH = (220, 257)
-FILE, IMPORT_BUTTON, STOP, CLOSE = (183, 95), (651, 611), (742, 611), (831, 611)
-IMPORTED_PAGE, FIRST_SET, REMOVE = (309, 177), (300, 230), (810, 568)
+FILE, IMPORT_BUTTON, STOP, CLOSE = (143, 75), (691, 631), (782, 631), (871, 631)
+IMPORTED_PAGE, FIRST_SET, REMOVE = (269, 157), (260, 210), (850, 588)
 SET = ["Ciqual.set.txt", "Ciqual: produits laitiers.dat"]
 HEADER = ("alim_grp_nom_fr;alim_nom_fr;Energie, Règlement UE N° 1169/2011 (kJ/100 g);"
           "Energie, Règlement UE N° 1169/2011 (kcal/100 g);"

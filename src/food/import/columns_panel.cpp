@@ -17,7 +17,7 @@ namespace {
 constexpr double kMilligrams = 0.001;
 constexpr std::size_t kMostColumns = 300;  // that can be chosen from
 constexpr int kColumnWidth = 110;
-constexpr int kNameLength = 20;  // of a column, in letters, that has its room
+constexpr int kNameLength = 13;  // of a column, in letters, that has its room
 constexpr int kFieldColumns = 2;
 
 struct OfferedField {
@@ -97,11 +97,11 @@ ColumnsPanel::ColumnsPanel(Program& program, QWidget* parent) : QWidget(parent),
   name->addWidget(lbl_name_);
   name->addWidget(txt_name_, 1);
   auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(preview_, 1);
+  layout->addWidget(preview_, 2);
   layout->addLayout(name);
   layout->addWidget(chk_header_);
   layout->addWidget(chk_portion_);
-  layout->addWidget(area, 1);
+  layout->addWidget(area, 3);
 
   connect(txt_name_, &QLineEdit::textChanged, this, [this] {
     if (!showing_) emit Changed();

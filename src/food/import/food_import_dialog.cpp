@@ -13,8 +13,8 @@
 namespace kelvora {
 namespace {
 
-constexpr int kInitialWidth = 760;
-constexpr int kInitialHeight = 560;
+constexpr int kInitialWidth = 840;
+constexpr int kInitialHeight = 600;
 constexpr int kSpacing = 10;
 constexpr int kThousandths = 1000;
 constexpr int kPercentStep = 10;
