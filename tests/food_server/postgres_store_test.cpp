@@ -1,6 +1,7 @@
 // What only a store over a network has: a database that goes away, and several servers before it.
 #include "food_server/postgres_store.h"
 
+#include <atomic>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -106,6 +107,24 @@ TEST_F(PostgresStoreTest, LeavesNoConnectionBehindInATransaction) {
       "SELECT count(*) FROM pg_stat_activity WHERE state LIKE 'idle in"
       " transaction%'"};
   EXPECT_EQ(connection.Run(kOpen, {}, After(10000)).Number(0, 0), 0);
+}
+
+TEST_F(PostgresStoreTest, HoldsNoSearchUpWhileSomebodyReadsTheTablesForLong) {
+  PostgresConnection reader(name_);
+  reader.Command("BEGIN; SELECT FROM kelvora_food.foods_a, kelvora_food.foods_b", After(10000));
+  const auto patient = OpenStore(name_, {.busy_milliseconds = 20000, .search_milliseconds = 4000});
+  const std::vector<std::string_view> lines{kBread};
+  std::atomic<bool> is_over = false;
+  std::thread replacing([&] {
+    EXPECT_THROW(patient->ReplaceFoods(lines, "new", kOn), StoreFailure);
+    is_over = true;
+  });
+  do {
+    EXPECT_NO_THROW(EXPECT_EQ(patient->Search(FoldTerm("bread"), 10), std::vector{kBread}));
+  } while (!is_over);
+  replacing.join();
+  reader.Command("COMMIT", After(10000));
+  EXPECT_TRUE(patient->ReplaceFoods(lines, "new", kOn));
 }
 
 TEST_F(PostgresStoreTest, AStatementThatTakesTooLongEndsAlone) {

@@ -10,6 +10,7 @@ namespace kelvora::server {
 namespace {
 
 constexpr std::size_t kChunk = 1 << 18;
+constexpr int kBrief = 300;  // milliseconds that searches may be held up
 
 constexpr PostgresStatement kState{"state", "SELECT state, set FROM store"};
 
@@ -56,9 +57,11 @@ bool PostgresStore::Fill(PostgresConnection& connection, std::span<const std::st
   const auto ordered = InOrder(lines, beginnings, go_on);
   if (!ordered) return false;
   const char set = connection.Run(kState, {}, Soon()).Bytes(0, 1) == "a" ? 'b' : 'a';
-  // A transaction of its own: searches wait for what it holds.
-  connection.Command("BEGIN; SET LOCAL statement_timeout = 0; " + EmptyFoodTables(set) + "COMMIT",
-                     After(options_.busy_milliseconds + kSilence));
+  // A transaction of its own, since searches wait for what it holds, and for what it waits for: who
+  // reads for long, as one who copies the database does, makes it fail rather than them.
+  connection.Command("BEGIN; SET LOCAL statement_timeout = 0; SET LOCAL lock_timeout = " +
+                         std::to_string(kBrief) + ";" + EmptyFoodTables(set) + "COMMIT",
+                     After(kSilence));
   connection.Command(
       "BEGIN; SET LOCAL statement_timeout = 0; SET LOCAL maintenance_work_mem = '128MB'", Soon());
   const auto give_up = [&connection] {
