@@ -4,14 +4,17 @@
 A file is of the logic, of platform/qt, or a window (its name ends in _window, _dialog or _panel).
 Logic and platform interfaces include no Qt and nothing of the two other layers; platform/qt
 includes no window; and between the folders arrows go one way, as RANK tells. Prints every arrow
-that goes wrong and ends with status 1 if there is one.
+that goes wrong, and every type whose name two headers give away: the linker would take the inline
+functions of either for both. Ends with status 1 if there is one.
 """
 import re
 import sys
+from collections import defaultdict
 from pathlib import Path
 
 SRC = Path(__file__).resolve().parent.parent / "src"
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
+TYPE = re.compile(r"^(?:struct|class|union|enum class) (\w+)[^;{]*\{", re.MULTILINE)
 WINDOW = re.compile(r"_(window|dialog|panel)\.(h|cpp)$")
 
 # A file may include files of its own rank or a lower one. What holds nothing but data lies lowest:
@@ -75,14 +78,23 @@ def wrong_arrows(path: str, text: str) -> list[str]:
     return found
 
 
+def names_given_twice(texts: dict[str, str]) -> list[str]:
+    """Of the headers among these files."""
+    given = defaultdict(list)
+    for path, text in texts.items():
+        for name in TYPE.findall(text) if path.endswith(".h") else ():
+            given[name].append(path)
+    return [f"{' and '.join(paths)}: two types are called {name}"
+            for name, paths in given.items() if len(paths) > 1]
+
+
 def main() -> int:
-    wrong, files = [], 0
-    for file in sorted(SRC.rglob("*")):
-        if file.suffix in {".h", ".cpp"}:
-            files += 1
-            wrong += wrong_arrows(file.relative_to(SRC).as_posix(), file.read_text(encoding="utf-8"))
-    print("\n".join(wrong + [f"{files} files, {len(wrong)} wrong arrows"]))
-    return 1 if wrong or not files else 0
+    texts = {file.relative_to(SRC).as_posix(): file.read_text(encoding="utf-8")
+             for file in sorted(SRC.rglob("*")) if file.suffix in {".h", ".cpp"}}
+    wrong = [line for path, text in texts.items() for line in wrong_arrows(path, text)]
+    wrong += names_given_twice(texts)
+    print("\n".join(wrong + [f"{len(texts)} files, {len(wrong)} faults"]))
+    return 1 if wrong or not texts else 0
 
 
 if __name__ == "__main__":

@@ -5,7 +5,7 @@ import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
-from check_layers import wrong_arrows  # noqa: E402
+from check_layers import names_given_twice, wrong_arrows  # noqa: E402
 
 
 class Layers(unittest.TestCase):
@@ -48,6 +48,12 @@ class Layers(unittest.TestCase):
     def test_a_room_may_not_know_the_window_of_another(self):
         self.assertTrue(self.wrong("days/browser_dialog.cpp", '"food/food_lists_window.h"'))
         self.assertFalse(self.wrong("days/browser_dialog.cpp", '"days/browser_dialog.h"'))
+
+    def test_two_headers_may_not_give_one_name_to_types(self):
+        first = {"output/eaten_foods.h": "namespace kelvora {\nstruct Eaten {\n  int x;\n};\n"}
+        self.assertTrue(names_given_twice(first | {"food/often.h": "class Eaten : public Food {\n"}))
+        self.assertFalse(names_given_twice(first | {"food/often.h": "struct Eaten;\nclass Often {\n"}))
+        self.assertFalse(names_given_twice(first | {"food/often.cpp": "struct Eaten {\n"}))
 
 
 if __name__ == "__main__":
