@@ -6,8 +6,9 @@
 
 Starts the server on each store with each table of foods (see foods.py) and drives it with wrk over the
 loopback, two threads and 64 connections: as fast as it answers, and at a rate; with --steps with 1 to
-512 connections as well. Nothing is kept between two searches. Prints tables in Markdown. wrk and the server, and PostgreSQL where it is
-asked, share the machine. Everything lies in a temporary folder and is gone with it.
+512 connections as well. Nothing is kept between two searches. Prints tables in Markdown. wrk and the
+server, and PostgreSQL where it is asked, share the machine. Everything lies in a temporary folder and
+is gone with it.
 """
 import argparse
 import re
