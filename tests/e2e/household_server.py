@@ -11,11 +11,10 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "food_server"))
 
-from day_file_reader import LINE_END, pieces, read_day_file
 from desktop import Desktop
 from internet import FIRST_FOUND, INTERNET_LIST, TERM, expect_box
 from one_day import MORNING, end, make_user_and_day
-from own_food import ERROR, NEW_FOOD, PACKAGE
+from own_food import ERROR, NEW_FOOD, enter_new_food, saved_morning
 from running_server import FoodServer
 from with_servers import ProgramWithServers
 
@@ -39,29 +38,15 @@ def search(desktop, server, term, searches):
 def drag_first(desktop):
     desktop.click(FIRST_FOUND)
     desktop.drag(FIRST_FOUND, MORNING)
-    desktop.keys("ctrl+s")
 
 
-def morning(desktop):
-    (day,) = Path(desktop.home.name, "Documents", "Kelvora FOOD", "My Users", "Anna",
-                  "Files").glob("*.kvf")
-    return [line.decode("cp1252") for line in pieces(read_day_file(day)[3], LINE_END)]
+def expect_morning(desktop, foods):
+    morning = saved_morning(desktop)
+    assert morning == foods, morning
 
 
 def offer(desktop, server):
-    desktop.keys("alt+o", "Down", "Return")
-    desktop.window(NEW_FOOD)
-    desktop.settle()
-    desktop.keys("Tab", "Tab")  # past both weights: the values are for 100 grams
-    for place, value in enumerate(PACKAGE):
-        desktop.type(value)
-        desktop.keys("Tab")
-        if place == 1:
-            desktop.keys("Tab")  # past the link of the two energies
-    for text in ("Mueslimix", "1 bowl", "40"):
-        desktop.type(text)
-        desktop.keys("Tab")
-    desktop.keys("Return")
+    enter_new_food(desktop, "Mueslimix")
     desktop.wait_for("the submission", lambda: server.review("list"))
     expect_box(desktop)
     assert not desktop.shows(ERROR), "an error for a food that was taken"
@@ -85,14 +70,14 @@ def main():
             desktop.click(INTERNET_LIST)
             search(desktop, server, "VLAAI", 1)
             drag_first(desktop)
-            assert morning(desktop) == [PIE], morning(desktop)
+            expect_morning(desktop, [PIE])
             offer(desktop, server)
             number, _, _, _, sender, name, *_ = server.review("list").rstrip("\n").split("\t")
             assert (sender, name) == ("anna", "Mueslimix"), (sender, name)
             server.review("accept", number)
             search(desktop, server, "mueslimix", 2)
             drag_first(desktop)
-            assert morning(desktop) == [PIE, SUBMITTED], morning(desktop)
+            expect_morning(desktop, [PIE, SUBMITTED])
             end(desktop, process)
     print("the food server, as the desktop program asks it: as it must be")
 

@@ -19,7 +19,7 @@ from day_file_reader import LINE_END, pieces, read_day_file
 from desktop import Desktop
 from food_server import Server
 from one_day import MORNING, end, make_user_and_day
-from own_food import DETAILS, EDIT, NEW_FOOD, PACKAGE, boxes
+from own_food import DETAILS, EDIT, NEW_FOOD, boxes, enter_new_food
 from with_servers import ProgramWithServers
 
 INTERNET_LIST, TERM, FIRST_FOUND = (320, 150), (140, 226), (80, 302)
@@ -102,19 +102,7 @@ def keep(desktop, user):
 
 
 def offer(desktop, server, user):
-    desktop.keys("alt+o", "Down", "Return")
-    desktop.window(NEW_FOOD)
-    desktop.settle()
-    desktop.keys("Tab", "Tab")  # past both weights: the values are for 100 grams
-    for place, value in enumerate(PACKAGE):
-        desktop.type(value)
-        desktop.keys("Tab")
-        if place == 1:
-            desktop.keys("Tab")  # past the link of the two energies
-    for text in ("Muesli", "1 bowl", "40"):
-        desktop.type(text)
-        desktop.keys("Tab")
-    desktop.keys("Return")
+    enter_new_food(desktop, "Muesli")
     # Per 100 grams as on the package, whatever the portion weighs.
     expect_requests(desktop, server,
                     "/whole/modules/swadd.php?naam=Muesli&kj=1500&kcal=357&vvet=2.50&ovet=5.50"

@@ -51,7 +51,8 @@ def boxes(desktop):
     return len(desktop.output("xdotool", "search", "--onlyvisible", "--name", MAIN).split()) - 1
 
 
-def make_food(desktop):
+def enter_new_food(desktop, name):
+    """Opens the dialog, copies the package, and adds a portion of 40 grams."""
     desktop.keys("alt+o", "Down", "Return")
     desktop.window(NEW_FOOD)
     desktop.settle()
@@ -61,10 +62,14 @@ def make_food(desktop):
         desktop.keys("Tab")
         if place == 1:
             desktop.keys("Tab")  # past the link of the two energies
-    for text in ("Muesli", "1 bowl", "40"):
+    for text in (name, "1 bowl", "40"):
         desktop.type(text)
         desktop.keys("Tab")
     desktop.keys("Return")
+
+
+def make_food(desktop):
+    enter_new_food(desktop, "Muesli")
     # No food server is known, so nothing is sent: one box tells that the food is saved.
     desktop.wait_for("the box that tells of it", lambda: boxes(desktop) == 1)
     assert not desktop.shows(ERROR), "a connection error for a server that isn't there"
