@@ -81,20 +81,15 @@ void TakeOutOfDay(Program& program, DayPart from, const TextList& products) {
   });
 }
 
-// Of an amount of a food the food itself becomes the favourite. Empty if no list has it.
-Text FavouriteKeyOf(const KV_data& store, std::string_view product) {
-  for (const Text& key : {KeyOf(product), KeyOf(NameOfWholePortion(product))}) {
-    if (key.size() > 1 && CanBeFavourite(store, key)) return key;
-  }
-  return {};
-}
-
 void AddToFavourites(Program& program, const TextList& products) {
+  const auto listed = [&program](std::string_view name) {
+    return CanBeFavourite(program.store, KeyOf(name));
+  };
   Text unknown;
   for (const std::string_view product : products) {
     if (product.empty()) continue;
-    if (const Text key = FavouriteKeyOf(program.store, product); !key.empty()) {
-      Add_To_Favorites(program, key);
+    if (const Text name = NameOfFavourite(product, listed); !name.empty()) {
+      Add_To_Favorites(program, KeyOf(name));
     } else {
       unknown.append(unknown.empty() ? "" : ", ").append(product);
     }

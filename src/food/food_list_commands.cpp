@@ -69,14 +69,11 @@ void AddKeysToFavourites(Program& program, std::string_view keys) {
   if (keys.size() <= kShortestKeys) return;
   // A text from elsewhere may hold any number of keys that no food has; those cost no search.
   const auto names = NamesOfFoods(program.store);
+  const auto listed = [&names](std::string_view name) { return names.contains(name); };
   for (const std::string_view key : PartsOf(keys)) {
     if (!IsKey(key)) continue;
-    const std::string_view name = key.substr(0, key.find(kFieldEnd));
-    if (names.contains(name)) {
-      Add_To_Favorites(program, key);
-    } else if (const Text food = NameOfWholePortion(name); names.contains(food)) {
-      Add_To_Favorites(program, KeyOf(food));
-    }
+    const Text food = NameOfFavourite(key.substr(0, key.find(kFieldEnd)), listed);
+    if (!food.empty()) Add_To_Favorites(program, KeyOf(food));
   }
 }
 

@@ -191,9 +191,11 @@ Text AmountInName(std::string_view line) {
   return scaled ? Text(scaled->told) : Text();
 }
 
-Text NameOfWholePortion(std::string_view name) {
+Text NameOfFavourite(std::string_view name,
+                     const std::function<bool(std::string_view name)>& listed) {
+  if (listed(name)) return Text(name);
   const auto scaled = SplitName(name);
-  return scaled ? Text(scaled->base) : Text();
+  return scaled && listed(scaled->base) ? Text(scaled->base) : Text();
 }
 
 }  // namespace kelvora

@@ -7,6 +7,7 @@
 // rounded twice, and the name says one amount.
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <variant>
 
@@ -25,7 +26,9 @@ namespace kelvora {
 // The amount that such a name tells: "150 g"; "" for the line of a whole portion.
 [[nodiscard]] Text AmountInName(std::string_view line);
 
-// The name of the food that a name tells an amount of, if it is one; else "".
-[[nodiscard]] Text NameOfWholePortion(std::string_view name);
+// What becomes a favourite by this name: the food itself, or the one that the name tells an amount
+// of if only that is `listed`; "" if neither is.
+[[nodiscard]] Text NameOfFavourite(std::string_view name,
+                                   const std::function<bool(std::string_view name)>& listed);
 
 }  // namespace kelvora
