@@ -64,14 +64,6 @@ std::int64_t Connection::Number(const char* sql) {
   return rows.Next() ? rows.Number(0) : 0;
 }
 
-std::int64_t Connection::LastRow() const {
-  return sqlite3_last_insert_rowid(handle_.get());
-}
-
-std::int64_t Connection::Changes() const {
-  return sqlite3_changes64(handle_.get());
-}
-
 std::int64_t Connection::TotalChanges() const {
   return sqlite3_total_changes64(handle_.get());
 }

@@ -31,8 +31,6 @@ class Connection {
   // Statements that run longer than this from now on fail; 0 lets them run.
   void LimitTime(std::chrono::milliseconds limit);
 
-  [[nodiscard]] std::int64_t LastRow() const;
-  [[nodiscard]] std::int64_t Changes() const;
   [[nodiscard]] std::int64_t TotalChanges() const;
   [[nodiscard]] bool InTransaction() const;
   [[nodiscard]] sqlite3* Handle() const { return handle_.get(); }
