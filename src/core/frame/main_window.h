@@ -84,6 +84,7 @@ class MainWindow : public QMainWindow, public CoreView {
   ToolBar* BuildToolbar(const char* name, std::span<const ButtonRow> rows);
   void AddDropDown(QToolButton* button, Command drop_down);
   void BuildFoodMenu();
+  void SetFoodMenuTexts();
   void ShowRowItems();
   void BuildStatusBar();
   void LayStatusBar();
